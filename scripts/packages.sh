@@ -1,0 +1,54 @@
+# shellcheck shell=bash
+# What a Debian 12 machine needs, one package a line with its purpose, and the routine that installs what is missing.
+# Sourced by run and test, so that both speak of the same list.
+
+packages_to_run=(
+    g++                 # the C++20 compiler
+    cmake               # configures the build
+    ninja-build         # carries it out
+    qt6-base-dev        # Qt 6: core, widgets, printing, and what runs them under X
+    qt6-svg-dev         # draws the icons
+    qt6-wayland         # what runs Qt programs on a Wayland desktop without X
+    fonts-dejavu-core   # a font on a machine that has none
+)
+
+# shellcheck disable=SC2034  # read by test
+packages_to_test=(
+    "${packages_to_run[@]}"
+    xvfb                # the X server of the end-to-end tests
+    openbox             # their window manager
+    xdotool             # their keys and mouse
+    wmctrl              # lists and activates windows
+    x11-utils           # xprop, xwininfo: looks at windows from outside
+    poppler-utils       # pdftotext: reads what was printed
+    libbenchmark-dev    # the benchmarks
+    clang               # builds the fuzz target
+    libclang-rt-14-dev  # clang's fuzzer and sanitizers
+)
+
+# Installs those of the named packages that are not there yet, as root or by way of sudo, and says so.
+install_missing_packages() {
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        fail "this needs Debian 12 (no apt-get here); on another system install by hand what scripts/packages.sh lists"
+    fi
+
+    local installed missing=() package
+    installed=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
+    for package in "$@"; do
+        grep -qx "installed $package" <<<"$installed" || missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+
+    local as_root=()
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null ||
+            fail "missing packages: ${missing[*]}; run this as root, or as a user with sudo, to install them"
+        as_root=(sudo)
+    fi
+
+    say "Installing with apt-get${as_root:+, by way of sudo}: ${missing[*]}"
+    # Lists that cannot be refreshed (a source that is down) are no reason to stop: the old ones may do.
+    "${as_root[@]}" apt-get update -qq || say "The package lists could not be refreshed; going on with those at hand"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
+        </dev/null || fail "apt-get could not install the packages"
+}

@@ -1,0 +1,25 @@
+// The household's data files: environm.ini, creditor.txt, regulars.txt, extra.txt and projects.txt in
+// State.ApplicationPath, each loaded into and written from the shared state as a whole.
+//
+// A loader tells each statement that fails and goes on with the next one. A writer deletes the old file first and ends
+// at the first failure; so a missing file is not healed by use, deliberately: only an installation supplies the first copy.
+#pragma once
+
+class InputFile;
+
+void InputCreditors();
+void InputRegulars();
+void InputPayPeriods();
+void InputProjects();
+
+void SaveCreditors();
+void SaveRegulars();
+void SavePayPeriods();
+void SaveProjects();
+
+/// The nine settings, written on the way out.
+void SaveEnvironmentSettings();
+
+/// Resets the household: creditor.txt, extra.txt, mastshop.txt, projects.txt and regulars.txt in this order are deleted
+/// and made anew with a count of nothing. Stops at the first failure.
+void InitializeFiles();

@@ -1,0 +1,77 @@
+#include "foundation/FileRoutine.h"
+
+#include "platform/Desk.h"
+#include "platform/Numbers.h"
+
+namespace {
+constexpr int MostMessages = 25;
+}
+
+Loader::Loader(const QString &title, const QString &path) : m_title(title)
+{
+    Step([&](InputFile &file) { file.Open(path); });
+}
+
+Loader::~Loader()
+{
+    if (m_errors > MostMessages)
+        ShowMessage(QStringLiteral("%1 more errors in this file are not shown one by one.").arg(m_errors - MostMessages),
+                    m_title, Icon::Stop);
+}
+
+void Loader::Step(const std::function<void(InputFile &)> &statement)
+{
+    ResumeNext([&] { statement(m_file); }, [this](const RuntimeError &error) { Tell(error, 1); });
+}
+
+void Loader::Fail(RuntimeError::Code code, qint64 times)
+{
+    Tell(RuntimeError(code), times);
+}
+
+void Loader::Tell(const RuntimeError &error, qint64 times)
+{
+    for (qint64 shown = m_errors; shown < MostMessages && shown < m_errors + times; ++shown)
+        ShowMessage(error.Text(), m_title, Icon::Stop);
+    m_errors += times;
+}
+
+void Loader::Read(qint16 &target)
+{
+    Step([&](InputFile &file) { target = file.InputInteger(); });
+}
+
+void Loader::Read(Currency &target)
+{
+    Step([&](InputFile &file) { target = file.InputCurrency(); });
+}
+
+void Loader::Read(bool &target)
+{
+    Step([&](InputFile &file) { target = file.InputBoolean(); });
+}
+
+void Loader::Read(QString &target)
+{
+    Step([&](InputFile &file) { target = file.InputString(); });
+}
+
+void Loader::ReadByText(qint16 &target)
+{
+    Step([&](InputFile &file) { target = ToInteger(file.InputString(), Dialect::File); });
+}
+
+void Loader::ReadByText(Currency &target)
+{
+    Step([&](InputFile &file) { target = ToCurrency(file.InputString(), Dialect::File); });
+}
+
+void Loader::ReadByText(float &target)
+{
+    Step([&](InputFile &file) { target = ToSingle(file.InputString(), Dialect::File); });
+}
+
+void RunWriter(const QString &title, const std::function<void()> &writer)
+{
+    ResumeNext(writer, [&](const RuntimeError &error) { ShowMessage(error.Text(), title, Icon::Stop); });
+}

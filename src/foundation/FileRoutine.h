@@ -1,0 +1,44 @@
+// What every loader and every writer of a data file has in common: how its errors are told.
+#pragma once
+
+#include "platform/DataFile.h"
+#include "platform/RuntimeError.h"
+
+#include <functional>
+
+/// One load of a data file. Each statement that fails is told, with the loader's title, and passed over by itself.
+/// After 25 messages the rest are counted, and one last box tells how many more there were.
+class Loader
+{
+public:
+    /// Opens the file; a failure is told, and every later read fails, too.
+    Loader(const QString &title, const QString &path);
+    /// Closes the file and tells of the errors that were only counted.
+    ~Loader();
+    Loader(const Loader &) = delete;
+    Loader &operator=(const Loader &) = delete;
+
+    /// One statement.
+    void Step(const std::function<void(InputFile &)> &statement);
+    /// Statements that are known to fail alike.
+    void Fail(RuntimeError::Code code, qint64 times);
+
+    // The reads of a statement that ends in an assignment. "ByText" reads text and converts it, so that what is no
+    // number fails with error 13, where a direct read gives 0.
+    void Read(qint16 &target);
+    void Read(Currency &target);
+    void Read(bool &target);
+    void Read(QString &target);
+    void ReadByText(qint16 &target);
+    void ReadByText(Currency &target);
+    void ReadByText(float &target);
+
+private:
+    void Tell(const RuntimeError &error, qint64 times);
+    QString m_title;
+    InputFile m_file;
+    qint64 m_errors = 0;
+};
+
+/// Runs a writer: the first error is told with its title and ends it.
+void RunWriter(const QString &title, const std::function<void()> &writer);

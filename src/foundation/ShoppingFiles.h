@@ -1,0 +1,7 @@
+// The shopping lists: mastshop.txt in State.ApplicationPath and the open store list in State.StoresDirectory.
+#pragma once
+
+void InputMasterShoppingList();
+void InputCurrentShoppingList();
+void SaveMasterShoppingList();
+void SaveCurrentShoppingList();

@@ -1,0 +1,100 @@
+#include "foundation/StartAndEnd.h"
+
+#include "foundation/BudgetFiles.h"
+#include "foundation/ShoppingFiles.h"
+#include "foundation/State.h"
+#include "platform/DataFile.h"
+#include "platform/Desk.h"
+
+void InitializeVariables()
+{
+    bool abandoned = false;
+    const auto step = [&](const std::function<void()> &statement) {
+        if (abandoned)
+            return;
+        ResumeNext(statement, [&](const RuntimeError &error) {
+            if (error.Number == RuntimeError::FileNotFound) {
+                // Meant for a missing calculator; a missing tutor or settings file greys its entry just the same.
+                State.MathCalculatorMissing = true;
+                return;
+            }
+            ShowMessage(error.Text(), QStringLiteral("Initialize Variables"), Icon::Stop);
+            abandoned = true;
+        });
+    };
+
+    State.InitializingVariables = true;
+    State.ApplicationPath = TheDesk.ProgramFolder();
+    State.StoresDirectory = State.ApplicationPath + QStringLiteral("\\stores\\");
+    State.HelpFile = State.ApplicationPath + QStringLiteral("\\help\\budget help.hlp");
+
+    InputFile settings;
+    step([&] { settings.Open(State.ApplicationPath + QStringLiteral("\\environm.ini")); });
+    step([&] { State.ForecastPeriods = settings.InputInteger(); });
+    step([&] { State.PaycheckAmount = settings.InputCurrency(); });
+    step([&] { State.PayFrequency = settings.InputInteger(); });
+    step([&] { State.FirstPayDate = settings.InputInteger(); });
+    step([&] { State.SecondPayDate = settings.InputInteger(); });
+    step([&] { State.MonthEndPay = settings.InputInteger(); });
+    step([&] { State.SalesTax = settings.InputSingle(); });
+    step([&] { State.CurrentStoreFile = settings.InputString(); });
+    step([&] { State.AverageNetPercentage = settings.InputSingle(); });
+    if (abandoned)
+        return;
+    settings.Close();
+
+    State.CurrentPayPeriod = Format(TheDesk.Now().date(), DateFormat::Dashes);
+    State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    State.PrintFontName = QStringLiteral("Courier");
+    State.PrintFontSize = 8;
+    State.PrintFontBold = State.PrintFontItalic = State.PrintFontUnderline = State.PrintFontStrikethru = false;
+    State.PrintFontColor = 0;
+    step(LoadTutorInstructions);
+    if (abandoned)
+        return;
+    for (const auto load : {InputCreditors, InputRegulars, InputPayPeriods, InputProjects, InputMasterShoppingList,
+                            InputCurrentShoppingList})
+        load(); // each tells its own errors
+    step([] { TheDesk.StartCalculator(); });
+    if (!abandoned)
+        State.InitializingVariables = false;
+}
+
+void LoadTutorInstructions()
+{
+    const QString footer = QStringLiteral("For more information press F1\n"
+                                          "Use the browse (<< and >>) buttons at the top to move \n"
+                                          "forward and backward through the instructions");
+    InputFile file;
+    file.Open(State.ApplicationPath + QStringLiteral("\\help\\Instruction.txt"));
+    State.TutorInstructions.Redim(MostTutorPages);
+    int page = 0;
+    while (!file.AtEnd()) {
+        const QString line = file.InputLine();
+        if (!line.startsWith(QLatin1Char(';'))) {
+            State.TutorInstructions(page) += QLatin1Char('\n') + line;
+            continue;
+        }
+        if (page >= 1)
+            State.TutorInstructions(page) += QStringLiteral("\n\n") + footer;
+        ++page;
+    }
+}
+
+void CloseCalculatorOnExit()
+{
+    IgnoreErrors([] { TheDesk.CloseCalculator(); });
+}
+
+void LeaveProgram()
+{
+    SaveEnvironmentSettings();
+    CloseCalculatorOnExit();
+    TheDesk.EndProgram();
+}
+
+void ApplyPrintSettings()
+{
+    ThePrinter.Font = {State.PrintFontName,       State.PrintFontSize,      State.PrintFontBold, State.PrintFontItalic,
+                       State.PrintFontUnderline, State.PrintFontStrikethru, State.PrintFontColor};
+}

@@ -1,0 +1,81 @@
+#include "platform/Form.h"
+
+#include "platform/WindowRegister.h"
+
+#include <QCloseEvent>
+#include <QLineEdit>
+
+Form::Form() : QWidget(nullptr, Qt::Window) {}
+
+void Form::GotFocus(QWidget *control)
+{
+    if (auto *field = qobject_cast<QLineEdit *>(control))
+        field->selectAll();
+    if (const auto handler = m_gotFocus.value(control))
+        handler();
+}
+
+void Form::LostFocus(QWidget *control)
+{
+    if (const auto handler = m_lostFocus.value(control))
+        handler();
+}
+
+void Form::FocusOn(QWidget *control)
+{
+    TheWindows.MoveFocus(this, control);
+}
+
+QWidget *Form::FocusControl() const
+{
+    return m_focus && m_focus->isEnabled() && m_focus->isVisibleTo(this) ? m_focus.data() : FirstControl();
+}
+
+QWidget *Form::FirstControl() const
+{
+    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+        if (widget->window() == this && (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() &&
+            widget->isVisibleTo(this))
+            return widget;
+    return nullptr;
+}
+
+void Form::EnterRing(const QList<QLineEdit *> &ring)
+{
+    for (qsizetype i = 0; i < ring.size(); ++i) {
+        QLineEdit *next = ring[(i + 1) % ring.size()];
+        OnEnter(ring[i], [this, next] {
+            FocusOn(next);
+            next->selectAll();
+        });
+    }
+}
+
+void Form::OnEnter(QLineEdit *field, const std::function<void()> &handler)
+{
+    m_enter.insert(field, handler);
+}
+
+void Form::OnGotFocus(QWidget *control, const std::function<void()> &handler)
+{
+    m_gotFocus.insert(control, handler);
+}
+
+void Form::OnLostFocus(QWidget *control, const std::function<void()> &handler)
+{
+    m_lostFocus.insert(control, handler);
+}
+
+bool Form::HandleEnter(QObject *control)
+{
+    const auto handler = m_enter.value(control);
+    if (handler)
+        handler();
+    return bool(handler);
+}
+
+void Form::closeEvent(QCloseEvent *event)
+{
+    event->ignore(); // the register hides and ends the window itself
+    TheWindows.Unload(objectName(), CloseMode::CloseBox);
+}

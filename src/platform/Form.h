@@ -1,0 +1,61 @@
+// A window of the program. Its life and its activation are told by the register (WindowRegister.h), synchronously and
+// in order; a window overrides what the register calls and never the toolkit's own activation events.
+#pragma once
+
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+class QLineEdit;
+
+class Form : public QWidget
+{
+    Q_OBJECT
+public:
+    enum class CloseMode { CloseBox, Code };
+
+    Form();
+
+    /// Once, when the instance comes into being: at its first showing or when another window touches it.
+    virtual void Load() {}
+    /// The window has become the one among this program's windows that the user works in.
+    virtual void Activate() {}
+    virtual void Deactivate() {}
+    /// Before every closing; false cancels it.
+    virtual bool QueryUnload(CloseMode) { return true; }
+    /// The instance ends.
+    virtual void Unload() {}
+    /// A control of this window got the focus, also each time the window is activated. The base selects the whole
+    /// text of a field and calls the handler of OnGotFocus.
+    virtual void GotFocus(QWidget *control);
+    virtual void LostFocus(QWidget *control);
+    /// A window that is only looked at, such as the tutor's, takes no activation when it is shown.
+    virtual bool TakesActivation() const { return true; }
+
+    /// Moves the focus to a control of this window. In the active window its got-focus comes at once, in any other
+    /// with the next activation. A disabled control is left alone.
+    void FocusOn(QWidget *control);
+    /// The control that has the focus or will have it when the window is activated.
+    QWidget *FocusControl() const;
+
+protected:
+    /// Enter moves from each of these fields to the next one, round and round, and selects its text; the key is
+    /// swallowed.
+    void EnterRing(const QList<QLineEdit *> &ring);
+    /// Enter in one field does this instead; the key is swallowed.
+    void OnEnter(QLineEdit *field, const std::function<void()> &handler);
+    void OnGotFocus(QWidget *control, const std::function<void()> &handler);
+    void OnLostFocus(QWidget *control, const std::function<void()> &handler);
+    void closeEvent(QCloseEvent *event) final;
+
+private:
+    friend class WindowRegister;
+    QWidget *FirstControl() const;
+    bool HandleEnter(QObject *control);
+
+    QPointer<QWidget> m_focus;
+    QHash<const QObject *, std::function<void()>> m_enter;
+    QHash<const QObject *, std::function<void()>> m_gotFocus;
+    QHash<const QObject *, std::function<void()>> m_lostFocus;
+};

@@ -1,0 +1,317 @@
+#include "platform/Grid.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/Theme.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QTimer>
+#include <numeric>
+
+namespace {
+constexpr int TwipsPerPixel = 15;
+constexpr int RowPadding = 8;
+}
+
+/// The rows of a grid. The view is told of any number of changes at once, when the program comes to rest.
+class GridModel : public QAbstractTableModel
+{
+public:
+    struct Cell {
+        QString Text;
+        GridColour Colour = GridColour::Text;
+        bool Bold = false;
+    };
+
+    explicit GridModel(Grid *grid) : QAbstractTableModel(grid), m_grid(grid) {}
+
+    void SetShape(int rows, int columns)
+    {
+        m_columns = columns;
+        m_right.assign(std::size_t(columns), false);
+        m_rows.assign(std::size_t(rows), Row(std::size_t(columns)));
+        Touch();
+    }
+    int Rows() const { return int(m_rows.size()); }
+    int Columns() const { return m_columns; }
+
+    Cell &At(int row, int column)
+    {
+        if (row < 0 || column < 0 || column >= m_columns)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+        if (row >= Rows())
+            m_rows.resize(std::size_t(row) + 1, Row(std::size_t(m_columns)));
+        Touch();
+        return m_rows[std::size_t(row)][std::size_t(column)];
+    }
+    const Cell &Read(int row, int column) const
+    {
+        if (row < 0 || row >= Rows() || column < 0 || column >= m_columns)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+        return m_rows[std::size_t(row)][std::size_t(column)];
+    }
+    void Insert(int row, const QStringList &texts)
+    {
+        if (row < 0 || row > Rows() || texts.size() > m_columns)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+        Row cells{std::size_t(m_columns)};
+        for (qsizetype i = 0; i < texts.size(); ++i)
+            cells[std::size_t(i)].Text = texts[i];
+        m_rows.insert(m_rows.begin() + row, std::move(cells));
+        Touch();
+    }
+    void ClearBelowHeading()
+    {
+        for (std::size_t row = 1; row < m_rows.size(); ++row)
+            for (Cell &cell : m_rows[row])
+                cell.Text.clear();
+        Touch();
+    }
+    std::vector<bool> &Right()
+    {
+        Touch();
+        return m_right;
+    }
+
+    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownRows; }
+    int columnCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownColumns; }
+    QVariant data(const QModelIndex &index, int role) const override { return Value(index.row() + 1, index.column(), role); }
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        return orientation == Qt::Horizontal ? Value(0, section, role) : QVariant();
+    }
+
+private:
+    using Row = std::vector<Cell>;
+
+    QVariant Value(int row, int column, int role) const
+    {
+        if (row >= Rows() || column < 0 || column >= m_columns)
+            return {};
+        const Cell &cell = m_rows[std::size_t(row)][std::size_t(column)];
+        switch (role) {
+        case Qt::DisplayRole: return cell.Text;
+        case Qt::ToolTipRole: return cell.Text.isEmpty() ? QVariant() : cell.Text;
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignVCenter | (m_right[std::size_t(column)] ? Qt::AlignRight : Qt::AlignLeft));
+        case Qt::FontRole: {
+            QFont font = m_grid->font();
+            font.setBold(cell.Bold);
+            return font;
+        }
+        case Qt::ForegroundRole:
+            if (cell.Colour == GridColour::Text)
+                return {};
+            return QBColor(int(cell.Colour), m_grid->palette().color(QPalette::Base), m_grid->palette().color(QPalette::Text));
+        default: return {};
+        }
+    }
+
+    void Touch()
+    {
+        if (m_dirty)
+            return;
+        m_dirty = true;
+        QTimer::singleShot(0, this, [this] {
+            m_dirty = false;
+            beginResetModel();
+            m_shownRows = qMax(0, Rows() - 1);
+            m_shownColumns = m_columns;
+            endResetModel();
+        });
+    }
+
+    Grid *m_grid;
+    std::vector<Row> m_rows;
+    std::vector<bool> m_right;
+    int m_columns = 0;
+    int m_shownRows = 0;
+    int m_shownColumns = 0;
+    bool m_dirty = false;
+};
+
+Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
+{
+    setModel(m_model);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setMinimumSectionSize(1);
+    ShareHeight();
+
+    const auto clickRow = [this](int row) {
+        m_currentRow = row;
+        Q_EMIT Click();
+    };
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [=] { clickRow(0); });
+    connect(this, &QTableView::clicked, this, [=](const QModelIndex &index) { clickRow(index.row() + 1); });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        SetCurrentRow(m_currentRow);
+        ShareWidth();
+    });
+}
+
+void Grid::SetShape(int rows, int columns)
+{
+    m_model->SetShape(rows, columns);
+    m_twips.assign(std::size_t(columns), 0);
+    m_currentRow = 0;
+}
+
+int Grid::Rows() const
+{
+    return m_model->Rows();
+}
+
+int Grid::Columns() const
+{
+    return m_model->Columns();
+}
+
+void Grid::AddItem(const QString &text, int row)
+{
+    m_model->Insert(row, text.split(QLatin1Char('\t')));
+}
+
+void Grid::SetText(int row, int column, const QString &text)
+{
+    m_model->At(row, column).Text = text;
+}
+
+QString Grid::Text(int row, int column) const
+{
+    return m_model->Read(row, column).Text;
+}
+
+void Grid::SetColour(int row, int column, GridColour colour)
+{
+    m_model->At(row, column).Colour = colour;
+}
+
+GridColour Grid::Colour(int row, int column) const
+{
+    return m_model->Read(row, column).Colour;
+}
+
+void Grid::SetBold(int row, int column, bool bold)
+{
+    m_model->At(row, column).Bold = bold;
+}
+
+bool Grid::Bold(int row, int column) const
+{
+    return m_model->Read(row, column).Bold;
+}
+
+void Grid::ClearBelowHeading()
+{
+    m_model->ClearBelowHeading();
+}
+
+void Grid::SetColumnWidth(int column, int twips)
+{
+    if (column < 0 || column >= Columns())
+        RaiseError(RuntimeError::SubscriptOutOfRange);
+    m_twips[std::size_t(column)] = twips;
+    ShareWidth();
+}
+
+int Grid::ColumnWidth(int column) const
+{
+    return m_twips.at(std::size_t(column));
+}
+
+void Grid::SetRightAligned(int column, bool right)
+{
+    m_model->Right().at(std::size_t(column)) = right;
+}
+
+bool Grid::RightAligned(int column) const
+{
+    return m_model->Right().at(std::size_t(column));
+}
+
+void Grid::SetRowsInView(int rows)
+{
+    m_rowsInView = rows;
+    ShareHeight();
+}
+
+void Grid::SetCurrentRow(int row)
+{
+    m_currentRow = row;
+    if (row > 0 && row <= m_model->rowCount())
+        selectionModel()->setCurrentIndex(m_model->index(row - 1, 0), QItemSelectionModel::ClearAndSelect |
+                                                                          QItemSelectionModel::Rows);
+    else
+        selectionModel()->clear();
+}
+
+void Grid::ShareWidth()
+{
+    const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
+    if (total == 0 || m_model->columnCount() != Columns())
+        return;
+    const int width = qMax(viewport()->width(), total / TwipsPerPixel);
+    int used = 0;
+    for (int column = 0; column < Columns(); ++column) {
+        const bool last = column == Columns() - 1;
+        const int share = last ? width - used : width * m_twips[std::size_t(column)] / total;
+        horizontalHeader()->resizeSection(column, share);
+        used += share;
+    }
+}
+
+void Grid::ShareHeight()
+{
+    const int least = fontMetrics().height() + RowPadding;
+    const int whole = viewport()->height() + horizontalHeader()->height();
+    const int row = m_rowsInView > 0 ? qMax(least, whole / m_rowsInView) : least;
+    verticalHeader()->setDefaultSectionSize(row);
+}
+
+void Grid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    ShareWidth();
+    ShareHeight();
+}
+
+void Grid::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        ShareHeight();
+}
+
+QSize Grid::sizeHint() const
+{
+    const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0) / TwipsPerPixel;
+    const int scrollBar = 24;
+    return {qMax(total, 240) + scrollBar, 17 * (fontMetrics().height() + RowPadding)};
+}
+
+void Grid::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
+        if (currentIndex().isValid()) {
+            m_currentRow = currentIndex().row() + 1;
+            Q_EMIT Click();
+        }
+        return;
+    }
+    QTableView::keyPressEvent(event);
+    m_currentRow = currentIndex().isValid() ? currentIndex().row() + 1 : 0;
+}

@@ -1,0 +1,68 @@
+// A grid of texts. Row 0 is the heading and stays in view. Rows are kept here and only looked at by the view, so that
+// many thousands of them cost no widget and no waiting.
+#pragma once
+
+#include <QTableView>
+#include <vector>
+
+class GridModel;
+
+/// The colours of amounts, told by their customary numbers: 0 the text colour, 9 light blue, 12 light red.
+enum class GridColour { Text = 0, LightBlue = 9, LightRed = 12 };
+
+class Grid : public QTableView
+{
+    Q_OBJECT
+public:
+    explicit Grid(QWidget *parent = nullptr);
+
+    /// An empty grid of that size, heading included.
+    void SetShape(int rows, int columns);
+    int Rows() const;
+    int Columns() const;
+
+    /// Inserts a row before `row`, cells parted by tabs, and pushes the rest down. At the row count it appends;
+    /// beyond it, or with more cells than columns, error 9.
+    void AddItem(const QString &text, int row);
+    /// Writes in place; below the last row the missing rows are made. A column outside is error 9.
+    void SetText(int row, int column, const QString &text);
+    QString Text(int row, int column) const;
+    void SetColour(int row, int column, GridColour colour);
+    GridColour Colour(int row, int column) const;
+    void SetBold(int row, int column, bool bold);
+    bool Bold(int row, int column) const;
+
+    /// Empties every cell below the heading. The rows stay.
+    void ClearBelowHeading();
+
+    /// In twips, 15 to the pixel at 96 dots per inch. A grid wider than its columns widens them in proportion.
+    void SetColumnWidth(int column, int twips);
+    int ColumnWidth(int column) const;
+    /// Right-aligned and centred from top to bottom.
+    void SetRightAligned(int column, bool right);
+    bool RightAligned(int column) const;
+    /// So many rows fill the grid's height.
+    void SetRowsInView(int rows);
+
+    /// The row that was clicked or moved to last, 0 the heading.
+    int CurrentRow() const { return m_currentRow; }
+    void SetCurrentRow(int row);
+
+Q_SIGNALS:
+    /// A click on a cell or on the heading; CurrentRow() tells the row. Enter or Space on a row is a click, too.
+    void Click();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    QSize sizeHint() const override;
+
+private:
+    void ShareWidth();
+    void ShareHeight();
+    GridModel *m_model;
+    std::vector<int> m_twips;
+    int m_currentRow = 0;
+    int m_rowsInView = 0;
+};

@@ -1,0 +1,103 @@
+#include "platform/PagePrinter.h"
+
+#include "platform/Desk.h"
+#include "platform/RuntimeError.h"
+
+#include <QDir>
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+
+namespace {
+
+constexpr qreal Margin = 15;      // millimetres
+constexpr int CharactersWide = 80;
+
+QFont PageFont(const PrintFont &font, QPagedPaintDevice &device)
+{
+    QFont result(font.Name);
+    result.setStyleHint(QFont::Monospace);
+    result.setPointSizeF(font.Size > 0 ? qreal(font.Size) : 8);
+    result.setBold(font.Bold);
+    result.setItalic(font.Italic);
+    result.setUnderline(font.Underline);
+    result.setStrikeOut(font.Strikethru);
+    // A font that would push the 80 columns off the sheet is drawn as large as fits.
+    const qreal needed = QFontMetricsF(result, &device).horizontalAdvance(QLatin1Char('0')) * CharactersWide;
+    const qreal width = device.pageLayout().paintRectPixels(device.logicalDpiX()).width();
+    if (needed > width)
+        result.setPointSizeF(result.pointSizeF() * width / needed);
+    return result;
+}
+
+QString FreePdfPath(const QString &folder)
+{
+    const QString stamp = TheDesk.Now().toString(QStringLiteral("yyyy-MM-dd hh-mm-ss"));
+    QString path = QStringLiteral("%1/%2.pdf").arg(folder, stamp);
+    for (int copy = 2; QFile::exists(path); ++copy)
+        path = QStringLiteral("%1/%2 (%3).pdf").arg(folder, stamp).arg(copy);
+    return path;
+}
+
+} // namespace
+
+int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
+{
+    const QFont font = PageFont(job.Font, device);
+    QPainter painter;
+    if (!painter.begin(&device))
+        RaiseError(RuntimeError::DeviceError);
+    painter.setFont(font);
+    const qint32 colour = job.Font.Color;
+    painter.setPen(QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF));
+    const QFontMetricsF metrics(font, &device);
+    const qreal column = metrics.horizontalAdvance(QLatin1Char('0'));
+    const qreal height = device.pageLayout().paintRectPixels(device.logicalDpiY()).height();
+    // Words that stand apart by two blanks or more are columns, and each starts at its own place.
+    static const QRegularExpression cell(QStringLiteral("\\S+(?: \\S+)*"));
+
+    int pages = 1;
+    qreal top = 0;
+    for (const QString &line : job.Lines) {
+        if (top + metrics.height() > height) {
+            if (!device.newPage())
+                RaiseError(RuntimeError::DeviceError);
+            ++pages;
+            top = 0;
+        }
+        auto matches = cell.globalMatch(line);
+        while (matches.hasNext()) {
+            const auto match = matches.next();
+            painter.drawText(QPointF(column * qreal(match.capturedStart()), top + metrics.ascent()), match.captured());
+        }
+        top += metrics.lineSpacing();
+    }
+    painter.end();
+    return pages;
+}
+
+QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
+{
+    const QMarginsF margins(Margin, Margin, Margin, Margin);
+    if (const QPrinterInfo info = QPrinterInfo::defaultPrinter(); !info.isNull()) {
+        QPrinter printer(info, QPrinter::HighResolution);
+        printer.setPageMargins(margins, QPageLayout::Millimeter);
+        DrawDocument(job, printer);
+        return {};
+    }
+    if (!QDir().mkpath(folder))
+        RaiseError(RuntimeError::PathFileAccess);
+    const QString path = FreePdfPath(folder);
+    QPdfWriter pdf(path);
+    pdf.setCreator(AppTitle);
+    pdf.setTitle(job.Lines.value(2).trimmed());
+    pdf.setPageSize(QPageSize(QLocale::system().measurementSystem() == QLocale::MetricSystem ? QPageSize::A4
+                                                                                              : QPageSize::Letter));
+    pdf.setPageMargins(margins, QPageLayout::Millimeter);
+    DrawDocument(job, pdf);
+    return path;
+}

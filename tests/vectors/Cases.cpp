@@ -1,0 +1,191 @@
+#include "Cases.h"
+
+#include "RecordingDesk.h"
+#include "platform/Numbers.h"
+
+#include <QJsonDocument>
+#include <bit>
+
+QJsonValue Told(Currency amount)
+{
+    return amount.TenThousandths();
+}
+
+QJsonValue Told(float value)
+{
+    const QString bits = QString::number(std::bit_cast<quint32>(value), 16).rightJustified(8, QLatin1Char('0'));
+    return QJsonObject{{QStringLiteral("text"), PlainText(value)}, {QStringLiteral("bits"), QStringLiteral("0x") + bits}};
+}
+
+QJsonArray Told(const QStringList &lines)
+{
+    return QJsonArray::fromStringList(lines);
+}
+
+namespace {
+
+Currency Money(const QJsonValue &value)
+{
+    return Currency::FromTenThousandths(value.toInteger());
+}
+
+qint16 Count(const QJsonArray &array)
+{
+    return ToInteger(int(array.size()));
+}
+
+qint16 Integer(const QJsonValue &value)
+{
+    return ToInteger(value.toInt());
+}
+
+} // namespace
+
+void TakeHousehold(const QJsonObject &household)
+{
+    State.CurrentPayPeriod = household[u"CurrentPayPeriod"].toString();
+    State.PaycheckAmount = Money(household[u"PaycheckAmount"]);
+    State.PayFrequency = Integer(household[u"PayFrequency"]);
+    State.FirstPayDate = Integer(household[u"FirstPayDate"]);
+    State.SecondPayDate = Integer(household[u"SecondPayDate"]);
+    State.MonthEndPay = Integer(household[u"MonthEndPay"]);
+    State.ForecastPeriods = Integer(household[u"ForecastPeriods"]);
+    State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    State.PrintFontName = QStringLiteral("Courier");
+    State.PrintFontSize = 8;
+
+    const QJsonArray creditors = household[u"Creditors"].toArray();
+    State.NumberOfCreditors = Count(creditors);
+    State.Creditors.Redim(State.NumberOfCreditors);
+    for (int i = 1; i <= State.NumberOfCreditors; ++i) {
+        const QJsonValue creditor = creditors[i - 1];
+        State.Creditors(i) = {creditor[u"CreditorName"].toString(), Integer(creditor[u"CreditorDueDate"]),
+                              Money(creditor[u"CreditorAmount"])};
+    }
+    const QJsonArray regulars = household[u"Regulars"].toArray();
+    State.NumberOfRegulars = Count(regulars);
+    State.Regulars.Redim(State.NumberOfRegulars);
+    for (int i = 1; i <= State.NumberOfRegulars; ++i)
+        State.Regulars(i) = {regulars[i - 1][u"RegularItem"].toString(), Money(regulars[i - 1][u"RegularAmount"])};
+
+    const QJsonArray extras = household[u"ExtraPayPeriods"].toArray();
+    State.NumberOfExtraPayPeriods = Count(extras);
+    State.ExtraPayPeriods.Redim(State.NumberOfExtraPayPeriods);
+    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
+        ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
+        const QJsonArray items = extras[i - 1][u"ExtraItems"].toArray();
+        payPeriod.PayPeriodDate = extras[i - 1][u"PayPeriodDate"].toString();
+        payPeriod.NumberOfExtraItems = Count(items);
+        for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
+            payPeriod.ExtraItems(item) = {items[item - 1][u"ExtraItem"].toString(), Money(items[item - 1][u"ExtraItemAmount"])};
+    }
+    const QJsonArray projects = household[u"Projects"].toArray();
+    State.NumberOfProjects = Count(projects);
+    State.ProjectNames.Redim(State.NumberOfProjects);
+    State.ProjectAmounts.Redim(State.NumberOfProjects);
+    State.ProjectEntryCounts.Redim(State.NumberOfProjects);
+    State.ProjectEntryDates.Redim(State.NumberOfProjects);
+    State.ProjectEntryAmounts.Redim(State.NumberOfProjects);
+    for (int i = 1; i <= State.NumberOfProjects; ++i) {
+        const QJsonValue project = projects[i - 1];
+        const QJsonArray entries = project[u"Entries"].toArray();
+        State.ProjectNames(i) = project[u"ProjectName"].toString();
+        State.ProjectAmounts(i) = Money(project[u"ProjectAmount"]);
+        State.ProjectEntryCounts(i) = Count(entries);
+        for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry) {
+            State.ProjectEntryDates(i)(entry) = entries[entry - 1][u"Date"].toString();
+            State.ProjectEntryAmounts(i)(entry) = Money(entries[entry - 1][u"Amount"]);
+        }
+    }
+}
+
+QJsonArray ToldCreditors()
+{
+    QJsonArray told;
+    for (int i = 1; i <= State.NumberOfCreditors; ++i)
+        told += QJsonObject{{QStringLiteral("CreditorDueDate"), State.Creditors(i).CreditorDueDate},
+                            {QStringLiteral("CreditorName"), State.Creditors(i).CreditorName},
+                            {QStringLiteral("CreditorAmount"), Told(State.Creditors(i).CreditorAmount)}};
+    return told;
+}
+
+QJsonArray ToldRegulars()
+{
+    QJsonArray told;
+    for (int i = 1; i <= State.NumberOfRegulars; ++i)
+        told += QJsonObject{{QStringLiteral("RegularItem"), State.Regulars(i).RegularItem},
+                            {QStringLiteral("RegularAmount"), Told(State.Regulars(i).RegularAmount)}};
+    return told;
+}
+
+QJsonArray ToldExtras()
+{
+    QJsonArray told;
+    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
+        const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
+        QJsonArray items;
+        for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
+            items += QJsonObject{{QStringLiteral("ExtraItem"), payPeriod.ExtraItems(item).ExtraItem},
+                                 {QStringLiteral("ExtraItemAmount"), Told(payPeriod.ExtraItems(item).ExtraItemAmount)}};
+        told += QJsonObject{{QStringLiteral("PayPeriodDate"), payPeriod.PayPeriodDate.Text()},
+                            {QStringLiteral("ExtraItems"), items}};
+    }
+    return told;
+}
+
+QJsonArray ToldProjects()
+{
+    QJsonArray told;
+    for (int i = 1; i <= State.NumberOfProjects; ++i) {
+        QJsonArray entries;
+        for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry)
+            entries += QJsonObject{{QStringLiteral("Date"), State.ProjectEntryDates(i)(entry).Text()},
+                                   {QStringLiteral("Amount"), Told(State.ProjectEntryAmounts(i)(entry))}};
+        told += QJsonObject{{QStringLiteral("ProjectName"), State.ProjectNames(i)},
+                            {QStringLiteral("ProjectAmount"), Told(State.ProjectAmounts(i))},
+                            {QStringLiteral("Entries"), entries}};
+    }
+    return told;
+}
+
+QJsonArray ToldMessages(RecordingDesk &desk)
+{
+    QJsonArray told;
+    while (!desk.Messages.isEmpty()) {
+        const Message message = desk.TakeMessage();
+        told += QJsonObject{{QStringLiteral("title"), message.Title}, {QStringLiteral("text"), message.Text}};
+    }
+    return told;
+}
+
+QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, const QString &where)
+{
+    const auto shown = [](const QJsonValue &value) {
+        const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+        return QString::fromUtf8(json.mid(1, json.size() - 2)).left(300);
+    };
+    QStringList found;
+    if (expected.isObject() && actual.isObject()) {
+        const QJsonObject one = expected.toObject();
+        const QJsonObject other = actual.toObject();
+        QStringList keys = one.keys() + other.keys();
+        keys.removeDuplicates();
+        for (const QString &key : std::as_const(keys))
+            found += Differences(one[key], other[key], where + QLatin1Char('.') + key);
+        return found;
+    }
+    if (expected.isArray() && actual.isArray()) {
+        const QJsonArray one = expected.toArray();
+        const QJsonArray other = actual.toArray();
+        for (qsizetype i = 0; i < qMax(one.size(), other.size()); ++i)
+            found += Differences(i < one.size() ? one[i] : QJsonValue(QJsonValue::Undefined),
+                                 i < other.size() ? other[i] : QJsonValue(QJsonValue::Undefined),
+                                 QStringLiteral("%1[%2]").arg(where).arg(i));
+        return found;
+    }
+    if (expected.isArray() && actual.isString() && expected.toArray().contains(actual))
+        return found;
+    if (expected != actual)
+        found += QStringLiteral("%1: expected %2, got %3").arg(where, shown(expected), shown(actual));
+    return found;
+}

@@ -1,0 +1,36 @@
+// A worked case: a name, an input and the expected result, as JSON. Each area has one routine that runs a case on the
+// program and gives the result in the same shape.
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QStringList>
+
+#include "platform/Currency.h"
+
+class RecordingDesk;
+
+using RunCase = QJsonValue (*)(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+
+QJsonValue RunFilesCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+QJsonValue RunBudgetCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+
+// How results are told
+QJsonValue Told(Currency amount);
+/// The shortest text and the bits.
+QJsonValue Told(float value);
+QJsonArray Told(const QStringList &lines);
+
+/// Puts a household into the shared state: settings, creditors, regular items, extra pay periods, projects.
+void TakeHousehold(const QJsonObject &household);
+QJsonArray ToldCreditors();
+QJsonArray ToldRegulars();
+QJsonArray ToldExtras();
+QJsonArray ToldProjects();
+/// The messages that were shown since the last call: title and text.
+QJsonArray ToldMessages(RecordingDesk &desk);
+
+/// Where `actual` differs from `expected`, a line a difference. Where a list of texts is expected in place of one, any
+/// of them will do.
+QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, const QString &where = {});
