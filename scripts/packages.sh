@@ -49,6 +49,6 @@ install_missing_packages() {
     say "Installing with apt-get${as_root:+, by way of sudo}: ${missing[*]}"
     # Lists that cannot be refreshed (a source that is down) are no reason to stop: the old ones may do.
     "${as_root[@]}" apt-get update -qq || say "The package lists could not be refreshed; going on with those at hand"
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
-        </dev/null || fail "apt-get could not install the packages"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq -o Dpkg::Use-Pty=0 \
+        --no-install-recommends "${missing[@]}" </dev/null >/dev/null || fail "apt-get could not install the packages"
 }

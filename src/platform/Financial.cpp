@@ -99,8 +99,11 @@ double Rate(double periods, double payment, double presentValue, double futureVa
         olderRemainder = newerRemainder;
         newer = next;
         newerRemainder = remainderAt(newer);
-        if (std::abs(newerRemainder) < Tolerance)
-            return newer;
+        if (std::abs(newerRemainder) >= Tolerance)
+            continue;
+        if (newer <= -1) // the formula has zeros there, but no period loses more than everything
+            break;
+        return newer;
     }
     RaiseError(RuntimeError::InvalidProcedureCall);
 }

@@ -175,6 +175,9 @@ void WindowRegister::MakeActive(Form *form, bool byUser)
     form->Activate();
     if (move != m_moves || m_active != form)
         return;
+    // A message box that a handler has shown in between may have left the toolkit on the old window.
+    if (!byUser || (m_expected && m_expected != form))
+        Expect(form);
     if (QWidget *control = form->FocusControl())
         Enter(form, control);
 }

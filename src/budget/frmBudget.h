@@ -1,0 +1,33 @@
+// The window in which the user steps through pay periods: a look-ahead, then the budget, click by click.
+#pragma once
+
+#include "budget/BudgetGenerator.h"
+#include "foundation/WorkWindow.h"
+
+#include <memory>
+
+namespace Ui {
+class frmBudget;
+}
+
+class frmBudget : public WorkWindow
+{
+    Q_OBJECT
+public:
+    frmBudget();
+    ~frmBudget() override;
+    void Load() override;
+    void Activate() override;
+    void Deactivate() override;
+    void Unload() override;
+
+private:
+    void ClearBudgetGrid();
+    void ShowPage(const BudgetPage &page);
+    void cmdBudget_Click();
+    void cmdCancel_Click();
+    void pbPrintOn_Click();
+    void pbPrintOff_Click();
+
+    std::unique_ptr<Ui::frmBudget> ui;
+};

@@ -1,0 +1,21 @@
+// The three options of the program, kept by the desktop as decimal text. A missing one counts as 1, on.
+#pragma once
+
+#include "platform/Desk.h"
+#include "platform/Numbers.h"
+
+inline const QString ShowWelcome = QStringLiteral("Show Welcome At Startup");
+inline const QString ShowTips = QStringLiteral("Show Tips at Startup");
+inline const QString ShowTutor = QStringLiteral("Show Tallymere Tutor");
+
+/// The option as a number: 1 on, 0 off. Text that is no number counts as missing.
+inline double OptionValue(const QString &option)
+{
+    const QString text = TheDesk.GetSetting(option, QStringLiteral("1"));
+    return IsNumeric(text) ? ToDouble(text) : 1;
+}
+
+inline void SaveOption(const QString &option, bool on)
+{
+    TheDesk.SaveSetting(option, on ? QStringLiteral("1") : QStringLiteral("0"));
+}

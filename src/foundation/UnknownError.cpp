@@ -1,0 +1,18 @@
+#include "foundation/UnknownError.h"
+
+#include "platform/Desk.h"
+#include "platform/RuntimeError.h"
+
+void TellUnknownError(const QString &title)
+{
+    ShowMessage(QStringLiteral(
+                    "An unknown error occured. This may be due to an invalid entry. If you need help press F1 for "
+                    "assistance on this page. On the main menu click on Help->Search for Help On... or Help->How Do I? "
+                    "or click on any of the help icons on the bottom right of the main window."),
+                title, Icon::Warning);
+}
+
+void TrapUnknownError(const QString &title, const std::function<void()> &steps)
+{
+    ResumeNext(steps, [&](const RuntimeError &) { TellUnknownError(title); });
+}

@@ -1,0 +1,377 @@
+#include "mainwindow/frmMain.h"
+
+#include "foundation/Options.h"
+#include "foundation/ShoppingFiles.h"
+#include "foundation/StartAndEnd.h"
+#include "foundation/State.h"
+#include "foundation/Tutor.h"
+#include "platform/Icons.h"
+#include "platform/Theme.h"
+#include "platform/WindowRegister.h"
+#include "ui_frmMain.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int LastTimedTutorPage = 24;
+constexpr int StateLinePadding = 12;
+} // namespace
+
+frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
+{
+    ui->setupUi(this);
+    setWindowIcon(ThemedIcon(u"tallymere"_s));
+    for (QFrame *panel : {ui->pnlBudgetState, ui->pnlToolbar})
+        StyleTitlePanel(panel);
+    for (QLabel *title : {ui->lblBudgetState, ui->lblToolbarTitle}) {
+        QFont font = title->font();
+        font.setPointSizeF(font.pointSizeF() * 1.25);
+        font.setBold(true);
+        title->setFont(font);
+    }
+    Timer1.setParent(this);
+    Timer1.setObjectName(u"Timer1"_s);
+    Timer1.setInterval(1000);
+    tmrAutoTutor.setParent(this);
+    tmrAutoTutor.setObjectName(u"tmrAutoTutor"_s);
+    tmrAutoTutor.setInterval(10000);
+
+    BuildMenus();
+    BuildToolbar();
+    BuildStatusBar();
+    ui->cmdHowDoI->setEnabled(Entry(u"mnuHowDoI"_s)->isEnabled());
+    ui->cmdGettingStarted->setEnabled(Entry(u"mnuGettingStarted"_s)->isEnabled());
+
+    connect(ui->lstBudgetState, &ListBox::Click, this, &frmMain::lstBudgetState_Click);
+    connect(ui->cmdExit, &QPushButton::clicked, this, LeaveProgram);
+    connect(ui->cmdTutor, &QPushButton::clicked, this, &frmMain::mnuTallymereTutor_Click);
+    connect(ui->cmdHowDoI, &QPushButton::clicked, this, [this] { ActOn(u"mnuHowDoI"_s); });
+    connect(ui->cmdGettingStarted, &QPushButton::clicked, this, &frmMain::cmdGettingStarted_Click);
+    connect(&Timer1, &QTimer::timeout, this, &frmMain::Timer1_Timer);
+    connect(&tmrAutoTutor, &QTimer::timeout, this, &frmMain::tmrAutoTutor_Timer);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::BuildMenus()
+{
+    m_menuBar = new QMenuBar(this);
+    m_menuBar->setObjectName(u"menuBar"_s);
+    m_menuBar->setNativeMenuBar(false);
+    layout()->setMenuBar(m_menuBar);
+    for (const MenuEntry &entry : MainMenu()) {
+        QMenu *parent = m_menus.value(entry.Menu);
+        QAction *action = nullptr;
+        if (entry.TheCommand == Command::Submenu) {
+            auto *menu = new QMenu(entry.Caption, this);
+            m_menus.insert(entry.Name, menu);
+            action = parent ? parent->addMenu(menu) : m_menuBar->addMenu(menu);
+            menu->setObjectName(entry.Name + u"Menu"_s);
+        } else if (entry.TheCommand == Command::Separator) {
+            action = parent->addSeparator();
+        } else {
+            action = parent->addAction(entry.Caption);
+            action->setShortcut(QKeySequence(entry.Shortcut));
+            action->setEnabled(IsAvailable(entry));
+            connect(action, &QAction::triggered, this, [this, entry] { Act(entry); });
+        }
+        action->setObjectName(entry.Name);
+        m_entries.insert(entry.Name, action);
+    }
+    for (const auto &name : {u"mnuTipOfTheDay"_s, u"mnuTallymereTutor"_s, u"mnuWelcomeScreen"_s})
+        Entry(name)->setCheckable(true);
+    // A submenu in which nothing can be chosen is grey itself.
+    for (auto menu = m_menus.begin(); menu != m_menus.end(); ++menu) {
+        const QList<QAction *> actions = menu.value()->actions();
+        Entry(menu.key())->setEnabled(std::any_of(actions.begin(), actions.end(), [](const QAction *action) {
+            return action->isEnabled() && !action->isSeparator();
+        }));
+    }
+}
+
+void frmMain::BuildToolbar()
+{
+    int index = 0;
+    for (const ToolbarEntry &entry : MainToolbar()) {
+        auto *button = findChild<QToolButton *>(u"Toolbar1Button%1"_s.arg(++index));
+        button->setIcon(ThemedIcon(entry.Icon));
+        button->setToolTip(entry.ToolTip);
+        button->setAccessibleName(entry.ToolTip);
+        button->setAccessibleDescription(entry.Hint);
+        button->setFocusPolicy(Qt::NoFocus); // the menu is the way for the keyboard
+        button->setEnabled(Entry(entry.ActsAs)->isEnabled());
+        connect(button, &QToolButton::clicked, this, [this, name = entry.ActsAs] { ActOn(name); });
+        button->setMouseTracking(true);
+        button->installEventFilter(this);
+        m_hints.insert(button, entry.Hint);
+    }
+}
+
+void frmMain::BuildStatusBar()
+{
+    int panel = 0;
+    for (QLabel **label : {&staMain1, &staMain2, &staMain3}) {
+        *label = new QLabel(this);
+        (*label)->setObjectName(u"staMain%1"_s.arg(++panel));
+        (*label)->setContentsMargins(8, 2, 8, 2);
+        ui->staMain->addWidget(*label, panel < 3 ? 1 : 0);
+    }
+}
+
+/// The hint label has room for the longest hint, so that nothing jumps when the text changes.
+void frmMain::ReserveHintSpace()
+{
+    const int width = qMax(ui->Toolbar1->width(), ui->Toolbar1->minimumSizeHint().width());
+    int height = 0;
+    for (const ToolbarEntry &entry : MainToolbar())
+        height = qMax(height, ui->lblToolbar->fontMetrics()
+                                  .boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, entry.Hint)
+                                  .height());
+    ui->lblToolbar->setMinimumHeight(height);
+}
+
+void frmMain::resizeEvent(QResizeEvent *event)
+{
+    Form::resizeEvent(event);
+    ReserveHintSpace();
+}
+
+void frmMain::changeEvent(QEvent *event)
+{
+    Form::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        ReserveHintSpace();
+}
+
+void frmMain::Load()
+{
+    InitializeVariables();
+    Entry(u"mnuFinanceMathCalculator"_s)->setEnabled(!State.MathCalculatorMissing);
+    TheWindows.Unload(u"frmSplash"_s);
+    TheDesk.Hourglass(false);
+    // Directly left of the tutor's window, which this loads whether or not the tutor is on.
+    const QString tutor = u"frmTallymereTutor"_s;
+    if (TheWindows.Knows(tutor))
+        move(TheWindows.Touch(tutor).x() - width(), y());
+    Timer1.start();
+}
+
+void frmMain::Activate()
+{
+    ReadOptions();
+    staMain1->setText(u"Current Pay Period: "_s + FormatLongDate(State.CurrentPayPeriod));
+    staMain2->setText(Format(TheDesk.Now().date(), DateFormat::Weekday));
+    FillBudgetState();
+    if (State.WelcomeLevelPending) {
+        State.WelcomeLevelPending = false;
+        if (State.WelcomeLevel == 0)
+            ActOn(u"mnuStartBudget"_s);
+        else if (State.WelcomeLevel == 1)
+            ActOn(u"mnuHowDoI"_s);
+    }
+    if (!State.CurrentPayPeriodConfirmed)
+        ActOn(u"mnuOptionsSetCurrentPayPeriod"_s);
+}
+
+/// An option that is neither 0 nor 1 leaves its check mark, and the tutor's timer, as they are.
+void frmMain::ReadOptions()
+{
+    const auto check = [this](const QString &entry, const QString &option) {
+        const double value = OptionValue(option);
+        if (value == 0 || value == 1)
+            Entry(entry)->setChecked(value == 1);
+        return value;
+    };
+    check(u"mnuTipOfTheDay"_s, ShowTips);
+    const double tutor = check(u"mnuTallymereTutor"_s, ShowTutor);
+    if (tutor == 0)
+        tmrAutoTutor.stop();
+    else if (tutor == 1 && !tmrAutoTutor.isActive())
+        tmrAutoTutor.start(); // also while a window that stopped it is still open
+    check(u"mnuWelcomeScreen"_s, ShowWelcome);
+}
+
+void frmMain::FillBudgetState()
+{
+    ui->lstBudgetState->Clear();
+    for (const StateEntry &entry : BudgetStateLines()) {
+        ui->lstBudgetState->AddItem(entry.Line());
+        QListWidgetItem *line = ui->lstBudgetState->item(ui->lstBudgetState->count() - 1);
+        line->setSizeHint(QSize(0, ui->lstBudgetState->fontMetrics().height() + StateLinePadding));
+        if (!TheWindows.Knows(entry.Window))
+            line->setFlags(line->flags() & ~Qt::ItemIsEnabled);
+    }
+}
+
+bool frmMain::IsAvailable(const MenuEntry &entry) const
+{
+    return entry.TheCommand != Command::PrintCurrentList && (entry.Window.isEmpty() || TheWindows.Knows(entry.Window));
+}
+
+void frmMain::ActOn(const QString &entryName)
+{
+    const QList<MenuEntry> &menu = MainMenu();
+    const auto entry = std::find_if(menu.begin(), menu.end(), [&](const MenuEntry &one) { return one.Name == entryName; });
+    Q_ASSERT_X(entry != menu.end(), "ActOn", qPrintable(entryName));
+    if (IsAvailable(*entry))
+        Act(*entry);
+}
+
+void frmMain::Act(const MenuEntry &entry)
+{
+    switch (entry.TheCommand) {
+    case Command::Open: OpenWindowWithTutor(entry.TutorPage, entry.Window); break;
+    case Command::Exit: LeaveProgram(); break;
+    case Command::SavingsForecast: mnuBudgetSavingsForecast_Click(entry); break;
+    case Command::OpenStoreList: mnuShopperOpenStoreList_Click(entry); break;
+    case Command::MathCalculator: mnuFinanceMathCalculator_Click(entry); break;
+    case Command::SetCurrentPayPeriod: mnuOptionsSetCurrentPayPeriod_Click(entry); break;
+    case Command::TipOfTheDay:
+        FlipOption(entry.Name, ShowTips, u"Options - Tip of the Day"_s,
+                   u"Tip of the Day will be displayed the next time you start Tallymere"_s,
+                   u"Tip of the Day will not be displayed the next time you start Tallymere"_s);
+        break;
+    case Command::WelcomeScreen:
+        FlipOption(entry.Name, ShowWelcome, u"Options - Welcome Screen"_s,
+                   u"The Welcome screen will be displayed the next time you start Tallymere"_s,
+                   u"The Welcome screen will not be displayed the next time you start Tallymere"_s);
+        break;
+    case Command::Tutor: mnuTallymereTutor_Click(); break;
+    case Command::Search: mnuHelpSearch_Click(); break;
+    case Command::PrintCurrentList:
+    case Command::Submenu:
+    case Command::Separator: break;
+    }
+}
+
+void frmMain::ShowTutorPageIfRunning(int page)
+{
+    // The timer is the test and not the check mark: a window that rests the timer keeps its own page standing.
+    if (page > 0 && tmrAutoTutor.isActive() && ShowTutorPage)
+        ShowTutorPage(page);
+}
+
+void frmMain::OpenWindowWithTutor(int tutorPage, const QString &window)
+{
+    ShowTutorPageIfRunning(tutorPage);
+    TheWindows.Show(window);
+}
+
+void frmMain::mnuBudgetSavingsForecast_Click(const MenuEntry &entry)
+{
+    TheDesk.Beep();
+    if (ShowMessage(u"Do you wish to print the Savings Forecast?"_s, u"Savings Forecast"_s, Icon::Question,
+                    Buttons::YesNo) == Answer::Yes)
+        State.PrintSavingsForecast = true;
+    OpenWindowWithTutor(entry.TutorPage, entry.Window);
+}
+
+void frmMain::mnuOptionsSetCurrentPayPeriod_Click(const MenuEntry &entry)
+{
+    ShowTutorPageIfRunning(entry.TutorPage);
+    TheWindows.ControlOf<QLabel>(entry.Window, u"lblDate"_s).setText(Format(TheDesk.Now().date(), DateFormat::Weekday));
+    TheWindows.ShowModal(entry.Window);
+}
+
+void frmMain::mnuFinanceMathCalculator_Click(const MenuEntry &entry)
+{
+    ShowTutorPageIfRunning(entry.TutorPage);
+    ResumeNext([] { TheDesk.BringCalculatorForward(); },
+               [](const RuntimeError &error) {
+                   if (error.Number == RuntimeError::InvalidProcedureCall) // it does not run any more
+                       IgnoreErrors([] { TheDesk.StartCalculator(); });
+               });
+}
+
+void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
+{
+    const auto open = [&] {
+        ShowTutorPageIfRunning(entry.TutorPage);
+        const QString chosen =
+            TheDesk.AskFile({FileQuestion::Open, u"Store List Files (*.lst)|*.lst"_s, State.StoresDirectory, {}});
+        // A cancelled dialog goes on with the old name: its list is read again.
+        if (!chosen.isEmpty())
+            State.CurrentStoreFile = chosen.section(QRegularExpression(u"[\\\\/]"_s), -1);
+        const QString settings = u"frmEnvironmentSettings"_s;
+        if (TheWindows.Knows(settings))
+            TheWindows.ControlOf<QLineEdit>(settings, u"txtStoreFile"_s).setText(State.CurrentStoreFile);
+        ui->lstBudgetState->item(CurrentListLine)->setText(BudgetStateLines()[CurrentListLine].Line());
+        InputCurrentShoppingList();
+    };
+    ResumeNext(open, [](const RuntimeError &error) { ShowMessage(error.Text(), u"Open Store File"_s, Icon::Stop); });
+}
+
+void frmMain::FlipOption(const QString &entryName, const QString &option, const QString &title, const QString &on,
+                         const QString &off)
+{
+    // The menu has flipped the mark already when it was chosen there; the stored option is what counts.
+    const bool turnOn = OptionValue(option) != 1;
+    Entry(entryName)->setChecked(turnOn);
+    SaveOption(option, turnOn);
+    ShowMessage(turnOn ? on : off, title, Icon::Information);
+}
+
+void frmMain::mnuTallymereTutor_Click()
+{
+    const bool turnOn = OptionValue(ShowTutor) != 1;
+    Entry(u"mnuTallymereTutor"_s)->setChecked(turnOn);
+    if (turnOn) {
+        tmrAutoTutor.start();
+    } else {
+        tmrAutoTutor.stop();
+        TheWindows.Unload(u"frmTallymereTutor"_s);
+    }
+    SaveOption(ShowTutor, turnOn);
+    ShowMessage(turnOn ? u"Tallymere Tutor will be displayed automatically in 10 seconds."_s
+                       : u"Tallymere Tutor will not be displayed automatically. To get help from the Tutor again "
+                         u"recheck this option or click Help->How Do I...?"_s,
+                u"Options - Tallymere Tutor"_s, Icon::Information);
+}
+
+void frmMain::mnuHelpSearch_Click()
+{
+    // Another letter case than State.HelpFile has, which is harmless: files are found in any.
+    TheDesk.ShowHelp({TheDesk.ProgramFolder() + u"\\HELP\\budget help.hlp"_s, 0});
+}
+
+void frmMain::lstBudgetState_Click()
+{
+    const int line = ui->lstBudgetState->ListIndex();
+    if (line >= 0 && TheWindows.Knows(BudgetStateLines()[line].Window))
+        TheWindows.Show(BudgetStateLines()[line].Window);
+}
+
+void frmMain::cmdGettingStarted_Click()
+{
+    m_menus[u"mnuGettingStarted"_s]->popup(QCursor::pos());
+}
+
+void frmMain::Timer1_Timer()
+{
+    State.ClockTime = TheDesk.Now().time();
+    staMain3->setText(FormatClock(State.ClockTime));
+}
+
+void frmMain::tmrAutoTutor_Timer()
+{
+    TutorPage = TutorPage >= LastTimedTutorPage ? 1 : qint16(TutorPage + 1);
+    if (ShowTutorPage)
+        ShowTutorPage(TutorPage);
+}
+
+bool frmMain::eventFilter(QObject *watched, QEvent *event)
+{
+    const QEvent::Type type = event->type();
+    if ((type == QEvent::Enter || type == QEvent::MouseMove) && m_hints.contains(watched))
+        ui->lblToolbar->setText(m_hints.value(watched)); // never cleared: leaving the toolbar leaves the last hint
+    return Form::eventFilter(watched, event);
+}
+
+void frmMain::Unload()
+{
+    LeaveProgram();
+}

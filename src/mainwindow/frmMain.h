@@ -1,0 +1,75 @@
+// The hub: the State of the Budget, the toolbar, the menus, the clock and the tutor's timer. It opens every window.
+#pragma once
+
+#include "mainwindow/MainMenu.h"
+#include "platform/Form.h"
+
+#include <QHash>
+#include <QTimer>
+#include <memory>
+
+class QAction;
+class QLabel;
+class QMenu;
+class QMenuBar;
+
+namespace Ui {
+class frmMain;
+}
+
+class frmMain : public Form
+{
+    Q_OBJECT
+public:
+    frmMain();
+    ~frmMain() override;
+    void Load() override;
+    void Activate() override;
+    void Unload() override;
+
+    QAction *Entry(const QString &name) const { return m_entries.value(name); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void BuildMenus();
+    void BuildToolbar();
+    void BuildStatusBar();
+    void ReserveHintSpace();
+    void ReadOptions();
+    void FillBudgetState();
+    /// Whether what the entry opens exists. One whose window does not stays grey.
+    bool IsAvailable(const MenuEntry &entry) const;
+    void Act(const MenuEntry &entry);
+    void ActOn(const QString &entryName);
+
+    void ShowTutorPageIfRunning(int page);
+    void OpenWindowWithTutor(int tutorPage, const QString &window);
+    void mnuBudgetSavingsForecast_Click(const MenuEntry &entry);
+    void mnuShopperOpenStoreList_Click(const MenuEntry &entry);
+    void mnuFinanceMathCalculator_Click(const MenuEntry &entry);
+    void mnuOptionsSetCurrentPayPeriod_Click(const MenuEntry &entry);
+    void mnuTallymereTutor_Click();
+    void FlipOption(const QString &entryName, const QString &option, const QString &title, const QString &on,
+                    const QString &off);
+    void mnuHelpSearch_Click();
+    void lstBudgetState_Click();
+    void cmdGettingStarted_Click();
+    void Timer1_Timer();
+    void tmrAutoTutor_Timer();
+
+    std::unique_ptr<Ui::frmMain> ui;
+    QMenuBar *m_menuBar = nullptr;
+    QHash<QString, QAction *> m_entries;
+    QHash<QString, QMenu *> m_menus;
+    QHash<QObject *, QString> m_hints;
+    QLabel *staMain1 = nullptr;
+    QLabel *staMain2 = nullptr;
+    QLabel *staMain3 = nullptr;
+    QTimer Timer1;
+    QTimer tmrAutoTutor;
+    qint16 TutorPage = 0;
+};
