@@ -1,30 +1,9 @@
-#include "budget/frmBudget.h"
+#include "Windows.h"
 #include "foundation/Options.h"
-#include "foundation/frmSplash.h"
-#include "mainwindow/frmMain.h"
-#include "mainwindow/frmSetCurrentPayPeriod.h"
 #include "platform/Application.h"
 #include "platform/Icons.h"
 #include "platform/RealDesk.h"
 #include "platform/WindowRegister.h"
-
-namespace {
-
-template <class Window>
-void Declare(const char *name)
-{
-    TheWindows.Declare(QString::fromLatin1(name), [] { return new Window; });
-}
-
-void DeclareWindows()
-{
-    Declare<frmSplash>("frmSplash");
-    Declare<frmMain>("frmMain");
-    Declare<frmSetCurrentPayPeriod>("frmSetCurrentPayPeriod");
-    Declare<frmBudget>("frmBudget");
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {

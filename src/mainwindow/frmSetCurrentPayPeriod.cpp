@@ -9,6 +9,7 @@
 frmSetCurrentPayPeriod::frmSetCurrentPayPeriod() : ui(std::make_unique<Ui::frmSetCurrentPayPeriod>())
 {
     ui->setupUi(this);
+    Timer1.setParent(this); // found by name like every control
     Timer1.setObjectName(QStringLiteral("Timer1"));
     Timer1.setInterval(1000);
     connect(&Timer1, &QTimer::timeout, this, &frmSetCurrentPayPeriod::Timer1_Timer);

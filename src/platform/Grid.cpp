@@ -140,7 +140,6 @@ Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
     setTabKeyNavigation(false);
     setWordWrap(false);
     setShowGrid(false);
-    setAlternatingRowColors(true);
     setVerticalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

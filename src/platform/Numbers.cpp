@@ -10,8 +10,8 @@
 
 namespace {
 
-/// A decimal number taken apart: 0.DIGITS times ten to the power `Point`, and its sign. The first digit is not 0; the
-/// number 0 has no digits.
+/// A decimal number taken apart: 0.DIGITS times ten to the power `Point`, and its sign. Neither the first nor the last
+/// digit is 0; the number 0 has no digits.
 struct Decimal
 {
     bool Negative = false;
@@ -97,6 +97,18 @@ int TakeSign(Scanner &text, bool atBack)
     return take(u"-") || take(u"\u2212") ? -1 : 0;
 }
 
+Decimal WithoutOuterZeros(Decimal number)
+{
+    const auto counts = [](char c) { return c != '0'; };
+    const auto first = std::find_if(number.Digits.cbegin(), number.Digits.cend(), counts);
+    const auto last = std::find_if(number.Digits.crbegin(), number.Digits.crend(), counts).base();
+    if (first == number.Digits.cend())
+        return {};
+    number.Point -= int(first - number.Digits.cbegin());
+    number.Digits = QByteArray(first, last - first);
+    return number;
+}
+
 std::optional<Decimal> ReadRadix(QStringView text)
 {
     if (text.size() < 3 || text[0] != u'&')
@@ -115,8 +127,8 @@ std::optional<Decimal> ReadRadix(QStringView text)
             __builtin_add_overflow(value, digit, &value))
             return {};
     }
-    const QByteArray digits = value == 0 ? QByteArray() : QByteArray::number(value);
-    return Decimal{false, digits, int(digits.size())};
+    const QByteArray digits = QByteArray::number(value);
+    return WithoutOuterZeros({false, digits, int(digits.size())});
 }
 
 /// The digits of a number: integer part with separators, point, fraction, exponent. Nothing if there is no digit.
@@ -159,11 +171,7 @@ std::optional<Decimal> ReadDigits(Scanner &text, const Signs &signs, bool separa
             text = exponent;
         }
     }
-    const auto firstDigit = std::find_if(number.Digits.begin(), number.Digits.end(), [](char c) { return c != '0'; });
-    const int leadingZeros = int(firstDigit - number.Digits.begin());
-    number.Digits.remove(0, leadingZeros);
-    number.Point = number.Digits.isEmpty() ? 0 : number.Point - leadingZeros;
-    return number;
+    return WithoutOuterZeros(number);
 }
 
 std::optional<Decimal> Read(const QString &source, Dialect dialect)
@@ -230,7 +238,7 @@ qint64 Scaled(const Decimal &number, int decimals)
     }
     if (whole < number.Digits.size()) {
         const QByteArray rest = number.Digits.mid(whole);
-        const bool tie = rest[0] == '5' && rest.mid(1).count('0') == rest.size() - 1;
+        const bool tie = rest == "5";
         if (tie ? count % 2 == 1 : rest[0] >= '5')
             ++count;
     }

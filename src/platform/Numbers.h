@@ -22,8 +22,8 @@ qint16 ToInteger(const QString &text, Dialect dialect = Dialect::User);
 double ToDouble(const QString &text, Dialect dialect = Dialect::User);
 float ToSingle(const QString &text, Dialect dialect = Dialect::User);
 
-/// A numeric text as plain digits with "." as the point and a zero before it, exactly, however many decimals it has.
-/// Error 13 on other text, 6 beyond the range of a double.
+/// A numeric text as plain digits with "." as the point, a zero before it and none at the end, exactly, however many
+/// decimals it has. Error 13 on other text, 6 beyond the range of a double.
 QString PlainDigits(const QString &text, Dialect dialect = Dialect::User);
 
 /// The plain numbers that a data file holds: sign, digits, ".", exponent. No symbol and no separators.

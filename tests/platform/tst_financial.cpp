@@ -33,7 +33,7 @@ private Q_SLOTS:
         QTest::newRow("a tiny rate keeps its digits") << 1e-12 << 12.0 << 1200.0 << 0.0 << 0 << -100.000000000650;
         QTest::newRow("a negative rate") << -0.01 << 10.0 << 1000.0 << 0.0 << 0 << -94.582901175912;
         QTest::newRow("12000 at 9.5 % over 36 months")
-            << 0.095 / 12 << 36.0 << 12000.0 << 0.0 << 0 << -384.39542;
+            << 0.095 / 12 << 36.0 << 12000.0 << 0.0 << 0 << -384.395396889380;
     }
     void PaymentOfALoan()
     {
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QFETCH(double, futureValue);
         QFETCH(int, type);
         QFETCH(double, payment);
-        COMPARE_WITHIN(Pmt(rate, periods, presentValue, futureValue, type), payment, 5e-6);
+        COMPARE_WITHIN(Pmt(rate, periods, presentValue, futureValue, type), payment, 1e-9);
     }
 
     void WhatHasNoPaymentIsAnError_data()
@@ -207,7 +207,6 @@ private Q_SLOTS:
         QTest::newRow("a zero below -100 % is no rate") << 12.0 << -2000.0 << 1000.0 << 0.1;
         QTest::newRow("a growth beyond every number") << 32767.0 << -10.0 << 1000.0 << 0.1;
         QTest::newRow("a guess beyond all reason") << 12.0 << -100.0 << 1200.0 << 1e300;
-        QTest::newRow("a guess of -100 %") << 12.0 << -100.0 << 1200.0 << -1.0;
     }
     void ARateThatDoesNotSettleIsError5()
     {

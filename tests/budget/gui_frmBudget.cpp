@@ -1,0 +1,313 @@
+// The budget window: stepping, the print switch, and what a change of windows resets.
+#include "GuiDesk.h"
+#include "GuiMain.h"
+
+#include "budget/BudgetGenerator.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Window = u"frmBudget"_s;
+
+/// A biweekly household of $1,000.00: this period costs $500.00, the next one $1,100.00.
+void TakeHousehold()
+{
+    State.CurrentPayPeriod = u"January 1, 2004"_s;
+    State.PaycheckAmount = Currency::FromTenThousandths(1000 * Currency::Unit);
+    State.PayFrequency = Biweekly;
+    State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    State.NumberOfExtraPayPeriods = 2;
+    State.ExtraPayPeriods.Redim(2);
+    State.ExtraPayPeriods(1).PayPeriodDate = u"01-01-2004"_s;
+    State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
+    State.ExtraPayPeriods(1).ExtraItems(1) = {u"Now"_s, Currency::FromTenThousandths(520 * Currency::Unit)};
+    State.ExtraPayPeriods(1).ExtraItems(2) = {u"Refund"_s, Currency::FromTenThousandths(-20 * Currency::Unit)};
+    State.ExtraPayPeriods(2).PayPeriodDate = u"01-15-2004"_s;
+    State.ExtraPayPeriods(2).NumberOfExtraItems = 1;
+    State.ExtraPayPeriods(2).ExtraItems(1) = {u"Then"_s, Currency::FromTenThousandths(1100 * Currency::Unit)};
+}
+
+QString Caption()
+{
+    return TheWindows.Loaded(Window)->windowTitle();
+}
+
+QStringList Rows()
+{
+    return GridRows(Window, u"grdBudget"_s);
+}
+
+/// A second window of the program to go to and come back from.
+class Other : public Form
+{
+};
+
+} // namespace
+
+class gui_frmBudget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OpeningShowsTheCurrentPeriodAndThePaycheckAlone()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
+        QCOMPARE(Rows(), QStringList{u"Paycheck Amount | $1,000.00"_s});
+        QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).Rows(), 128);
+        QVERIFY(Find<Grid>(Window, u"grdBudget"_s).Bold(0, 0));
+        QVERIFY(Find<Grid>(Window, u"grdBudget"_s).Bold(0, 1));
+        QVERIFY(Find<Grid>(Window, u"grdBudget"_s).RightAligned(1));
+        QVERIFY(!Find<Grid>(Window, u"grdBudget"_s).RightAligned(0));
+        QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).ColumnWidth(0), 3100);
+        QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).ColumnWidth(1), 1750);
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"January 1, 2004"_s);
+        QVERIFY(Find<QAbstractButton>(Window, u"pbPrintOff"_s).isChecked());
+        QVERIFY(!Find<QAbstractButton>(Window, u"pbPrintOn"_s).isChecked());
+    }
+
+    void TheCaptionsAreTheDesigns()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        QCOMPARE(TextOf(Window, u"cmdBudget"_s), u"&Budget"_s);
+        QCOMPARE(TextOf(Window, u"cmdCancel"_s), u"Cancel"_s);
+        QCOMPARE(TextOf(Window, u"Frame1"_s), u"Print"_s);
+        QCOMPARE(TextOf(Window, u"Label1"_s), u"On"_s);
+        QCOMPARE(TextOf(Window, u"Label2"_s), u"Off"_s);
+    }
+
+    void TheFirstClickLooksAheadTheSecondBudgets()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Looking Ahead - January 15, 2004"_s);
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"January 1, 2004"_s);
+
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Now | $520.00"_s, u"CREDIT - Refund | ($20.00)"_s,
+                                      u"Budget - January 15, 2004 | $300.00"_s, u"SAVINGS | $200.00"_s}));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/15/2004"_s);
+
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Looking Ahead - January 29, 2004"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Budget - January 15, 2004"_s);
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"CREDIT - Budget | ($300.00)"_s,
+                                      u"SAVINGS | $200.00"_s}));
+    }
+
+    void TheFirstLineStandsInRowTwoAndAnEmptyRowAboveTheResult()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        const auto &grid = Find<Grid>(Window, u"grdBudget"_s);
+        QCOMPARE(grid.Text(1, 0), QString());
+        QCOMPARE(grid.Text(2, 0), u"Then"_s);
+        QCOMPARE(grid.Text(3, 0), QString());
+        QCOMPARE(grid.Text(4, 0), u"DEFICIT"_s);
+        QCOMPARE(grid.Rows(), 130); // the line and the empty row were inserted, the deficit written in place
+    }
+
+    void CreditsAndDeficitsStandInColourAndNothingElse()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        const auto &grid = Find<Grid>(Window, u"grdBudget"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.Colour(4, 1), GridColour::LightRed);
+        QCOMPARE(grid.Colour(4, 0), GridColour::Text);
+        QCOMPARE(grid.Colour(5, 1), GridColour::Text);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.Text(3, 0), u"CREDIT - Refund"_s);
+        QCOMPARE(grid.Colour(3, 1), GridColour::LightBlue);
+        QCOMPARE(grid.Colour(3, 0), GridColour::Text); // the label of a credit is not coloured
+        for (int row : {1, 2, 4, 5, 6, 7})
+            QCOMPARE(grid.Colour(row, 1), GridColour::Text);
+    }
+
+    void EmptyListsShowTheSavingsAlone()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfExtraPayPeriods = 0;
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"SAVINGS | $1,000.00"_s}));
+        QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).Text(3, 0), u"SAVINGS"_s);
+    }
+
+    void GoingToAnotherWindowAndBackLooksAheadAgainFromWhereItWas()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdBudget"_s); // period 2 comes next, and a credit is on its way
+        QVERIFY(State.BudgetCredit != Currency());
+        Show(u"frmOther"_s);
+        QCOMPARE(State.BudgetCredit, Currency());
+        QVERIFY(!State.LookingAhead);
+        Show(Window);
+        QCOMPARE(Caption(), u"Budget - January 1, 2004"_s); // although the next budget run covers January 15
+        QCOMPARE(Rows(), QStringList{u"Paycheck Amount | $1,000.00"_s});
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Looking Ahead - January 29, 2004"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Budget - January 15, 2004"_s);
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
+    }
+
+    void AMessageBoxDoesNotResetTheAlternation()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        TheWindows.WhileAway([] {});
+        Settle();
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
+    }
+
+    void CancelForgetsTheStepping()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdCancel"_s);
+        QVERIFY(!TheWindows.Loaded(Window));
+        QVERIFY(!State.LookingAhead);
+        QCOMPARE(State.BudgetCredit, Currency());
+        Show(Window);
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"January 1, 2004"_s);
+        QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
+        QVERIFY(bool(ShowBudgetPage));
+    }
+
+    void TheSwitchPrintsEveryRunIntoOneDocument()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.PrintFontName = u"Courier"_s;
+        State.PrintFontSize = 8;
+        Show(Window);
+        Click(Window, u"pbPrintOn"_s);
+        QVERIFY(State.PrintBudget);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(desk.Printed.size(), 0);
+        Click(Window, u"pbPrintOff"_s);
+        QVERIFY(!State.PrintBudget);
+        QCOMPARE(desk.Printed.size(), 1);
+        QCOMPARE(desk.Printed[0].Font.Name, u"Courier"_s);
+        QCOMPARE(desk.Printed[0].Lines,
+                 (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
+                              {},
+                              u"                       Looking Ahead - January 15, 2004"_s,
+                              {},
+                              u"              Paycheck Amount                          $1,000.00"_s,
+                              u"              __________________________________________________"_s,
+                              {},
+                              u"              Then                                     $1,100.00"_s,
+                              u"              __________________________________________________"_s,
+                              {},
+                              u"              DEFICIT                                  ($100.00)"_s,
+                              {},
+                              u"                         The Corvelle's Tallymere 1.0"_s,
+                              {},
+                              u"                           Budget - January 1, 2004"_s,
+                              {},
+                              u"              Paycheck Amount                          $1,000.00"_s,
+                              u"              __________________________________________________"_s,
+                              {},
+                              u"              Now                                        $520.00"_s,
+                              u"              CREDIT - Refund                           ($20.00)"_s,
+                              u"              Budget - January 15, 2004                  $300.00"_s,
+                              u"              __________________________________________________"_s,
+                              {},
+                              u"              SAVINGS                                    $200.00"_s,
+                              {}}));
+    }
+
+    void LosingTheFocusEndsTheDocumentAndThePrinting()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        Click(Window, u"pbPrintOn"_s);
+        Click(Window, u"cmdBudget"_s);
+        Show(u"frmOther"_s);
+        QCOMPARE(desk.Printed.size(), 1);
+        QVERIFY(!State.PrintBudget);
+        QVERIFY(Find<QAbstractButton>(Window, u"pbPrintOff"_s).isChecked());
+        QVERIFY(!Find<QAbstractButton>(Window, u"pbPrintOn"_s).isChecked());
+    }
+
+    void ClickingTheStateThatHoldsDoesNothing()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"pbPrintOff"_s);
+        Click(Window, u"pbPrintOn"_s);
+        Click(Window, u"pbPrintOff"_s);
+        QCOMPARE(desk.Printed.size(), 0); // nothing was printed
+    }
+
+    void PagesAreNotLostWithTheWindow()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"pbPrintOn"_s);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdCancel"_s);
+        QCOMPARE(desk.Printed.size(), 1);
+        QVERIFY(!State.PrintBudget);
+    }
+
+    void ADamagedDateEndsTheProgramWithTheDefaultReport()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.ExtraPayPeriods(1).PayPeriodDate = u"never"_s;
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '13':\n\nType mismatch"_s, AppTitle, Icon::Stop}));
+        QVERIFY(desk.Ended);
+    }
+
+    void TheTutorRestsWhileTheWindowIsLoaded()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
+        QVERIFY(timer.isActive());
+        Choose(u"mnuBudgetViewBudget"_s);
+        QVERIFY(!timer.isActive());
+        Click(Window, u"cmdCancel"_s);
+        QVERIFY(timer.isActive());
+        QCOMPARE(ActiveWindow(), u"frmMain"_s);
+    }
+};
+
+GUI_TEST_MAIN(gui_frmBudget)
+#include "gui_frmBudget.moc"

@@ -1,0 +1,190 @@
+// The named formats: what they show, how they round, what they leave alone.
+#include "platform/Format.h"
+#include "platform/Locale.h"
+#include "platform/Numbers.h"
+
+#include "../support/ErrorOf.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(NumberFormat)
+
+namespace {
+const QLocale American(QLocale::English, QLocale::UnitedStates);
+const QLocale German(QLocale::German, QLocale::Germany);
+const QLocale Swiss(QLocale::German, QLocale::Switzerland);
+constexpr NumberFormat AllFormats[] = {NumberFormat::Currency, NumberFormat::Fixed, NumberFormat::Standard,
+                                       NumberFormat::Percent, NumberFormat::GeneralNumber};
+
+Currency Count(qint64 tenThousandths)
+{
+    return Currency::FromTenThousandths(tenThousandths);
+}
+} // namespace
+
+class TestFormat : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { SetUserLocale(American); }
+
+    void AnAmountIsShownInEachFormat_data()
+    {
+        QTest::addColumn<qint64>("tenThousandths");
+        QTest::addColumn<NumberFormat>("format");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char *name, qint64 count, NumberFormat format, const char *text) {
+            QTest::newRow(name) << count << format << QString::fromLatin1(text);
+        };
+        row("currency", 12345000, NumberFormat::Currency, "$1,234.50");
+        row("currency, negative: in parentheses", -12345000, NumberFormat::Currency, "($1,234.50)");
+        row("currency, zero", 0, NumberFormat::Currency, "$0.00");
+        row("currency, less than one", 500, NumberFormat::Currency, "$0.05");
+        row("currency, millions", 12345678905000, NumberFormat::Currency, "$1,234,567,890.50");
+        row("currency, no separator below a thousand", 9990000, NumberFormat::Currency, "$999.00");
+        row("half a cent goes away from zero", 10615385, NumberFormat::Currency, "$1,061.54");
+        row("exactly half a cent", 1250, NumberFormat::Fixed, "0.13");
+        row("half a negative cent goes away from zero", -50, NumberFormat::Fixed, "-0.01");
+        row("less than half a cent", 49, NumberFormat::Fixed, "0.00");
+        row("nines carry over", 9999950, NumberFormat::Currency, "$1,000.00");
+        row("currency: what rounds to zero shows no sign", -49, NumberFormat::Currency, "$0.00");
+        row("fixed: what rounds to zero shows no sign", -49, NumberFormat::Fixed, "0.00");
+        row("the greatest amount", 9223372036854775807, NumberFormat::Currency, "$922,337,203,685,477.58");
+        row("fixed: no separators", 12345000, NumberFormat::Fixed, "1234.50");
+        row("fixed, negative", -12345000, NumberFormat::Fixed, "-1234.50");
+        row("standard: separators, no symbol", 12345000, NumberFormat::Standard, "1,234.50");
+        row("standard, negative", -12345000, NumberFormat::Standard, "-1,234.50");
+        row("percent: times a hundred", 600, NumberFormat::Percent, "6.00%");
+        row("percent, negative", -8543, NumberFormat::Percent, "-85.43%");
+        row("percent, above a hundred", 10000000, NumberFormat::Percent, "100000.00%");
+        row("general number: plain", 12345000, NumberFormat::GeneralNumber, "1234.5");
+    }
+    void AnAmountIsShownInEachFormat()
+    {
+        QFETCH(qint64, tenThousandths);
+        QFETCH(NumberFormat, format);
+        QTEST(Format(Count(tenThousandths), format), "text");
+    }
+
+    void FormatCurrencyIsTheFormatCurrency()
+    {
+        QCOMPARE(FormatCurrency(Count(-12345000)), QStringLiteral("($1,234.50)"));
+    }
+
+    void ASingleIsShownInSinglePrecision()
+    {
+        // Its double would be 0.0599999986... and 1.0049999952...
+        QCOMPARE(Format(0.06F, NumberFormat::Percent), QStringLiteral("6.00%"));
+        QCOMPARE(Format(1.005F, NumberFormat::Fixed), QStringLiteral("1.01"));
+        QCOMPARE(Format(0.85F, NumberFormat::GeneralNumber), QStringLiteral("0.85"));
+    }
+
+    void ADoubleIsRoundedOnItsDecimalValue()
+    {
+        QCOMPARE(Format(0.125, NumberFormat::Fixed), QStringLiteral("0.13"));
+        QCOMPARE(Format(-0.005, NumberFormat::Fixed), QStringLiteral("-0.01"));
+        QCOMPARE(Format(1.005, NumberFormat::Fixed), QStringLiteral("1.01"));
+        QCOMPARE(Format(-0.0, NumberFormat::Fixed), QStringLiteral("0.00"));
+        QCOMPARE(Format(-1e-12, NumberFormat::Percent), QStringLiteral("0.00%"));
+        QCOMPARE(Format(0.5, NumberFormat::GeneralNumber), QStringLiteral("0.5"));
+    }
+
+    void WhatIsNoNumberIsAnOverflow()
+    {
+        QCOMPARE(ErrorOf([] { Format(std::numeric_limits<double>::infinity(), NumberFormat::Fixed); }), 6);
+        QCOMPARE(ErrorOf([] { Format(std::numeric_limits<double>::quiet_NaN(), NumberFormat::Fixed); }), 6);
+    }
+
+    void ANumberIsShownAsItIs()
+    {
+        QCOMPARE(Format(0, NumberFormat::GeneralNumber), QStringLiteral("0"));
+        QCOMPARE(Format(-32768, NumberFormat::GeneralNumber), QStringLiteral("-32768"));
+        QCOMPARE(Format(0, NumberFormat::Currency), QStringLiteral("$0.00"));
+        QCOMPARE(Format(1250, NumberFormat::Currency), QStringLiteral("$1,250.00"));
+    }
+
+    void ATextIsConvertedWhenItIsNumeric_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<NumberFormat>("format");
+        QTest::addColumn<QString>("shown");
+        const auto row = [](const char *name, const char *text, NumberFormat format, const char *shown) {
+            QTest::newRow(name) << QString::fromLatin1(text) << format << QString::fromLatin1(shown);
+        };
+        row("digits become an amount", "1250", NumberFormat::Currency, "$1,250.00");
+        row("an amount stays an amount", "($1,234.50)", NumberFormat::Currency, "($1,234.50)");
+        row("blanks go", " 5 ", NumberFormat::Currency, "$5.00");
+        row("an amount becomes fixed", "$1,234.50", NumberFormat::Fixed, "1234.50");
+        row("half a cent in text", "0.125", NumberFormat::Currency, "$0.13");
+        row("rounded once, from all its decimals", "0.00499999", NumberFormat::Currency, "$0.00");
+        row("more than an amount can hold", "1e20", NumberFormat::Standard, "100,000,000,000,000,000,000.00");
+        row("general number", "007.50", NumberFormat::GeneralNumber, "7.5");
+        row("general number of a whole number", "$1,250.00", NumberFormat::GeneralNumber, "1250");
+        row("percent", ".06", NumberFormat::Percent, "6.00%");
+        row("hexadecimal", "&H1F", NumberFormat::GeneralNumber, "31");
+        row("text that is no number comes back", "abc", NumberFormat::Currency, "abc");
+        row("a percentage comes back", "5%", NumberFormat::Currency, "5%");
+        row("blanks come back", "  ", NumberFormat::Fixed, "  ");
+        row("empty text comes back", "", NumberFormat::Currency, "");
+    }
+    void ATextIsConvertedWhenItIsNumeric()
+    {
+        QFETCH(QString, text);
+        QFETCH(NumberFormat, format);
+        QTEST(Format(text, format), "shown");
+    }
+
+    void ATextBeyondEveryRangeIsAnOverflow()
+    {
+        for (const NumberFormat format : AllFormats)
+            QCOMPARE(ErrorOf([&] { Format(QStringLiteral("1e400"), format); }), 6);
+    }
+
+    void SignsFollowTheUsersLocale_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<NumberFormat>("format");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("German currency") << German << NumberFormat::Currency << QStringLiteral("-1.234,50\u00A0\u20AC");
+        QTest::newRow("German fixed") << German << NumberFormat::Fixed << QStringLiteral("-1234,50");
+        QTest::newRow("German standard") << German << NumberFormat::Standard << QStringLiteral("-1.234,50");
+        QTest::newRow("German general number") << German << NumberFormat::GeneralNumber << QStringLiteral("-1234,5");
+        QTest::newRow("German percent") << German << NumberFormat::Percent << QStringLiteral("-123450,00%");
+        QTest::newRow("Swiss apostrophe") << Swiss << NumberFormat::Standard << QStringLiteral("-1\u2019234.50");
+        QTest::newRow("the C locale counts as the United States")
+            << QLocale::c() << NumberFormat::Currency << QStringLiteral("($1,234.50)");
+    }
+    void SignsFollowTheUsersLocale()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(NumberFormat, format);
+        SetUserLocale(locale);
+        QTEST(Format(Count(-12345000), format), "text");
+    }
+
+    void WhatIsShownIsNumericAndWorthTheSameInEveryLocale()
+    {
+        const auto locales =
+            QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+        QVERIFY(locales.size() > 100);
+        for (const QLocale &locale : locales) {
+            SetUserLocale(locale);
+            for (const NumberFormat format : AllFormats) {
+                if (format == NumberFormat::Percent) // a percent sign is no part of a number
+                    continue;
+                for (const qint64 count : {qint64(0), qint64(500), qint64(-500), qint64(-12345000), qint64(1) << 62}) {
+                    const qint64 cents = (count < 0 ? count - 50 : count + 50) / 100 * 100;
+                    const QString text = Format(Count(count), format);
+                    const QString where = locale.name() + QStringLiteral(": ") + text;
+                    QVERIFY2(IsNumeric(text), qPrintable(where));
+                    QVERIFY2(ToCurrency(text) == Count(format == NumberFormat::GeneralNumber ? count : cents),
+                             qPrintable(where));
+                }
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFormat)
+#include "tst_format.moc"
