@@ -1,6 +1,7 @@
 #include "budget/BudgetGenerator.h"
 
 #include "foundation/Calendar.h"
+#include "foundation/Report.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
 #include "platform/Format.h"
@@ -112,7 +113,7 @@ void LevelDeficitAhead(Run &run)
 void PrintBudgetPage(const BudgetPage &page, bool headingAndResult)
 {
     ApplyPrintSettings();
-    ThePrinter.CentredLine(QStringLiteral("The Corvelle's Tallymere 1.0"));
+    ThePrinter.CentredLine(QString::fromLatin1(ReportTitle));
     ThePrinter.NewLine();
     if (headingAndResult) {
         ThePrinter.CentredLine(page.Heading);

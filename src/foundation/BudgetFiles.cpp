@@ -22,13 +22,12 @@ void Rewrite(const char *title, const char *name, const std::function<void(Outpu
     });
 }
 
-/// How many entries of a list within a record can be read: those beyond its bound fail, each of their two values with
-/// a message of its own, and take nothing from the file.
-int Readable(Loader &loader, int count, int bound)
+/// The entries of a list within a record that lie beyond its bound: they come after the others, each of their two
+/// values fails with a message of its own, and they take nothing from the file.
+void FailBeyond(int bound, int count, Loader &loader)
 {
     if (count > bound)
         loader.Fail(RuntimeError::SubscriptOutOfRange, 2 * qint64(count - bound));
-    return qMin(count, bound);
 }
 
 } // namespace
@@ -72,11 +71,12 @@ void InputPayPeriods()
         ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
         loader.Step([&](InputFile &file) { payPeriod.PayPeriodDate = Format(file.InputString(), DateFormat::Dashes); });
         loader.Read(payPeriod.NumberOfExtraItems);
-        const int items = Readable(loader, payPeriod.NumberOfExtraItems, MostExtraItems);
-        for (int item = 1; item <= items; ++item) {
+        const int items = payPeriod.NumberOfExtraItems;
+        for (int item = 1; item <= qMin(items, MostExtraItems); ++item) {
             loader.Read(payPeriod.ExtraItems(item).ExtraItem);
             loader.ReadByText(payPeriod.ExtraItems(item).ExtraItemAmount);
         }
+        FailBeyond(MostExtraItems, items, loader);
     }
 }
 
@@ -97,11 +97,12 @@ void InputProjects()
         loader.Read(State.ProjectNames(i));
         loader.Read(State.ProjectAmounts(i));
         loader.Read(State.ProjectEntryCounts(i));
-        const int entries = Readable(loader, State.ProjectEntryCounts(i), MostProjectEntries);
-        for (int entry = 1; entry <= entries; ++entry) {
+        const int entries = State.ProjectEntryCounts(i);
+        for (int entry = 1; entry <= qMin(entries, MostProjectEntries); ++entry) {
             loader.Step([&](InputFile &file) { State.ProjectEntryDates(i)(entry) = file.InputString(); });
             loader.ReadByText(State.ProjectEntryAmounts(i)(entry));
         }
+        FailBeyond(MostProjectEntries, entries, loader);
     }
 }
 

@@ -1,0 +1,34 @@
+// The monthly statement: what a month costs, compared with what a month brings in.
+#pragma once
+
+#include "budget/BudgetGenerator.h"
+
+#include <optional>
+
+/// The statement's own state: a pay frequency that is none leaves both at their last value. A test puts it back with one
+/// assignment.
+struct OverheadState {
+    Currency MonthlyNetIncome;      ///< the paycheck converted to a month
+    Currency RegularMonthlyAmount;  ///< the regular item under work, converted to a month
+};
+inline OverheadState Overhead;
+
+/// An amount per pay period as an amount per month: times 52, 26 or 24, divided by 12; monthly unchanged. The
+/// multiplication is exact, the division in double, rounded once to the ten-thousandth, ties to even. Nothing for any
+/// other frequency. Raises error 6 beyond the range of Currency.
+std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency);
+
+/// The statement. Creditors are monthly as they stand; each regular item is converted and rounded by itself.
+struct OverheadStatement {
+    Currency MonthlyNetIncome;
+    std::vector<BudgetLine> Lines;
+    Currency TotalOverhead;
+    QString ResultLabel; ///< "Remaining Funds" or "DEFICIT"
+    Currency Result;
+};
+
+/// Computes the statement from the shared state and leaves its rest in State.BudgetBalance.
+OverheadStatement CalculateOverhead();
+
+/// Prints the same figures.
+void PrintOverhead();

@@ -1,0 +1,41 @@
+#include "budget/SavingsForecast.h"
+
+#include "budget/BudgetGenerator.h"
+#include "foundation/State.h"
+#include "platform/Format.h"
+#include "platform/Numbers.h"
+#include "platform/Printer.h"
+
+void ForecastSavings()
+{
+    State.ForecastMode = true;
+    Forecast.AccumulatedSavings = {};
+    for (int row = 1; row <= State.ForecastPeriods; ++row) {
+        GenerateBudget(); // looks ahead
+        GenerateBudget(); // budgets the row's pay period
+        Forecast.ForecastDates(row) = Format(State.PayPeriodDate.Date(), DateFormat::Long);
+        Forecast.ForecastSavingsAmounts(row) = FormatCurrency(State.BudgetBalance);
+        Forecast.AccumulatedSavings += State.BudgetBalance;
+        Forecast.ForecastAccumulated(row) = FormatCurrency(Forecast.AccumulatedSavings);
+    }
+    if (State.PrintSavingsForecast) {
+        PrintReportTitle(QStringLiteral("SAVINGS FORECAST"));
+        PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Savings"), QStringLiteral("Accumulated"),
+                        ForecastRows());
+    }
+    State.ForecastMode = false;
+    State.PrintSavingsForecast = false;
+    ThePrinter.EndDoc(); // whether or not anything was printed
+}
+
+std::vector<DatedRow> ForecastRows()
+{
+    std::vector<DatedRow> rows;
+    for (int row = 1; row <= State.ForecastPeriods; ++row) {
+        const QString &savings = Forecast.ForecastSavingsAmounts(row);
+        const QString &accumulated = Forecast.ForecastAccumulated(row);
+        rows.push_back({Forecast.ForecastDates(row), savings, accumulated, ToCurrency(savings) < Currency(),
+                        ToCurrency(accumulated) < Currency()});
+    }
+    return rows;
+}

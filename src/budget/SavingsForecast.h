@@ -1,0 +1,29 @@
+// The savings forecast: the budget run silently over many pay periods ahead, what each would save, and the running
+// total.
+#pragma once
+
+#include "foundation/Report.h"
+#include "platform/Currency.h"
+#include "platform/OneBased.h"
+
+constexpr int MostForecastPeriods = 1000;
+
+/// The forecast's own state: it keeps its rows after a run, as texts with two decimals, and projects work from these
+/// texts. A test puts it back with one assignment.
+struct ForecastState {
+    OneBased<QString> ForecastDates = OneBased<QString>::OfSize(MostForecastPeriods); ///< "mmmm d, yyyy"
+    OneBased<QString> ForecastSavingsAmounts = OneBased<QString>::OfSize(MostForecastPeriods);
+    OneBased<QString> ForecastAccumulated = OneBased<QString>::OfSize(MostForecastPeriods);
+    Currency AccumulatedSavings; ///< the running total while the forecast runs
+    qint16 ForecastPickRow = 0;  ///< the row picked as a project's completion date
+    Currency ForecastPickAccumulated;
+};
+inline ForecastState Forecast;
+
+/// Runs State.ForecastPeriods pairs of budget runs from State.BudgetPeriodStart on, which is left behind the last row,
+/// and prints the forecast if State.PrintSavingsForecast. Raises error 9 beyond 1000 rows, else what GenerateBudget
+/// raises.
+void ForecastSavings();
+
+/// The rows of the last run as they are shown: an amount is red when its text is below 0.
+std::vector<DatedRow> ForecastRows();

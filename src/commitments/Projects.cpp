@@ -1,0 +1,101 @@
+#include "commitments/Projects.h"
+
+#include "budget/SavingsForecast.h"
+#include "platform/Format.h"
+#include "platform/Numbers.h"
+
+namespace {
+
+void RedimProjects(int count, bool preserve)
+{
+    const auto redim = [&](auto &array) { preserve ? array.RedimPreserve(count) : array.Redim(count); };
+    redim(State.ProjectNames);
+    redim(State.ProjectAmounts);
+    redim(State.ProjectEntryCounts);
+    redim(State.ProjectEntryDates);
+    redim(State.ProjectEntryAmounts);
+}
+
+} // namespace
+
+std::optional<Refusal> ValidateProjectEntry(const ProjectPanel &panel)
+{
+    return FirstFailure({
+        {IsNumeric(panel.Amount), "Please enter a numerical dollar amount in the Project Amount field",
+         "txtProjectAmount"},
+        {!panel.Project.isEmpty(), "Please enter a project description in the Project field", "txtProject"},
+    });
+}
+
+std::optional<QString> ValidateProjectFunds(Currency amount)
+{
+    if (Forecast.ForecastPickAccumulated >= amount)
+        return {};
+    return QStringLiteral("Tallymere did not find enough funds by the selected Completion Date. Double-click on the "
+                          "Completion Date box to select a later completion date which has at least the Project Amount "
+                          "available in the Accumulated column.");
+}
+
+void AddProject(const QString &name, Currency amount)
+{
+    const qint16 count = ToInteger(State.NumberOfProjects + 1);
+    RedimProjects(count, true);
+    State.NumberOfProjects = count;
+    State.ProjectNames(count) = name;
+    State.ProjectAmounts(count) = amount;
+    State.ProjectEntryCounts(count) = Forecast.ForecastPickRow;
+    for (int entry = 1; entry <= Forecast.ForecastPickRow; ++entry) {
+        const double savings = ToCurrency(Forecast.ForecastSavingsAmounts(entry)).ToDouble();
+        const double accumulated = ToCurrency(Forecast.ForecastAccumulated(Forecast.ForecastPickRow)).ToDouble();
+        State.ProjectEntryDates(count)(entry) = Forecast.ForecastDates(entry);
+        State.ProjectEntryAmounts(count)(entry) = Currency::FromDouble(savings / accumulated * amount.ToDouble());
+    }
+}
+
+void DeleteProject(int index)
+{
+    if (State.NumberOfProjects < 2) {
+        RedimProjects(0, false);
+        State.NumberOfProjects = 0;
+        return;
+    }
+    auto names = State.ProjectNames;
+    const auto amounts = State.ProjectAmounts;
+    const auto counts = State.ProjectEntryCounts;
+    const auto dates = State.ProjectEntryDates;
+    const auto entryAmounts = State.ProjectEntryAmounts;
+    names(index).clear();
+    RedimProjects(State.NumberOfProjects - 1, false);
+    int next = 0;
+    for (int i = 1; i <= State.NumberOfProjects; ++i) {
+        if (names(i).isEmpty())
+            continue;
+        State.ProjectNames(++next) = names(i);
+        State.ProjectAmounts(next) = amounts(i);
+        State.ProjectEntryCounts(next) = counts(i);
+        State.ProjectEntryDates(next) = dates(i);
+        State.ProjectEntryAmounts(next) = entryAmounts(i);
+    }
+    --State.NumberOfProjects;
+}
+
+std::vector<DatedRow> ProjectRows(int project)
+{
+    std::vector<DatedRow> rows;
+    Currency total;
+    for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry) {
+        const Currency amount = std::as_const(State.ProjectEntryAmounts)(project)(entry);
+        total += amount;
+        rows.push_back({FormatLongDate(std::as_const(State.ProjectEntryDates)(project)(entry)), FormatCurrency(amount),
+                        FormatCurrency(total), amount < Currency(), total < Currency()});
+    }
+    return rows;
+}
+
+void PrintProject(int project)
+{
+    PrintReportTitle(State.ProjectNames(project));
+    PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated"),
+                    ProjectRows(project));
+    ThePrinter.EndDoc();
+}

@@ -1,0 +1,21 @@
+// The edits of the array of regular items: amounts that are spent in every pay period, in order of entry.
+#pragma once
+
+#include "foundation/Refusal.h"
+#include "foundation/State.h"
+
+struct RegularPanel {
+    QString Amount;
+    QString Item;
+};
+
+constexpr int RegularsHelp = 23; ///< help context
+
+/// An amount that is no number or an empty description is refused.
+std::optional<Refusal> ValidateRegularEntry(const RegularPanel &panel);
+
+void AddRegular(const RegularRecord &record);
+/// Error 9 where there is no such record.
+void ChangeRegular(int index, const RegularRecord &record);
+/// As DeleteCreditor, with the description as the mark; the last one leaves nothing.
+void DeleteRegular(int index);
