@@ -8,6 +8,7 @@ packages_to_run=(
     ninja-build         # carries it out
     qt6-base-dev        # Qt 6: core, widgets, printing, and what runs them under X
     qt6-svg-dev         # draws the icons
+    libxcb1-dev         # talks to the X server about windows of other programs
     qt6-wayland         # what runs Qt programs on a Wayland desktop without X
     fonts-dejavu-core   # a font on a machine that has none
 )

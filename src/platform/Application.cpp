@@ -4,6 +4,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/WindowRegister.h"
 
+#include <QScopedValueRollback>
+
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(QStringLiteral("Tallymere"));
@@ -24,6 +26,10 @@ bool Application::notify(QObject *receiver, QEvent *event)
 
 void ReportFatalError(const RuntimeError &error)
 {
+    static bool reporting = false; // timers go on under the box, and what fails in them would pile up boxes
+    if (reporting)
+        return;
+    const QScopedValueRollback once(reporting, true);
     ShowMessage(QStringLiteral("Run-time error '%1':\n\n%2").arg(int(error.Number)).arg(error.Description()), AppTitle,
                 Icon::Stop);
     TheDesk.EndProgram();

@@ -14,5 +14,5 @@ public:
 class RuntimeError;
 
 /// The default report of an error: title AppTitle, "Run-time error '13':", an empty line, the description. Then the
-/// program ends.
+/// program ends. What else fails while the report stands open is not reported.
 void ReportFatalError(const RuntimeError &error);

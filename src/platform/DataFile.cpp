@@ -24,7 +24,9 @@ bool IsLineEnd(char c)
 /// UTF-8; a value that is not is Windows-1252, so that old files load.
 QString Decoded(QByteArrayView bytes)
 {
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // Only the file's own byte-order mark is skipped, not one in a value.
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = utf8(bytes);
     if (!utf8.hasError())
         return text;
@@ -53,7 +55,7 @@ QString WithPlatformSeparators(QString path)
 /// The permission bits are asked, not the user's rights: a write-protected household stays so for root as well.
 bool IsWriteProtected(const QFileInfo &file)
 {
-    constexpr auto writeBits = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+    constexpr auto writeBits = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     return file.exists() && !(file.permissions() & writeBits);
 }
 
@@ -235,7 +237,7 @@ void OutputFile::Open(const QString &givenPath)
     m_file.close();
     const QString path = ExistingPath(givenPath);
     const QFileInfo info(path);
-    if (info.isDir() || IsWriteProtected(info))
+    if (path.isEmpty() || info.isDir() || IsWriteProtected(info))
         RaiseError(RuntimeError::PathFileAccess);
     m_file.setFileName(path);
     errno = 0;

@@ -11,10 +11,10 @@ namespace {
 constexpr int FirstYear = 100;
 constexpr int LastYear = 9999;
 
-const QStringList MonthNames{
-    QStringLiteral("january"),   QStringLiteral("february"), QStringLiteral("march"),    QStringLiteral("april"),
-    QStringLiteral("may"),       QStringLiteral("june"),     QStringLiteral("july"),     QStringLiteral("august"),
-    QStringLiteral("september"), QStringLiteral("october"),  QStringLiteral("november"), QStringLiteral("december")};
+const QStringList MonthNames{QStringLiteral("january"), QStringLiteral("february"), QStringLiteral("march"),
+                             QStringLiteral("april"),   QStringLiteral("may"),      QStringLiteral("june"),
+                             QStringLiteral("july"),    QStringLiteral("august"),   QStringLiteral("september"),
+                             QStringLiteral("october"), QStringLiteral("november"), QStringLiteral("december")};
 
 int MonthNumber(const QString &word)
 {
@@ -135,14 +135,19 @@ QString Format(QDate date, DateFormat format)
 {
     const QString year = QString::number(date.year()).rightJustified(4, QLatin1Char('0'));
     const auto two = [](int number) { return QString::number(number).rightJustified(2, QLatin1Char('0')); };
-    const QString longDate = QStringLiteral("%1 %2, %3")
-                                 .arg(QLocale::c().monthName(date.month()), QString::number(date.day()), year);
+    const QString longDate =
+        QStringLiteral("%1 %2, %3").arg(QLocale::c().monthName(date.month()), QString::number(date.day()), year);
     switch (format) {
-    case DateFormat::Long: return longDate;
-    case DateFormat::Dashes: return two(date.month()) + QLatin1Char('-') + two(date.day()) + QLatin1Char('-') + year;
-    case DateFormat::Short: return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(date.year());
-    case DateFormat::ShortYear: return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(year.right(2));
-    case DateFormat::Weekday: return QLocale::c().dayName(date.dayOfWeek()) + QStringLiteral("  ") + longDate;
+    case DateFormat::Long:
+        return longDate;
+    case DateFormat::Dashes:
+        return two(date.month()) + QLatin1Char('-') + two(date.day()) + QLatin1Char('-') + year;
+    case DateFormat::Short:
+        return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(date.year());
+    case DateFormat::ShortYear:
+        return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(year.right(2));
+    case DateFormat::Weekday:
+        return QLocale::c().dayName(date.dayOfWeek()) + QStringLiteral("  ") + longDate;
     }
     return {};
 }

@@ -1,4 +1,5 @@
-// Windows of other programs, where the windowing system lets a program reach them: on X11. Elsewhere none is ever found.
+// Windows of other programs, where the windowing system lets a program reach them: on X11. Elsewhere none is ever
+// found.
 #pragma once
 
 #include <QByteArray>

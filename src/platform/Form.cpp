@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 
 Form::Form() : QWidget(nullptr, Qt::Window) {}
 
@@ -28,16 +29,24 @@ void Form::FocusOn(QWidget *control)
 
 QWidget *Form::FocusControl() const
 {
-    return m_focus && m_focus->isEnabled() && m_focus->isVisibleTo(this) ? m_focus.data() : FirstControl();
+    // The toolkit knows better where a control was disabled, or clicked, while another window was active.
+    if (CanHaveFocus(focusWidget()))
+        return focusWidget();
+    return CanHaveFocus(m_focus) ? m_focus.data() : FirstControl();
 }
 
 QWidget *Form::FirstControl() const
 {
     for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
-        if (widget->window() == this && (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() &&
-            widget->isVisibleTo(this))
+        if ((widget->focusPolicy() & Qt::TabFocus) && CanHaveFocus(widget))
             return widget;
     return nullptr;
+}
+
+bool Form::CanHaveFocus(const QWidget *control) const
+{
+    return control && control != this && control->window() == this && control->isEnabled() &&
+           control->isVisibleTo(this) && !qobject_cast<const QMenuBar *>(control);
 }
 
 void Form::EnterRing(const QList<QLineEdit *> &ring)
@@ -76,6 +85,8 @@ bool Form::HandleEnter(QObject *control)
 
 void Form::closeEvent(QCloseEvent *event)
 {
+    if (TheWindows.Loaded(objectName()) != this) // ended already
+        return;
     event->ignore(); // the register hides and ends the window itself
     TheWindows.Unload(objectName(), CloseMode::CloseBox);
 }

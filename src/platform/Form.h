@@ -34,7 +34,7 @@ public:
     virtual bool TakesActivation() const { return true; }
 
     /// Moves the focus to a control of this window. In the active window its got-focus comes at once, in any other
-    /// with the next activation. A disabled control is left alone.
+    /// with the next activation, and in the window's own Activate right after it. A disabled control is left alone.
     void FocusOn(QWidget *control);
     /// The control that has the focus or will have it when the window is activated.
     QWidget *FocusControl() const;
@@ -52,9 +52,12 @@ protected:
 private:
     friend class WindowRegister;
     QWidget *FirstControl() const;
+    bool CanHaveFocus(const QWidget *control) const;
     bool HandleEnter(QObject *control);
 
     QPointer<QWidget> m_focus;
+    QList<CloseMode> m_asked; // the closings whose QueryUnload runs
+    bool m_unloading = false; // Unload runs
     QHash<const QObject *, std::function<void()>> m_enter;
     QHash<const QObject *, std::function<void()>> m_gotFocus;
     QHash<const QObject *, std::function<void()>> m_lostFocus;

@@ -12,6 +12,7 @@
 namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
+constexpr int DefaultTwips = 960; // of a column that was given no width
 }
 
 /// The rows of a grid. The view is told of any number of changes at once, when the program comes to rest.
@@ -38,7 +39,8 @@ public:
 
     Cell &At(int row, int column)
     {
-        if (row < 0 || column < 0 || column >= m_columns)
+        Check(column);
+        if (row < 0)
             RaiseError(RuntimeError::SubscriptOutOfRange);
         if (row >= Rows())
             m_rows.resize(std::size_t(row) + 1, Row(std::size_t(m_columns)));
@@ -68,10 +70,21 @@ public:
                 cell.Text.clear();
         Touch();
     }
-    std::vector<bool> &Right()
+    void SetRight(int column, bool right)
     {
+        Check(column);
+        m_right[std::size_t(column)] = right;
         Touch();
-        return m_right;
+    }
+    bool Right(int column) const
+    {
+        Check(column);
+        return m_right[std::size_t(column)];
+    }
+    void Check(int column) const
+    {
+        if (column < 0 || column >= m_columns)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
     }
 
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownRows; }
@@ -103,7 +116,8 @@ private:
         case Qt::ForegroundRole:
             if (cell.Colour == GridColour::Text)
                 return {};
-            return QBColor(int(cell.Colour), m_grid->palette().color(QPalette::Base), m_grid->palette().color(QPalette::Text));
+            return QBColor(int(cell.Colour), m_grid->palette().color(row == 0 ? QPalette::Button : QPalette::Base),
+                           m_grid->palette().color(QPalette::Text));
         default: return {};
         }
     }
@@ -115,8 +129,17 @@ private:
         m_dirty = true;
         QTimer::singleShot(0, this, [this] {
             m_dirty = false;
+            const int rows = qMax(0, Rows() - 1);
+            if (rows == m_shownRows && m_columns == m_shownColumns) {
+                // Where only texts have changed, the view stays where the user has scrolled it.
+                if (rows > 0 && m_columns > 0)
+                    Q_EMIT dataChanged(index(0, 0), index(rows - 1, m_columns - 1));
+                if (m_columns > 0)
+                    Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_columns - 1);
+                return;
+            }
             beginResetModel();
-            m_shownRows = qMax(0, Rows() - 1);
+            m_shownRows = rows;
             m_shownColumns = m_columns;
             endResetModel();
         });
@@ -153,7 +176,10 @@ Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
         m_currentRow = row;
         Q_EMIT Click();
     };
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [=] { clickRow(0); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this, clickRow] {
+        selectionModel()->clear();
+        clickRow(0);
+    });
     connect(this, &QTableView::clicked, this, [=](const QModelIndex &index) { clickRow(index.row() + 1); });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
         SetCurrentRow(m_currentRow);
@@ -164,8 +190,9 @@ Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
 void Grid::SetShape(int rows, int columns)
 {
     m_model->SetShape(rows, columns);
-    m_twips.assign(std::size_t(columns), 0);
-    m_currentRow = 0;
+    m_twips.assign(std::size_t(columns), DefaultTwips);
+    SetCurrentRow(0);
+    ShareWidth();
 }
 
 int Grid::Rows() const
@@ -220,25 +247,25 @@ void Grid::ClearBelowHeading()
 
 void Grid::SetColumnWidth(int column, int twips)
 {
-    if (column < 0 || column >= Columns())
-        RaiseError(RuntimeError::SubscriptOutOfRange);
+    m_model->Check(column);
     m_twips[std::size_t(column)] = twips;
     ShareWidth();
 }
 
 int Grid::ColumnWidth(int column) const
 {
-    return m_twips.at(std::size_t(column));
+    m_model->Check(column);
+    return m_twips[std::size_t(column)];
 }
 
 void Grid::SetRightAligned(int column, bool right)
 {
-    m_model->Right().at(std::size_t(column)) = right;
+    m_model->SetRight(column, right);
 }
 
 bool Grid::RightAligned(int column) const
 {
-    return m_model->Right().at(std::size_t(column));
+    return m_model->Right(column);
 }
 
 void Grid::SetRowsInView(int rows)

@@ -1,16 +1,27 @@
 #include "platform/ListBox.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace {
+
+class Item : public QListWidgetItem
+{
+public:
+    using QListWidgetItem::QListWidgetItem;
+    bool operator<(const QListWidgetItem &other) const override
+    {
+        return text().compare(other.text(), Qt::CaseInsensitive) < 0;
+    }
+};
+
+} // namespace
 
 ListBox::ListBox(QWidget *parent) : QListWidget(parent)
 {
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
     setTabKeyNavigation(false);
-    connect(this, &QListWidget::clicked, this, [this](const QModelIndex &index) {
-        Select(index.row());
-        Q_EMIT Click();
-    });
     connect(this, &QListWidget::doubleClicked, this, [this] { Q_EMIT DoubleClick(); });
 }
 
@@ -44,7 +55,7 @@ void ListBox::Clear()
 
 void ListBox::AddItem(const QString &text)
 {
-    addItem(text);
+    addItem(new Item(text));
 }
 
 QStringList ListBox::Items() const
@@ -75,4 +86,21 @@ void ListBox::keyPressEvent(QKeyEvent *event)
         Select(currentRow());
         Q_EMIT Click();
     }
+}
+
+void ListBox::mousePressEvent(QMouseEvent *event)
+{
+    QListWidget::mousePressEvent(event);
+    m_pressed = event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
+}
+
+void ListBox::mouseReleaseEvent(QMouseEvent *event)
+{
+    QListWidget::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton || !m_pressed)
+        return;
+    // The selection has followed the mouse, so the row that it was let go on counts, not the one that it was pressed on.
+    m_pressed = false;
+    if (ListIndex() >= 0)
+        Q_EMIT Click();
 }

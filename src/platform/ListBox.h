@@ -1,5 +1,6 @@
 // A list whose click opens, picks or moves on: the arrow keys only move the mark, and Enter or Space is the click.
 // The selected row is the one that was clicked last; filling the list or moving the focus into it selects nothing.
+// A list that sorts (its property sortingEnabled) ignores case.
 #pragma once
 
 #include <QListWidget>
@@ -27,7 +28,10 @@ Q_SIGNALS:
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void Select(int row);
+    bool m_pressed = false;
 };

@@ -11,6 +11,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QRegularExpression>
+#include <QSaveFile>
 
 namespace {
 
@@ -41,6 +42,11 @@ QString FreePdfPath(const QString &folder)
     for (int copy = 2; QFile::exists(path); ++copy)
         path = QStringLiteral("%1/%2 (%3).pdf").arg(folder, stamp).arg(copy);
     return path;
+}
+
+QPageSize::PageSizeId PaperOf(const QLocale &locale)
+{
+    return locale.measurementSystem() == QLocale::MetricSystem ? QPageSize::A4 : QPageSize::Letter;
 }
 
 } // namespace
@@ -83,8 +89,12 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
 QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
 {
     const QMarginsF margins(Margin, Margin, Margin, Margin);
-    if (const QPrinterInfo info = QPrinterInfo::defaultPrinter(); !info.isNull()) {
+    QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull()) // printers may be installed without one being the default
+        info = QPrinterInfo::availablePrinters().value(0);
+    if (!info.isNull()) {
         QPrinter printer(info, QPrinter::HighResolution);
+        printer.setDocName(job.Lines.value(2).trimmed());
         printer.setPageMargins(margins, QPageLayout::Millimeter);
         DrawDocument(job, printer);
         return {};
@@ -92,12 +102,18 @@ QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
     if (!QDir().mkpath(folder))
         RaiseError(RuntimeError::PathFileAccess);
     const QString path = FreePdfPath(folder);
-    QPdfWriter pdf(path);
-    pdf.setCreator(AppTitle);
-    pdf.setTitle(job.Lines.value(2).trimmed());
-    pdf.setPageSize(QPageSize(QLocale::system().measurementSystem() == QLocale::MetricSystem ? QPageSize::A4
-                                                                                              : QPageSize::Letter));
-    pdf.setPageMargins(margins, QPageLayout::Millimeter);
-    DrawDocument(job, pdf);
+    QSaveFile file(path); // a disk that fills up leaves no half document behind
+    if (!file.open(QIODevice::WriteOnly))
+        RaiseError(RuntimeError::DeviceError);
+    {
+        QPdfWriter pdf(&file);
+        pdf.setCreator(AppTitle);
+        pdf.setTitle(job.Lines.value(2).trimmed());
+        pdf.setPageSize(QPageSize(PaperOf(QLocale::system())));
+        pdf.setPageMargins(margins, QPageLayout::Millimeter);
+        DrawDocument(job, pdf);
+    }
+    if (!file.commit())
+        RaiseError(RuntimeError::DeviceError);
     return path;
 }

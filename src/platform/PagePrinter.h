@@ -7,7 +7,7 @@ class QPagedPaintDevice;
 class QPainter;
 
 /// Prints to the default printer; on a machine without one, to a new PDF file in `folder`, whose path is returned.
-/// Raises error 57 when neither works.
+/// Raises error 75 where that folder cannot be made, 57 where printing or writing fails.
 QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder);
 
 /// Draws a document on a device whose page layout is set, on as many pages as it needs; returns how many.

@@ -26,9 +26,16 @@ QMessageBox::Icon BoxIcon(Icon icon)
     return QMessageBox::NoIcon;
 }
 
+/// The window that a dialog stands over. One that is minimized would keep the dialog from the screen.
+QWidget *DialogParent()
+{
+    Form *front = TheWindows.Front();
+    return front && !front->isMinimized() ? front : nullptr;
+}
+
 Answer ShowBox(const Message &message)
 {
-    QMessageBox box(TheWindows.Active());
+    QMessageBox box(DialogParent());
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(message.Title);
     box.setTextFormat(Qt::PlainText);
@@ -36,8 +43,10 @@ Answer ShowBox(const Message &message)
     box.setIcon(BoxIcon(message.TheIcon));
     if (message.TheButtons == Buttons::YesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes); // the first button is the default one
     } else {
         box.setStandardButtons(QMessageBox::Ok);
+        box.setDefaultButton(QMessageBox::Ok);
         box.setEscapeButton(QMessageBox::Ok);
     }
     if (message.TheButtons == Buttons::OkHelp) {
@@ -75,8 +84,8 @@ QString AskFile(const FileQuestion &question)
     QString answer;
     TheWindows.WhileAway([&] {
         answer = question.TheKind == FileQuestion::Open
-                     ? QFileDialog::getOpenFileName(TheWindows.Active(), QString(), start, DialogFilter(question.Filter))
-                     : QFileDialog::getSaveFileName(TheWindows.Active(), QString(), start, DialogFilter(question.Filter));
+                     ? QFileDialog::getOpenFileName(DialogParent(), QString(), start, DialogFilter(question.Filter))
+                     : QFileDialog::getSaveFileName(DialogParent(), QString(), start, DialogFilter(question.Filter));
     });
     return answer;
 }

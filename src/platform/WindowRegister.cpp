@@ -7,26 +7,17 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QWindow>
+#include <utility>
 
 namespace {
 
 // An X server needs a moment to activate what it was asked to; after that a late answer counts as the user's own.
 constexpr int ActivationPatience = 700; // milliseconds
-
-class Counted
-{
-public:
-    explicit Counted(int &counter) : m_counter(counter) { ++m_counter; }
-    ~Counted() { --m_counter; }
-    Counted(const Counted &) = delete;
-    Counted &operator=(const Counted &) = delete;
-
-private:
-    int &m_counter;
-};
 
 Form *FormOf(QWidget *widget)
 {
@@ -35,9 +26,35 @@ Form *FormOf(QWidget *widget)
 
 } // namespace
 
+/// While one stands, the program does not end for want of windows.
+class WindowRegister::Busy
+{
+public:
+    Busy(WindowRegister &windows, int &counter) : m_windows(windows), m_counter(counter) { ++m_counter; }
+    ~Busy()
+    {
+        --m_counter;
+        if (m_windows.m_endWaits)
+            m_windows.EndWhenLastIsGone();
+    }
+    Busy(const Busy &) = delete;
+    Busy &operator=(const Busy &) = delete;
+
+private:
+    WindowRegister &m_windows;
+    int &m_counter;
+};
+
 void WindowRegister::Declare(const QString &name, const Factory &factory)
 {
     m_factories.insert(name, factory);
+}
+
+QStringList WindowRegister::Names() const
+{
+    QStringList names = m_factories.keys();
+    names.sort();
+    return names;
 }
 
 void WindowRegister::Start()
@@ -52,7 +69,7 @@ Form &WindowRegister::Touch(const QString &name)
         return *form;
     const Factory factory = m_factories.value(name);
     Q_ASSERT_X(factory, "Touch", qPrintable(name));
-    const Counted transition(m_transition);
+    const Busy transition(*this, m_transition);
     Form *form = factory();
     form->setObjectName(name);
     m_loaded.insert(name, form);
@@ -62,28 +79,55 @@ Form &WindowRegister::Touch(const QString &name)
 
 void WindowRegister::Show(const QString &name)
 {
-    Present(Touch(name));
+    Form &form = Touch(name);
+    if (Loaded(name) == &form) // its Load may have ended it
+        Present(form);
 }
 
 void WindowRegister::ShowModal(const QString &name)
 {
     Form &form = Touch(name);
-    if (!form.isVisible())
+    if (Loaded(name) != &form)
+        return;
+    if (!form.isVisible()) {
+        // A dialog of the active window: no click on the blocked windows can cover it.
+        form.setWindowFlags((form.windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
         form.setWindowModality(Qt::ApplicationModal);
-    const QPointer<Form> stillThere = &form;
+        form.winId();
+        if (const Form *caller = Front())
+            form.windowHandle()->setTransientParent(caller->windowHandle());
+    }
     QEventLoop loop;
     m_modals.append({&form, &loop});
     Present(form);
-    if (stillThere && form.isVisible() && !m_modals.isEmpty() && m_modals.last().Loop == &loop)
+    if (Loaded(name) == &form && form.isVisible()) {
+        // The user is at work again inside, whatever it was that led here.
+        const QScopedValueRollback noTransition(m_transition, 0);
+        const QScopedValueRollback notAway(m_away, 0);
         loop.exec();
+    }
     m_modals.removeIf([&](const Modal &modal) { return modal.Loop == &loop; });
+    if (Loaded(name) == &form && !form.isVisible()) {
+        form.setWindowModality(Qt::NonModal);
+        form.setWindowFlags((form.windowFlags() & ~Qt::WindowType_Mask) | Qt::Window);
+    }
+    BuryTheRest();
+    if (m_endWaits)
+        EndWhenLastIsGone();
 }
 
 void WindowRegister::Present(Form &form)
 {
-    const Counted transition(m_transition);
-    if (!form.TakesActivation())
+    const Busy transition(*this, m_transition);
+    if (form.isMinimized())
+        form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
+    if (!form.TakesActivation()) {
         form.setAttribute(Qt::WA_ShowWithoutActivating);
+        if (m_active && !form.isVisible()) { // should the toolkit activate it all the same, the active one is asked for
+            m_expected = m_active;
+            m_patience.setRemainingTime(ActivationPatience);
+        }
+    }
     form.show();
     form.raise();
     if (form.TakesActivation())
@@ -93,18 +137,15 @@ void WindowRegister::Present(Form &form)
 void WindowRegister::Hide(const QString &name)
 {
     Form &form = Touch(name);
+    if (Loaded(name) != &form)
+        return;
     const bool wasActive = m_active == &form;
+    m_history.removeAll(&form);
     if (wasActive) {
         ++m_moves;
-        m_active = nullptr;
-        if (QWidget *control = form.FocusControl())
-            form.LostFocus(control);
-        form.Deactivate();
+        Leave(&form);
     }
-    form.hide();
-    m_history.removeAll(&form);
-    if (wasActive && !m_active)
-        ActivatePrevious();
+    PutAway(&form, wasActive);
     LeaveModal(&form);
     EndWhenLastIsGone();
 }
@@ -112,30 +153,64 @@ void WindowRegister::Hide(const QString &name)
 bool WindowRegister::Unload(const QString &name, Form::CloseMode mode)
 {
     Form *form = Loaded(name);
-    if (!form)
+    if (!form || form->m_unloading) // a window that unloads itself in its Unload is on its way
         return true;
-    if (!form->QueryUnload(mode))
+    if (form->m_asked.contains(mode)) // nor is it asked twice at a time
         return false;
+    form->m_asked.append(mode);
+    const bool agreed = form->QueryUnload(mode);
+    form->m_asked.removeAll(mode);
     if (Loaded(name) != form) // the query itself has ended the window
         return true;
-    form->Unload();
-    if (Loaded(name) != form)
-        return true;
+    if (!agreed)
+        return false;
+    {
+        const QScopedValueRollback unloading(form->m_unloading, true);
+        form->Unload();
+    }
     m_loaded.remove(name);
+    PutAway(form, m_active == form);
+    Bury(form);
+    LeaveModal(form);
+    EndWhenLastIsGone();
+    return true;
+}
+
+/// Takes a window from the screen without telling it. If the user worked in it, the previous one is active again.
+void WindowRegister::PutAway(Form *form, bool wasActive)
+{
+    const bool toolkitIsThere = QApplication::activeWindow() == form;
     m_history.removeAll(form);
-    const bool wasActive = m_active == form;
-    if (wasActive)
+    if (m_active == form) {
         m_active = nullptr;
+        m_told = nullptr;
+    }
     {
         const QScopedValueRollback moving(m_movingFocus, true);
         form->hide();
     }
-    form->deleteLater();
-    if (wasActive)
+    if (wasActive && !m_active)
         ActivatePrevious();
-    LeaveModal(form);
-    EndWhenLastIsGone();
-    return true;
+    else if (toolkitIsThere && m_active) // it was only looked at; the toolkit's choice of the next one is not the user's
+        Expect(m_active);
+}
+
+/// Deletes an ended window as soon as no handler can stand in it and no dialog can hang on it.
+void WindowRegister::Bury(Form *form)
+{
+    const auto timers = form->findChildren<QTimer *>();
+    for (QTimer *timer : timers)
+        timer->stop();
+    m_ended.append(form);
+    BuryTheRest();
+}
+
+void WindowRegister::BuryTheRest()
+{
+    if (m_away > 0 || !m_modals.isEmpty())
+        return;
+    for (Form *form : std::exchange(m_ended, {}))
+        form->deleteLater();
 }
 
 void WindowRegister::LeaveModal(Form *form)
@@ -147,12 +222,16 @@ void WindowRegister::LeaveModal(Form *form)
 
 void WindowRegister::ActivatePrevious()
 {
-    for (Form *form : std::as_const(m_history)) {
-        if (form->isVisible()) {
-            MakeActive(form, false);
-            return;
-        }
-    }
+    if (Form *form = Front())
+        MakeActive(form, false);
+}
+
+Form *WindowRegister::Front() const
+{
+    if (m_active)
+        return m_active;
+    const auto visible = std::find_if(m_history.begin(), m_history.end(), [](Form *form) { return form->isVisible(); });
+    return visible == m_history.end() ? nullptr : *visible;
 }
 
 void WindowRegister::MakeActive(Form *form, bool byUser)
@@ -162,30 +241,49 @@ void WindowRegister::MakeActive(Form *form, bool byUser)
     if (m_active == form)
         return;
     const quint64 move = ++m_moves;
-    if (Form *old = m_active) {
-        if (QWidget *control = old->FocusControl())
-            old->LostFocus(control);
-        old->Deactivate();
-        if (move != m_moves) // a handler has moved on to another window
-            return;
-    }
-    m_active = form;
+    const quint64 life = m_resets;
+    // It leads the history before the old window hears of the move: what a Deactivate shows and closes again gives
+    // the activation to the window that it was meant for.
     m_history.removeAll(form);
     m_history.prepend(form);
-    form->Activate();
-    if (move != m_moves || m_active != form)
+    if (m_active)
+        Leave(m_active);
+    if (move != m_moves || life != m_resets) // a handler has moved on to another window
         return;
-    // A message box that a handler has shown in between may have left the toolkit on the old window.
-    if (!byUser || (m_expected && m_expected != form))
+    if (!m_history.contains(form) || !form->isVisible()) { // the old window's Deactivate has put it away
+        ActivatePrevious();
+        return;
+    }
+    m_active = form;
+    m_arriving = form;
+    form->Activate();
+    if (move != m_moves || life != m_resets || m_active != form)
+        return;
+    m_arriving = nullptr;
+    // A message box that a handler has shown in between may have left the toolkit on another window.
+    if (!byUser || QApplication::activeWindow() != form)
         Expect(form);
     if (QWidget *control = form->FocusControl())
         Enter(form, control);
+}
+
+/// Tells the active window that the user leaves it.
+void WindowRegister::Leave(Form *form)
+{
+    QWidget *control = m_told;
+    m_active = nullptr;
+    m_told = nullptr;
+    if (control)
+        form->LostFocus(control);
+    if (Loaded(form->objectName()) == form)
+        form->Deactivate();
 }
 
 /// Gives the focus to a control of the active window and tells it so.
 void WindowRegister::Enter(Form *form, QWidget *control)
 {
     form->m_focus = control;
+    m_told = control;
     {
         const QScopedValueRollback moving(m_movingFocus, true);
         control->setFocus();
@@ -197,23 +295,31 @@ void WindowRegister::MoveFocus(Form *form, QWidget *control)
 {
     if (!control || !control->isEnabled())
         return;
-    QWidget *old = form->m_focus;
-    const bool told = m_active == form && form->isVisible();
-    if (!told || old == control) {
-        form->m_focus = control;
+    const bool told = m_active == form && m_arriving != form;
+    if (told && !control->isVisible())
+        return;
+    form->m_focus = control;
+    if (!told || m_told == control) {
         const QScopedValueRollback moving(m_movingFocus, true);
         control->setFocus();
         return;
     }
-    if (old)
+    const quint64 step = ++m_steps;
+    if (QWidget *old = std::exchange(m_told, nullptr))
         form->LostFocus(old);
-    Enter(form, control);
+    // The handler may have sent the focus elsewhere.
+    if (step == m_steps && m_active == form && form->m_focus == control && control->isEnabled())
+        Enter(form, control);
 }
 
 void WindowRegister::Expect(Form *form)
 {
-    m_expected = form;
-    m_patience.setRemainingTime(ActivationPatience);
+    // A window that the toolkit has at rest sends no answer that could be waited for.
+    const bool atRest = QApplication::activeWindow() == form && !m_expected && m_patience.hasExpired();
+    if (!atRest) {
+        m_expected = form;
+        m_patience.setRemainingTime(ActivationPatience);
+    }
     form->activateWindow();
 }
 
@@ -224,8 +330,17 @@ bool WindowRegister::AnyVisible() const
 
 void WindowRegister::EndWhenLastIsGone()
 {
-    QTimer::singleShot(0, this, [this] {
-        if (!AnyVisible() && m_transition == 0 && m_away == 0 && !m_factories.isEmpty() && TheDesk.EndProgram)
+    m_endWaits = false;
+    if (std::exchange(m_endAsked, true))
+        return;
+    QTimer::singleShot(0, this, [this, life = m_resets] {
+        if (life != m_resets)
+            return;
+        m_endAsked = false;
+        if (AnyVisible())
+            return;
+        m_endWaits = m_transition > 0 || m_away > 0;
+        if (!m_endWaits && TheDesk.EndProgram)
             TheDesk.EndProgram();
     });
 }
@@ -233,11 +348,12 @@ void WindowRegister::EndWhenLastIsGone()
 void WindowRegister::WhileAway(const std::function<void()> &outside)
 {
     {
-        const Counted away(m_away);
+        const Busy away(*this, m_away);
         outside();
     }
-    if (m_active && m_away == 0)
-        Expect(m_active);
+    BuryTheRest();
+    if (Form *front = Front(); front && m_away == 0)
+        Expect(front);
 }
 
 void WindowRegister::WindowActivated(Form *form)
@@ -250,8 +366,10 @@ void WindowRegister::WindowActivated(Form *form)
         m_expected->activateWindow();
         return;
     }
-    if (!m_modals.isEmpty() && m_modals.last().TheForm != form)
+    if (!m_modals.isEmpty() && m_modals.last().TheForm != form) {
+        m_modals.last().TheForm->activateWindow();
         return;
+    }
     if (form->TakesActivation())
         MakeActive(form, true);
 }
@@ -259,14 +377,18 @@ void WindowRegister::WindowActivated(Form *form)
 void WindowRegister::FocusMoved(QWidget *now)
 {
     Form *form = FormOf(now);
-    if (m_movingFocus || m_away > 0 || !form || form != m_active)
+    // The menu bar holds the focus only while its keys are used.
+    if (m_movingFocus || m_away > 0 || !form || form != m_active || qobject_cast<QMenuBar *>(now))
         return;
-    if (QWidget *old = form->m_focus; old != now) {
-        form->m_focus = now;
-        if (old)
-            form->LostFocus(old);
-        if (m_active == form && form->m_focus == now)
-            form->GotFocus(now);
+    form->m_focus = now;
+    if (m_arriving == form || m_told == now)
+        return;
+    const quint64 step = ++m_steps;
+    if (QWidget *old = std::exchange(m_told, nullptr))
+        form->LostFocus(old);
+    if (step == m_steps && m_active == form && form->m_focus == now) {
+        m_told = now;
+        form->GotFocus(now);
     }
 }
 
@@ -277,48 +399,76 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
         if (auto *form = qobject_cast<Form *>(watched))
             WindowActivated(form);
         break;
+    case QEvent::FocusIn:
+        if (static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason)
+            m_clicked = qobject_cast<QLineEdit *>(watched);
+        break;
     case QEvent::MouseButtonPress:
-        if (auto *widget = qobject_cast<QWidget *>(watched); widget && event->spontaneous()) {
-            Form *form = FormOf(widget);
-            if (form && m_expected && form != m_expected)
-                m_expected = nullptr;
-            // The window system may have told of the activation while another one was expected.
-            if (form && form != m_active && form->isActiveWindow())
-                WindowActivated(form);
+        if (event->spontaneous())
+            Pressed(qobject_cast<QWidget *>(watched));
+        break;
+    case QEvent::MouseButtonRelease:
+        // The press has set the caret in a field that was selected as a whole when it got the focus.
+        if (auto *field = qobject_cast<QLineEdit *>(watched); field && m_clicked == field && FormOf(field)) {
+            if (!field->hasSelectedText())
+                field->selectAll();
+            m_clicked = nullptr;
         }
         break;
     case QEvent::Shortcut:
-        // An access key moves the focus before it clicks.
-        if (auto *button = qobject_cast<QAbstractButton *>(watched); button && button->isEnabled()) {
-            Form *form = FormOf(button);
-            if (form && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
-                MoveFocus(form, button);
-                button->click();
-                return true;
-            }
-        }
-        break;
-    case QEvent::KeyPress: {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter)
-            break;
-        auto *widget = qobject_cast<QWidget *>(watched);
-        Form *form = FormOf(widget);
-        if (!form)
-            break;
-        if (form->HandleEnter(watched))
+        if (AccessKey(watched, *static_cast<QShortcutEvent *>(event)))
             return true;
-        if (qobject_cast<QLineEdit *>(watched))
-            return true; // Enter in a field never presses a button
-        if (auto *button = qobject_cast<QPushButton *>(watched)) {
-            button->click();
-            return true;
-        }
         break;
-    }
+    case QEvent::KeyPress:
+        if (KeyPressed(watched, *static_cast<QKeyEvent *>(event)))
+            return true;
+        break;
     default: break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+/// The user's own click is above every expectation.
+void WindowRegister::Pressed(QWidget *widget)
+{
+    Form *form = FormOf(widget);
+    if (!form)
+        return;
+    const bool overtaken = m_expected && m_expected != form;
+    if (overtaken)
+        m_expected = nullptr;
+    // The window system may have told of the activation while another one was expected.
+    if (form != m_active && form->isActiveWindow())
+        WindowActivated(form);
+    if (overtaken && m_active == form)
+        Expect(form);
+}
+
+/// An access key moves the focus before it clicks.
+bool WindowRegister::AccessKey(QObject *watched, const QShortcutEvent &event)
+{
+    const QPointer<QAbstractButton> button = qobject_cast<QAbstractButton *>(watched);
+    Form *form = FormOf(button);
+    if (!form || !button->isEnabled() || event.isAmbiguous())
+        return false;
+    if (button->focusPolicy() != Qt::NoFocus)
+        MoveFocus(form, button);
+    if (button)
+        button->click();
+    return true;
+}
+
+bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
+{
+    Form *form = FormOf(qobject_cast<QWidget *>(watched));
+    if (!form || (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter))
+        return false;
+    if (form->HandleEnter(watched) || qobject_cast<QLineEdit *>(watched)) // in a field it never presses a button
+        return true;
+    auto *button = qobject_cast<QPushButton *>(watched);
+    if (button && !event.isAutoRepeat()) // a key held down is one click
+        button->click();
+    return button;
 }
 
 void WindowRegister::Reset()
@@ -327,11 +477,17 @@ void WindowRegister::Reset()
     for (const Modal &modal : std::as_const(m_modals))
         modal.Loop->quit();
     m_modals.clear();
+    ++m_resets;
     m_active = nullptr;
+    m_arriving = nullptr;
+    m_told = nullptr;
     m_expected = nullptr;
+    m_endAsked = false;
+    m_endWaits = false;
     m_history.clear();
     const auto forms = m_loaded;
     m_loaded.clear();
     qDeleteAll(forms);
+    qDeleteAll(std::exchange(m_ended, {}));
     m_factories.clear();
 }

@@ -14,6 +14,8 @@
 #include <functional>
 
 class QEventLoop;
+class QKeyEvent;
+class QShortcutEvent;
 
 class WindowRegister : public QObject
 {
@@ -24,6 +26,8 @@ public:
     /// Makes a window known. It comes into being at its first need.
     void Declare(const QString &name, const Factory &factory);
     bool Knows(const QString &name) const { return m_factories.contains(name); }
+    /// The names of all declared windows, in alphabetical order.
+    QStringList Names() const;
 
     /// The window if it is loaded, else null.
     Form *Loaded(const QString &name) const { return m_loaded.value(name); }
@@ -47,6 +51,8 @@ public:
     bool Unload(const QString &name, Form::CloseMode mode = Form::CloseMode::Code);
 
     Form *Active() const { return m_active; }
+    /// The active window, or while the activation is on its way the one that it goes to: what a dialog belongs to.
+    Form *Front() const;
     bool AnyVisible() const;
 
     /// Runs something that is no window of the program, such as a message box: while it lasts and when it ends,
@@ -64,15 +70,25 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    class Busy;
+    friend class Busy;
+
     void Present(Form &form);
     void MakeActive(Form *form, bool byUser);
+    void Leave(Form *form);
     void ActivatePrevious();
     void Enter(Form *form, QWidget *control);
     void Expect(Form *form);
     void WindowActivated(Form *form);
     void FocusMoved(QWidget *now);
+    void PutAway(Form *form, bool wasActive);
+    void Bury(Form *form);
+    void BuryTheRest();
     void EndWhenLastIsGone();
     void LeaveModal(Form *form);
+    void Pressed(QWidget *widget);
+    bool KeyPressed(QObject *watched, const QKeyEvent &event);
+    bool AccessKey(QObject *watched, const QShortcutEvent &event);
 
     struct Modal {
         Form *TheForm;
@@ -83,12 +99,20 @@ private:
     QHash<QString, Form *> m_loaded;
     QList<Form *> m_history; // most recently active first
     QList<Modal> m_modals;
+    QList<Form *> m_ended; // unloaded, but a handler below may still stand in them
     QPointer<Form> m_active;
-    QPointer<Form> m_expected; // the window that the toolkit was asked to activate and has not yet
-    QDeadlineTimer m_patience; // how long it is waited for
-    int m_away = 0;       // inside WhileAway
-    int m_transition = 0; // inside a showing or a load
+    QPointer<Form> m_arriving;   // its Activate runs, its got-focus is still to come
+    QPointer<QWidget> m_told;    // the control that was told last that it has the focus
+    QPointer<QWidget> m_clicked; // the field that a press of the mouse has just moved the focus to
+    QPointer<Form> m_expected;   // the window that the toolkit was asked to activate and has not yet
+    QDeadlineTimer m_patience;   // how long it is waited for
+    int m_away = 0;              // inside WhileAway
+    int m_transition = 0;        // inside a showing or a load
     bool m_movingFocus = false;
-    quint64 m_moves = 0; // counts changes of the active window
+    bool m_endAsked = false; // whether the last window is gone will be looked at
+    bool m_endWaits = false; // the last window was gone while something was under way
+    quint64 m_moves = 0;     // counts changes of the active window
+    quint64 m_steps = 0;     // counts changes of the focus inside it
+    quint64 m_resets = 0;
 };
 inline WindowRegister TheWindows;

@@ -52,7 +52,7 @@ private Q_SLOTS:
             "12-31-2003 01-31-2004 02-29-2004 03-31-2004 04-30-2004 05-31-2004");
         row("monthly, month's end, mid-month start", 30, 0, 0, -1, "01-15-2004 02-29-2004 03-31-2004 04-30-2004");
         row("monthly, month's end, over the year's end", 30, 0, 0, -1, "10-31-2003 11-30-2003 12-31-2003 01-31-2004");
-        row("a first pay day of 0 stays on month ends", 15, 0, 15, 0, "01-20-2004 01-31-2004 02-29-2004 03-31-2004");
+        row("a first pay day of 0 never leaves its month", 15, 0, 15, 0, "01-10-2004 01-15-2004 01-31-2004 01-31-2004");
         row("a first pay day of 0 with pay at the month's end", 15, 0, 0, 0, "01-30-2004 01-31-2004 01-31-2004");
         row("a second pay day beyond the month runs on", 15, 1, 31, 0, "02-15-2005 03-03-2005 03-31-2005 04-01-2005");
         row("a first pay day beyond the month runs on", 15, 31, 15, 0, "01-15-2005 03-03-2005 03-15-2005");

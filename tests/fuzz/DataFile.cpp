@@ -5,6 +5,7 @@
 // Beside what the sanitizers see, these must hold: only RuntimeError is ever thrown; every read takes something from the
 // file or says that it is at its end; a load shows at most 26 boxes; what was loaded without a message is saved without
 // one and loads again as the same; the number and date tests agree with their conversions.
+#include "ErrorOf.h"
 #include "RecordingDesk.h"
 #include "budget/BudgetGenerator.h"
 #include "foundation/BudgetFiles.h"
@@ -25,18 +26,6 @@ void Require(bool holds, const char *what)
         return;
     std::fprintf(stderr, "does not hold: %s\n", what);
     std::abort();
-}
-
-/// The number of the error that `statement` raises, 0 for none.
-template <class Statement>
-int ErrorOf(const Statement &statement)
-{
-    try {
-        statement();
-    } catch (const RuntimeError &error) {
-        return error.Number;
-    }
-    return 0;
 }
 
 // ---------------------------------------------------------------- values from memory

@@ -80,8 +80,8 @@ private Q_SLOTS:
         QTest::newRow("deposits at the beginning earn one period more")
             << 0.01 << 12.0 << -100.0 << 0.0 << 1 << 1280.932804332894;
         QTest::newRow("with savings to begin with") << 0.01 << 12.0 << -100.0 << -1000.0 << 0 << 2395.075331451667;
-        QTest::newRow("a negative count goes back in time") << 0.01 << -3.0 << -100.0 << -1000.0 << 0
-                                                             << 676.491627204089;
+        QTest::newRow("a negative count goes back in time")
+            << 0.01 << -3.0 << -100.0 << -1000.0 << 0 << 676.491627204089;
         QTest::newRow("at a rate of zero it is the plain sum") << 0.0 << 12.0 << -100.0 << -50.0 << 1 << 1250.0;
         QTest::newRow("no periods leave what there is") << 0.01 << 0.0 << -100.0 << -50.0 << 1 << 50.0;
         QTest::newRow("all zero") << 0.0 << 0.0 << 0.0 << 0.0 << 1 << 0.0;
@@ -110,11 +110,11 @@ private Q_SLOTS:
         QTest::addColumn<QList<double>>("principals");
         QTest::newRow("payments at the end")
             << 0
-            << QList<double>{95.582076551171, 96.537897316683, 97.503276289850,  98.478309052748,  99.463092143276,
+            << QList<double>{95.582076551171,  96.537897316683,  97.503276289850,  98.478309052748,  99.463092143276,
                              100.457723064709, 101.462300295356, 102.476923298309, 103.501692531292, 104.536709456605};
         QTest::newRow("at the beginning the first payment bears no interest")
             << 1
-            << QList<double>{104.536709456605, 95.582076551171, 96.537897316683,  97.503276289850,  98.478309052748,
+            << QList<double>{104.536709456605, 95.582076551171,  96.537897316683,  97.503276289850,  98.478309052748,
                              99.463092143276,  100.457723064709, 101.462300295356, 102.476923298309, 103.501692531292};
     }
     void PrincipalOfEveryPayment()

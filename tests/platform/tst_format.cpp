@@ -165,8 +165,7 @@ private Q_SLOTS:
 
     void WhatIsShownIsNumericAndWorthTheSameInEveryLocale()
     {
-        const auto locales =
-            QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
+        const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
         QVERIFY(locales.size() > 100);
         for (const QLocale &locale : locales) {
             SetUserLocale(locale);

@@ -87,8 +87,10 @@ private Q_SLOTS:
         QFETCH(bool, numeric);
         QCOMPARE(IsNumeric(text), numeric);
         // The conversions accept exactly the same.
-        for (const auto &convert : {std::function<void()>([&] { ToCurrency(text); }), {[&] { ToInteger(text); }},
-                                    {[&] { ToSingle(text); }}, {[&] { ToDouble(text); }}})
+        for (const auto &convert : {std::function<void()>([&] { ToCurrency(text); }),
+                                    {[&] { ToInteger(text); }},
+                                    {[&] { ToSingle(text); }},
+                                    {[&] { ToDouble(text); }}})
             QCOMPARE(ErrorOf(convert) == 13, !numeric);
     }
 
@@ -261,14 +263,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("numeric");
         QTest::addColumn<qint64>("tenThousandths");
-        QTest::newRow("German: point parts thousands") << German << QStringLiteral("1.234,50") << true << qint64(12345000);
+        QTest::newRow("German: point parts thousands")
+            << German << QStringLiteral("1.234,50") << true << qint64(12345000);
         QTest::newRow("German: euro behind") << German << QStringLiteral("-5,25 \u20AC") << true << qint64(-52500);
         QTest::newRow("German: no dollar") << German << QStringLiteral("$5") << false << qint64(0);
         QTest::newRow("German: two decimal commas") << German << QStringLiteral("1,2,3") << false << qint64(0);
         QTest::newRow("French: the narrow blank that is shown")
             << French << QStringLiteral("1\u202F234,50") << true << qint64(12345000);
-        QTest::newRow("French: the plain blank that is typed") << French << QStringLiteral("1 234,50") << true
-                                                               << qint64(12345000);
+        QTest::newRow("French: the plain blank that is typed")
+            << French << QStringLiteral("1 234,50") << true << qint64(12345000);
         QTest::newRow("the C locale counts as the United States")
             << QLocale::c() << QStringLiteral("$1,234.50") << true << qint64(12345000);
     }
@@ -432,18 +435,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("spaced");
         QTest::newRow("whole") << 85.0F << QStringLiteral("85") << QStringLiteral(" 85");
-        QTest::newRow("a fraction: only the spaced form drops its zero") << 0.5F << QStringLiteral("0.5")
-                                                                         << QStringLiteral(" .5");
+        QTest::newRow("a fraction: only the spaced form drops its zero")
+            << 0.5F << QStringLiteral("0.5") << QStringLiteral(" .5");
         QTest::newRow("a negative fraction") << -0.5F << QStringLiteral("-0.5") << QStringLiteral("-.5");
-        QTest::newRow("negative: the sign takes the blank's place") << -85.25F << QStringLiteral("-85.25")
-                                                                    << QStringLiteral("-85.25");
-        QTest::newRow("the eighth digit is rounded away") << 61.120003F << QStringLiteral("61.12")
-                                                          << QStringLiteral(" 61.12");
+        QTest::newRow("negative: the sign takes the blank's place")
+            << -85.25F << QStringLiteral("-85.25") << QStringLiteral("-85.25");
+        QTest::newRow("the eighth digit is rounded away")
+            << 61.120003F << QStringLiteral("61.12") << QStringLiteral(" 61.12");
         QTest::newRow("seven digits stay") << 68.42606F << QStringLiteral("68.42606") << QStringLiteral(" 68.42606");
         QTest::newRow("zero") << 0.0F << QStringLiteral("0") << QStringLiteral(" 0");
         QTest::newRow("negative zero") << -0.0F << QStringLiteral("0") << QStringLiteral(" 0");
-        QTest::newRow("great numbers keep their length") << 12345678.0F << QStringLiteral("12345680")
-                                                         << QStringLiteral(" 12345680");
+        QTest::newRow("great numbers keep their length")
+            << 12345678.0F << QStringLiteral("12345680") << QStringLiteral(" 12345680");
     }
     void ATextBoxShowsAtMostSevenDigitsOfASingle()
     {

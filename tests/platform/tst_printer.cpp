@@ -89,10 +89,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("length");
         QTest::addColumn<int>("blanks");
-        QTest::newRow("an even length") << 8 << 35;                       // column 36
-        QTest::newRow("33.5 goes to the even 34") << 13 << 33;            // column 34
-        QTest::newRow("32.5 goes to the even 32") << 15 << 31;            // column 32
-        QTest::newRow("a text as wide as the page") << 80 << 0;           // column 0 counts as 1
+        QTest::newRow("an even length") << 8 << 35;             // column 36
+        QTest::newRow("33.5 goes to the even 34") << 13 << 33;  // column 34
+        QTest::newRow("32.5 goes to the even 32") << 15 << 31;  // column 32
+        QTest::newRow("a text as wide as the page") << 80 << 0; // column 0 counts as 1
         QTest::newRow("a text wider than the page") << 90 << 0;
     }
     void ACentredLineStartsAtHalfTheRest()

@@ -3,7 +3,8 @@
 
 #include "platform/RuntimeError.h"
 
-template <class Statement> int ErrorOf(Statement statement)
+template <class Statement>
+int ErrorOf(Statement statement)
 {
     try {
         statement();

@@ -1,6 +1,7 @@
 #include "Cases.h"
 
 #include "RecordingDesk.h"
+#include "foundation/BudgetFiles.h"
 #include "platform/Numbers.h"
 
 #include <QJsonDocument>
@@ -118,7 +119,26 @@ QJsonArray ToldRegulars()
     return told;
 }
 
-QJsonArray ToldExtras()
+void HoldDatesAsLoaded()
+{
+    for (ExtraPayPeriodRecord &payPeriod : State.ExtraPayPeriods)
+        payPeriod.PayPeriodDate = Format(payPeriod.PayPeriodDate.Text(), DateFormat::Dashes);
+}
+
+void HoldProjectDatesAsPlanned()
+{
+    for (int i = 1; i <= State.NumberOfProjects; ++i)
+        for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry)
+            State.ProjectEntryDates(i)(entry) = FormatLongDate(State.ProjectEntryDates(i)(entry));
+}
+
+void SaveProjectsAnew(const RecordingDesk &desk)
+{
+    desk.WriteFile(QStringLiteral("projects.txt"), "0\r\n");
+    SaveProjects();
+}
+
+QJsonArray ToldExtras(std::optional<DateFormat> format)
 {
     QJsonArray told;
     for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
@@ -127,7 +147,8 @@ QJsonArray ToldExtras()
         for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
             items += QJsonObject{{QStringLiteral("ExtraItem"), payPeriod.ExtraItems(item).ExtraItem},
                                  {QStringLiteral("ExtraItemAmount"), Told(payPeriod.ExtraItems(item).ExtraItemAmount)}};
-        told += QJsonObject{{QStringLiteral("PayPeriodDate"), payPeriod.PayPeriodDate.Text()},
+        told += QJsonObject{{QStringLiteral("PayPeriodDate"), format ? Format(payPeriod.PayPeriodDate.Text(), *format)
+                                                                     : payPeriod.PayPeriodDate.Text()},
                             {QStringLiteral("ExtraItems"), items}};
     }
     return told;

@@ -8,6 +8,9 @@
 #include <QStringList>
 
 #include "platform/Currency.h"
+#include "platform/Dates.h"
+
+#include <optional>
 
 class RecordingDesk;
 
@@ -15,6 +18,11 @@ using RunCase = QJsonValue (*)(const QJsonObject &input, const QJsonObject &expe
 
 QJsonValue RunFilesCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
 QJsonValue RunBudgetCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+QJsonValue RunForecastCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+QJsonValue RunOverheadCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+QJsonValue RunScanCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+QJsonValue RunCommitmentsCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
+QJsonValue RunProjectsCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk);
 
 // How results are told
 QJsonValue Told(Currency amount);
@@ -24,9 +32,16 @@ QJsonArray Told(const QStringList &lines);
 
 /// Puts a household into the shared state: settings, creditors, regular items, extra pay periods, projects.
 void TakeHousehold(const QJsonObject &household);
+/// The dates of the extra pay periods in the form in which a loader holds them.
+void HoldDatesAsLoaded();
+/// The dates of the projects' entries in the form in which a plan writes them.
+void HoldProjectDatesAsPlanned();
+/// Writes projects.txt for the projects in memory.
+void SaveProjectsAnew(const RecordingDesk &desk);
 QJsonArray ToldCreditors();
 QJsonArray ToldRegulars();
-QJsonArray ToldExtras();
+/// With a format the dates are told in it, else as they are held.
+QJsonArray ToldExtras(std::optional<DateFormat> format = {});
 QJsonArray ToldProjects();
 /// The messages that were shown since the last call: title and text.
 QJsonArray ToldMessages(RecordingDesk &desk);

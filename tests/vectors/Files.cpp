@@ -61,7 +61,7 @@ QJsonArray ToldList(const QString &list)
     static const QMap<QString, QJsonArray (*)()> lists{
         {QStringLiteral("creditors"), ToldCreditors},
         {QStringLiteral("regulars"), ToldRegulars},
-        {QStringLiteral("extras"), ToldExtras},
+        {QStringLiteral("extras"), [] { return ToldExtras(); }},
         {QStringLiteral("projects"), ToldProjects},
         {QStringLiteral("master"), ToldMaster},
         {QStringLiteral("current"), ToldCurrent},

@@ -4,7 +4,9 @@
 
 #include "RecordingDesk.h"
 
-#include <QCoreApplication>
+#include "platform/Application.h"
+#include "platform/Locale.h"
+
 #include <QDir>
 #include <QJsonDocument>
 #include <QMap>
@@ -14,12 +16,20 @@ namespace {
 const QMap<QString, RunCase> Areas{
     {QStringLiteral("files"), RunFilesCase},
     {QStringLiteral("budget"), RunBudgetCase},
+    {QStringLiteral("forecast"), RunForecastCase},
+    {QStringLiteral("overhead"), RunOverheadCase},
+    {QStringLiteral("scan"), RunScanCase},
+    {QStringLiteral("commitments"), RunCommitmentsCase},
+    {QStringLiteral("projects"), RunProjectsCase},
 };
 }
 
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
+    // Windows are only filled and read, so no display is needed.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application application(argc, argv);
+    SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     QTextStream out(stdout);
     if (argc != 2) {
         out << "usage: vectors FOLDER\n";

@@ -1,0 +1,97 @@
+#include "Households.h"
+
+#include "GuiDesk.h"
+#include "foundation/Calendar.h"
+#include "platform/Theme.h"
+
+#include <QApplication>
+#include <QDirIterator>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int SamplePeriods = 12;
+
+/// What brings a window's content in the filled household: buttons clicked one after the other.
+const QHash<QString, QStringList> &FirstButtons()
+{
+    static const QHash<QString, QStringList> buttons{
+        {u"frmBudget"_s, {u"cmdBudget"_s, u"cmdBudget"_s}},
+    };
+    return buttons;
+}
+
+QByteArray Contents(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+void CopyFolder(const RecordingDesk &desk, const QString &folder)
+{
+    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (!path.endsWith(u".template"_s))
+            desk.WriteFile(QDir(folder).relativeFilePath(path), Contents(path));
+    }
+}
+
+} // namespace
+
+void LayHouseholdOf(const RecordingDesk &desk, Household household)
+{
+    const QString root = QStringLiteral(PROJECT_FOLDER);
+    CopyFolder(desk, root + u"/household"_s);
+    if (household == Household::Empty)
+        return;
+    CopyFolder(desk, root + u"/examples"_s);
+    // The dated files are templates: @PERIOD0@ is the current pay period, @PERIOD1@ the one after it, and so on.
+    State.FirstPayDate = 1;
+    State.SecondPayDate = 15;
+    for (const QString &name : {u"extra.txt"_s, u"projects.txt"_s}) {
+        QByteArray text = Contents(root + u"/examples/"_s + name + u".template"_s);
+        DateText period = Format(desk.Now.date(), DateFormat::Dashes);
+        for (int i = 0; i < SamplePeriods; ++i) {
+            const QByteArray number = QByteArray::number(i) + '@';
+            text.replace("@PERIOD" + number, Format(period.Date(), DateFormat::Dashes).toUtf8());
+            text.replace("@LONGPERIOD" + number, FormatLongDate(period.Text()).toUtf8());
+            period = NextPayPeriod(period, Semimonthly);
+        }
+        desk.WriteFile(name, text);
+    }
+}
+
+bool ShowAtWork(const QString &window, Household household)
+{
+    State.CurrentPayPeriodConfirmed = true; // its window is shown for itself
+    if (window != u"frmSplash"_s)
+        TheWindows.Show(u"frmMain"_s);
+    if (window == u"frmSetCurrentPayPeriod"_s) // the main window tells it the day
+        TheWindows.ControlOf<QLabel>(window, u"lblDate"_s).setText(Format(TheDesk.Now().date(), DateFormat::Weekday));
+    Show(window);
+    for (const QString &clock : {u"frmMain"_s, u"frmSetCurrentPayPeriod"_s})
+        if (Form *form = TheWindows.Loaded(clock))
+            QMetaObject::invokeMethod(form->findChild<QTimer *>(u"Timer1"_s), "timeout");
+    if (window == u"frmMain"_s && household == Household::Filled) {
+        QEvent pointed(QEvent::Enter);
+        QCoreApplication::sendEvent(&Find<QToolButton>(window, u"Toolbar1Button6"_s), &pointed);
+    }
+    if (household == Household::Filled)
+        for (const QString &button : FirstButtons().value(window))
+            Click(window, button);
+    Settle();
+    return IsShown(window);
+}
+
+void UseDesktop(bool dark, double fontSize)
+{
+    QFont font(u"DejaVu Sans"_s);
+    font.setPointSizeF(fontSize);
+    QApplication::setFont(font);
+    QApplication::setPalette(dark ? DarkPalette() : LightPalette());
+}

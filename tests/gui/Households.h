@@ -1,0 +1,18 @@
+// The two households in which every window is looked at: a fresh one, and the sample family's.
+#pragma once
+
+#include "RecordingDesk.h"
+
+enum class Household { Empty, Filled };
+
+/// Lays the household into the desk's folder, the sample's dated entries in the pay periods from desk.Now on, and lets
+/// the desk keep the options and the pictures' quiet: no tutor that comes by itself.
+void LayHouseholdOf(const RecordingDesk &desk, Household household);
+
+/// Shows a window as the user sees it at work: opened from the main window and, in the filled household, with what its
+/// first buttons bring. The main window itself is shown with its hint. Returns whether the window stands there.
+bool ShowAtWork(const QString &window, Household household);
+
+/// The desktops on which every window is looked at.
+void UseDesktop(bool dark, double fontSize);
+constexpr double UsualFontSize = 10; // points

@@ -1,0 +1,278 @@
+// Every declared window, empty and filled, on light and dark desktops and with small and large letters: texts have the
+// room they need, nothing overlaps or sticks out, access keys differ, every control says what it is.
+#include "Households.h"
+
+#include "GuiDesk.h"
+#include "GuiMain.h"
+#include "Windows.h"
+#include "platform/Theme.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Letters of menu entries that the design gives twice.
+const QStringList SharedMenuLetters{u"mnuTipOfTheDay mnuTallymereTutor"_s};
+
+constexpr QSize SmallestScreen{1280, 720}; // what a window may cover with letters of the usual size
+constexpr double ReadableContrast = 4.5;
+constexpr int LongestList = 2000;
+
+QString Size(const QSize &size)
+{
+    return u"%1 x %2"_s.arg(size.width()).arg(size.height());
+}
+
+bool IsSmaller(const QSize &room, const QSize &need)
+{
+    return room.width() < need.width() || room.height() < need.height();
+}
+
+/// The controls of a window, without the parts that the toolkit puts inside of controls.
+QList<QWidget *> Controls(const Form &form)
+{
+    QList<QWidget *> controls;
+    for (QWidget *widget : form.findChildren<QWidget *>())
+        if (widget->window() == &form && widget->isVisible() && !widget->objectName().isEmpty() &&
+            !widget->objectName().startsWith(u"qt_"_s))
+            controls += widget;
+    return controls;
+}
+
+class Inspector
+{
+public:
+    explicit Inspector(Form &form) : m_form(form) {}
+
+    /// What is wrong with the window as it stands; contents: also whether lists and grids show theirs in full width.
+    QStringList Faults(bool contents)
+    {
+        m_faults.clear();
+        const QList<QWidget *> controls = Controls(m_form);
+        for (QWidget *control : controls) {
+            LookAtRoom(*control, contents);
+            LookAtPlace(*control);
+            LookAtName(*control);
+            LookAtContrast(*control);
+        }
+        LookForOverlaps(controls);
+        LookAtAccessKeys(controls);
+        for (const QMenu *menu : m_form.findChildren<QMenu *>())
+            LookAtLetters(menu->actions(), menu->objectName());
+        for (const QMenuBar *bar : m_form.findChildren<QMenuBar *>())
+            LookAtLetters(bar->actions(), bar->objectName());
+        return m_faults;
+    }
+
+private:
+    void Fault(const QWidget &control, const QString &what)
+    {
+        m_faults += control.objectName() + u": "_s + what;
+    }
+
+    void LookAtRoom(QWidget &control, bool contents)
+    {
+        if (auto *label = qobject_cast<QLabel *>(&control)) {
+            if (label->text().isEmpty())
+                return;
+            if (label->wordWrap() && label->heightForWidth(label->width()) > label->height())
+                Fault(control, u"its lines need %1 pixels of height and have %2"_s
+                                   .arg(label->heightForWidth(label->width()))
+                                   .arg(label->height()));
+            else if (!label->wordWrap() && IsSmaller(label->size(), label->sizeHint()))
+                Fault(control, u"\"%1\" needs %2 and has %3"_s.arg(label->text(), Size(label->sizeHint()), Size(label->size())));
+        } else if (auto *button = qobject_cast<QAbstractButton *>(&control)) {
+            if (IsSmaller(button->size(), button->sizeHint()))
+                Fault(control, u"\"%1\" needs %2 and has %3"_s.arg(button->text(), Size(button->sizeHint()), Size(button->size())));
+        } else if (auto *group = qobject_cast<QGroupBox *>(&control)) {
+            if (group->width() < group->minimumSizeHint().width())
+                Fault(control, u"its title is cut"_s);
+        } else if (auto *field = qobject_cast<QLineEdit *>(&control)) {
+            if (field->height() < field->minimumSizeHint().height())
+                Fault(control, u"its text is cut from above or below"_s);
+            if (field->isReadOnly() && field->fontMetrics().horizontalAdvance(field->text()) > field->width())
+                Fault(control, u"it does not show the whole of \"%1\""_s.arg(field->text()));
+        } else if (auto *combo = qobject_cast<QComboBox *>(&control)) {
+            if (IsSmaller(combo->size(), combo->minimumSizeHint()))
+                Fault(control, u"its rows are cut"_s);
+        } else if (auto *list = qobject_cast<QListWidget *>(&control)) {
+            LookAtRows(*list, contents);
+        } else if (auto *table = qobject_cast<QTableView *>(&control)) {
+            LookAtCells(*table, contents);
+        }
+    }
+
+    void LookAtRows(const QListWidget &list, bool contents)
+    {
+        for (int row = 0; row < qMin(list.count(), LongestList); ++row) {
+            const QRect room = list.visualItemRect(list.item(row));
+            if (room.height() < list.fontMetrics().height())
+                Fault(list, u"row %1 is cut from above or below"_s.arg(row));
+            if (contents && list.fontMetrics().horizontalAdvance(list.item(row)->text()) > list.viewport()->width())
+                Fault(list, u"it does not show the whole of \"%1\""_s.arg(list.item(row)->text()));
+        }
+    }
+
+    void LookAtCells(const QTableView &table, bool contents)
+    {
+        const QHeaderView &heading = *table.horizontalHeader();
+        if (table.verticalHeader()->defaultSectionSize() < table.fontMetrics().height())
+            Fault(table, u"its rows are cut from above or below"_s);
+        if (!contents)
+            return;
+        const QAbstractItemModel &model = *table.model();
+        for (int column = 0; column < model.columnCount(); ++column) {
+            if (heading.sectionSize(column) == 0) // hidden by design
+                continue;
+            const auto look = [&](const QString &text, const QVariant &font) {
+                const QFontMetrics metrics(font.isValid() ? qvariant_cast<QFont>(font) : table.font());
+                const int need = metrics.horizontalAdvance(text) + 2 * table.style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+                if (need > table.columnWidth(column))
+                    Fault(table, u"\"%1\" needs a column of %2 pixels and has %3"_s.arg(text).arg(need).arg(table.columnWidth(column)));
+            };
+            if (!heading.isHidden())
+                look(model.headerData(column, Qt::Horizontal).toString(), model.headerData(column, Qt::Horizontal, Qt::FontRole));
+            for (int row = 0; row < qMin(model.rowCount(), LongestList); ++row)
+                look(model.index(row, column).data().toString(), model.index(row, column).data(Qt::FontRole));
+        }
+    }
+
+    void LookAtPlace(const QWidget &control)
+    {
+        const QWidget *parent = control.parentWidget();
+        const auto *area = qobject_cast<QScrollArea *>(parent->parentWidget());
+        if (area && area->widget() == &control)
+            return;
+        if (!parent->rect().contains(control.geometry()))
+            Fault(control, u"it sticks out of what holds it"_s);
+    }
+
+    void LookForOverlaps(const QList<QWidget *> &controls)
+    {
+        for (qsizetype i = 0; i < controls.size(); ++i)
+            for (qsizetype j = i + 1; j < controls.size(); ++j)
+                if (controls[i]->parentWidget() == controls[j]->parentWidget() &&
+                    controls[i]->geometry().intersects(controls[j]->geometry()))
+                    Fault(*controls[i], u"it overlaps "_s + controls[j]->objectName());
+    }
+
+    void LookAtName(QWidget &control)
+    {
+        const bool takesFocus = control.focusPolicy() & Qt::TabFocus;
+        if (!takesFocus && !qobject_cast<QAbstractButton *>(&control))
+            return;
+        const QAccessibleInterface *voice = QAccessible::queryAccessibleInterface(&control);
+        if (!voice || voice->text(QAccessible::Name).isEmpty())
+            Fault(control, u"it does not say what it is"_s);
+    }
+
+    void LookAtContrast(const QWidget &control)
+    {
+        const auto *label = qobject_cast<const QLabel *>(&control);
+        if (!label || label->text().isEmpty() || !label->isEnabled())
+            return;
+        // A label has no ground of its own: it lies on the first one behind it.
+        const double contrast = Contrast(label->palette().color(label->foregroundRole()),
+                                         label->parentWidget()->palette().color(label->parentWidget()->backgroundRole()));
+        if (contrast < ReadableContrast)
+            Fault(control, u"its contrast is %1 to 1"_s.arg(contrast, 0, 'f', 1));
+    }
+
+    void LookAtAccessKeys(const QList<QWidget *> &controls)
+    {
+        QHash<QString, QString> owners;
+        for (const QWidget *control : controls) {
+            QString text;
+            if (const auto *label = qobject_cast<const QLabel *>(control); label && label->buddy())
+                text = label->text();
+            else if (const auto *button = qobject_cast<const QAbstractButton *>(control))
+                text = button->text();
+            else if (const auto *group = qobject_cast<const QGroupBox *>(control))
+                text = group->title();
+            const QString key = QKeySequence::mnemonic(text).toString();
+            if (key.isEmpty())
+                continue;
+            if (owners.contains(key))
+                Fault(*control, u"%1 is taken by %2"_s.arg(key, owners.value(key)));
+            owners.insert(key, control->objectName());
+        }
+    }
+
+    void LookAtLetters(const QList<QAction *> &actions, const QString &menu)
+    {
+        QHash<QString, QString> owners;
+        for (const QAction *action : actions) {
+            const QString letter = QKeySequence::mnemonic(action->text()).toString();
+            if (letter.isEmpty())
+                continue;
+            const QString pair = owners.value(letter) + u' ' + action->objectName();
+            if (owners.contains(letter) && !SharedMenuLetters.contains(pair))
+                m_faults += u"%1: %2 share %3"_s.arg(menu, pair, letter);
+            owners.insert(letter, action->objectName());
+        }
+    }
+
+    Form &m_form;
+    QStringList m_faults;
+};
+
+} // namespace
+
+class gui_layout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EveryWindowHasRoomForWhatItShows_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<bool>("filled");
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<double>("fontSize");
+        DeclareWindows();
+        const QStringList windows = TheWindows.Names();
+        TheWindows.Reset();
+        QVERIFY(windows.contains(u"frmMain"_s));
+        for (const QString &window : windows)
+            for (const bool filled : {false, true})
+                for (const bool dark : {false, true})
+                    for (const double fontSize : {UsualFontSize, 1.5 * UsualFontSize, 2 * UsualFontSize})
+                        QTest::addRow("%s, %s, %s, %g points", qPrintable(window), filled ? "filled" : "empty",
+                                      dark ? "dark" : "light", fontSize)
+                            << window << filled << dark << fontSize;
+    }
+    void EveryWindowHasRoomForWhatItShows()
+    {
+        QFETCH(QString, window);
+        QFETCH(bool, filled);
+        QFETCH(bool, dark);
+        QFETCH(double, fontSize);
+        UseDesktop(dark, fontSize);
+        const Household household = filled ? Household::Filled : Household::Empty;
+        GuiDesk desk;
+        LayHouseholdOf(desk, household);
+        QVERIFY(ShowAtWork(window, household));
+        desk.Messages.clear(); // what the windows say is the matter of their own tests
+        Form &form = *TheWindows.Loaded(window);
+        QVERIFY2(!IsSmaller(form.size(), form.minimumSizeHint()), "the window opens too small for its controls");
+        if (fontSize == UsualFontSize)
+            QVERIFY2(!IsSmaller(SmallestScreen, form.size()), qPrintable(u"it opens at "_s + Size(form.size())));
+        QCOMPARE(Inspector(form).Faults(true).join(u"; "_s), QString());
+
+        form.resize(form.minimumSizeHint());
+        Settle();
+        QCOMPARE(Inspector(form).Faults(false).join(u"; "_s), QString());
+    }
+};
+
+GUI_TEST_MAIN(gui_layout)
+#include "gui_layout.moc"

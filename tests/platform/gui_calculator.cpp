@@ -1,0 +1,167 @@
+// The desktop's calculator as a process: a script that only sleeps stands in for it.
+#include "../support/ErrorOf.h"
+#include "platform/Calculator.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <csignal>
+
+class TestCalculator : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_programs;
+    QByteArray m_pathBefore;
+
+    /// Installs a program that notes its process and its name, and sleeps.
+    void Install(const QString &name)
+    {
+        QFile script(m_programs.filePath(name));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\necho $$ >" + QFile::encodeName(NotePath(name)) + ".part\n/bin/mv " +
+                     QFile::encodeName(NotePath(name)) + ".part " + QFile::encodeName(NotePath(name)) +
+                     "\nexec /bin/sleep 60\n");
+        script.close();
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+    QString NotePath(const QString &name) const { return m_programs.filePath(name + QStringLiteral(".pid")); }
+    /// The process of an installed program that was started; 0 if it was not.
+    int ProcessOf(const QString &name) const
+    {
+        QFile note(NotePath(name));
+        return note.open(QIODevice::ReadOnly) ? note.readAll().trimmed().toInt() : 0;
+    }
+    static bool Runs(int process)
+    {
+        QFile state(QStringLiteral("/proc/%1/stat").arg(process));
+        if (process == 0 || !state.open(QIODevice::ReadOnly))
+            return false;
+        const QByteArray line = state.readAll();
+        return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_programs.isValid());
+        m_pathBefore = qgetenv("PATH");
+    }
+    void init() { qputenv("PATH", QFile::encodeName(m_programs.path())); }
+    void cleanup()
+    {
+        CloseCalculator();
+        const QStringList names = QDir(m_programs.path()).entryList(QDir::Files);
+        for (const QString &name : names)
+            QFile::remove(m_programs.filePath(name));
+        qputenv("PATH", m_pathBefore);
+    }
+
+    void NoneInstalledIsError53()
+    {
+        QVERIFY(!CalculatorInstalled());
+        QCOMPARE(ErrorOf(StartCalculator), 53);
+        QCOMPARE(ErrorOf(BringCalculatorForward), 5);
+        CloseCalculator(); // ignores that there is none
+    }
+
+    void TheFirstOfTheUsualOnesIsStarted_data()
+    {
+        QTest::addColumn<QStringList>("installed");
+        QTest::addColumn<QString>("started");
+        const QStringList usual{QStringLiteral("kcalc"),         QStringLiteral("gnome-calculator"),
+                                QStringLiteral("mate-calc"),     QStringLiteral("galculator"),
+                                QStringLiteral("qalculate-gtk"), QStringLiteral("qalculate-qt"),
+                                QStringLiteral("xcalc")};
+        for (int i = 0; i < usual.size(); ++i)
+            QTest::addRow("%s comes before all that follow", qPrintable(usual[i])) << usual.mid(i) << usual[i];
+    }
+    void TheFirstOfTheUsualOnesIsStarted()
+    {
+        QFETCH(QStringList, installed);
+        QFETCH(QString, started);
+        for (const QString &name : std::as_const(installed))
+            Install(name);
+        QVERIFY(CalculatorInstalled());
+        QCOMPARE(ErrorOf(StartCalculator), 0);
+        QTRY_VERIFY(Runs(ProcessOf(started)));
+        for (const QString &name : std::as_const(installed))
+            QCOMPARE(ProcessOf(name) != 0, name == started);
+        QCOMPARE(ErrorOf(BringCalculatorForward), 0);
+    }
+
+    void AProgramThatIsNoCalculatorIsNotStarted()
+    {
+        Install(QStringLiteral("calc"));
+        QVERIFY(!CalculatorInstalled());
+    }
+
+    void OneThatWasInstalledLaterIsFound()
+    {
+        QCOMPARE(ErrorOf(StartCalculator), 53);
+        Install(QStringLiteral("xcalc"));
+        QCOMPARE(ErrorOf(StartCalculator), 0);
+        QTRY_VERIFY(Runs(ProcessOf(QStringLiteral("xcalc"))));
+    }
+
+    void StartingDoesNotHoldUpTheProgram()
+    {
+        Install(QStringLiteral("xcalc"));
+        QElapsedTimer time;
+        time.start();
+        StartCalculator();
+        QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
+    }
+
+    void OneThatTheUserClosedIsError5AndCanBeStartedAgain()
+    {
+        Install(QStringLiteral("xcalc"));
+        StartCalculator();
+        QTRY_VERIFY(Runs(ProcessOf(QStringLiteral("xcalc"))));
+        const int first = ProcessOf(QStringLiteral("xcalc"));
+        QCOMPARE(::kill(first, SIGKILL), 0);
+        QTRY_COMPARE(ErrorOf(BringCalculatorForward), 5);
+        StartCalculator();
+        QTRY_VERIFY(ProcessOf(QStringLiteral("xcalc")) != first && Runs(ProcessOf(QStringLiteral("xcalc"))));
+        QCOMPARE(ErrorOf(BringCalculatorForward), 0);
+    }
+
+    void ClosingEndsOnlyTheOneThatWasStartedHere()
+    {
+        Install(QStringLiteral("xcalc"));
+        QProcess users;
+        users.start(m_programs.filePath(QStringLiteral("xcalc")), {});
+        QVERIFY(users.waitForStarted());
+        QTRY_COMPARE(ProcessOf(QStringLiteral("xcalc")), int(users.processId()));
+        QFile::remove(NotePath(QStringLiteral("xcalc")));
+        StartCalculator();
+        QTRY_VERIFY(Runs(ProcessOf(QStringLiteral("xcalc"))));
+        const int ours = ProcessOf(QStringLiteral("xcalc"));
+        QVERIFY(ours != int(users.processId()));
+        CloseCalculator();
+        QTRY_VERIFY(!Runs(ours));
+        QVERIFY(Runs(int(users.processId())));
+        QCOMPARE(ErrorOf(BringCalculatorForward), 5);
+        CloseCalculator(); // a second time changes nothing
+        QVERIFY(Runs(int(users.processId())));
+        users.kill();
+        QVERIFY(users.waitForFinished());
+    }
+
+    void AUsersCalculatorCountsAsNoneOfOurs()
+    {
+        Install(QStringLiteral("xcalc"));
+        QProcess users;
+        users.start(m_programs.filePath(QStringLiteral("xcalc")), {});
+        QVERIFY(users.waitForStarted());
+        QCOMPARE(ErrorOf(BringCalculatorForward), 5);
+        CloseCalculator();
+        QVERIFY(Runs(int(users.processId())));
+        users.kill();
+        QVERIFY(users.waitForFinished());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCalculator)
+#include "gui_calculator.moc"
