@@ -10,16 +10,9 @@ QString DataPath(const char *name)
     return State.ApplicationPath + QLatin1Char('\\') + QLatin1String(name);
 }
 
-/// A writer's frame: the old file goes, the new one is made and filled.
 void Rewrite(const char *title, const char *name, const std::function<void(OutputFile &)> &fill)
 {
-    RunWriter(QLatin1String(title), [&] {
-        DeleteFile(DataPath(name));
-        OutputFile file;
-        file.Open(DataPath(name));
-        fill(file);
-        file.Close();
-    });
+    RunWriter(QLatin1String(title), DataPath(name), OldFile::MustExist, fill);
 }
 
 /// The entries of a list within a record that lie beyond its bound: they come after the others, each of their two
@@ -179,7 +172,7 @@ void SaveEnvironmentSettings()
 
 void InitializeFiles()
 {
-    RunWriter(QStringLiteral("Initialize Files"), [] {
+    RunFileSteps(QStringLiteral("Initialize Files"), [] {
         for (const char *name : {"creditor.txt", "extra.txt", "mastshop.txt", "projects.txt", "regulars.txt"}) {
             DeleteFile(DataPath(name));
             OutputFile file;

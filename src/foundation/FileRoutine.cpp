@@ -71,7 +71,21 @@ void Loader::ReadByText(float &target)
     Step([&](InputFile &file) { target = ToSingle(file.InputString(), Dialect::File); });
 }
 
-void RunWriter(const QString &title, const std::function<void()> &writer)
+void RunFileSteps(const QString &title, const std::function<void()> &steps)
 {
-    ResumeNext(writer, [&](const RuntimeError &error) { ShowMessage(error.Text(), title, Icon::Stop); });
+    ResumeNext(steps, [&](const RuntimeError &error) { ShowMessage(error.Text(), title, Icon::Stop); });
+}
+
+void RunWriter(const QString &title, const QString &path, OldFile oldFile,
+               const std::function<void(OutputFile &)> &fill)
+{
+    RunFileSteps(title, [&] {
+        OutputFile file;
+        file.Collect();
+        fill(file);
+        if (oldFile == OldFile::MustExist || FileExists(path))
+            DeleteFile(path);
+        file.Open(path);
+        file.Close();
+    });
 }

@@ -40,5 +40,13 @@ private:
     qint64 m_errors = 0;
 };
 
-/// Runs a writer: the first error is told with its title and ends it.
-void RunWriter(const QString &title, const std::function<void()> &writer);
+/// Whether a writer asks for the old file before it deletes it. Most do not: a missing file is an error to them.
+enum class OldFile { MustExist, MayBeMissing };
+
+/// A writer: deletes the old file, makes it anew and fills it. The first error is told with the writer's title and ends
+/// it. The values are collected before the old file goes, so that an error among them loses nothing.
+void RunWriter(const QString &title, const QString &path, OldFile oldFile,
+               const std::function<void(OutputFile &)> &fill);
+
+/// Runs steps whose first error is told with a title and ends them.
+void RunFileSteps(const QString &title, const std::function<void()> &steps);

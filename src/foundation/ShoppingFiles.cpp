@@ -56,10 +56,8 @@ void InputCurrentShoppingList()
 
 void SaveMasterShoppingList()
 {
-    RunWriter(QStringLiteral("Save Master Shopping List"), [] {
-        DeleteFile(MasterPath()); // not asked whether it is there: a missing catalogue is told, the current list's is not
-        OutputFile file;
-        file.Open(MasterPath());
+    // Not asked whether it is there: a missing catalogue is an error, a missing store list is not.
+    RunWriter(QStringLiteral("Save Master Shopping List"), MasterPath(), OldFile::MustExist, [](OutputFile &file) {
         file.Write(State.NumberOfMasterItems);
         for (int i = 1; i <= State.NumberOfMasterItems; ++i) {
             const MasterItemRecord &item = State.MasterShoppingList(i);
@@ -69,17 +67,12 @@ void SaveMasterShoppingList()
             file.Write(item.Store);
             file.Write(item.Taxable);
         }
-        file.Close();
     });
 }
 
 void SaveCurrentShoppingList()
 {
-    RunWriter(QStringLiteral("Save Current Shopping List"), [] {
-        if (FileExists(CurrentPath()))
-            DeleteFile(CurrentPath());
-        OutputFile file;
-        file.Open(CurrentPath());
+    RunWriter(QStringLiteral("Save Current Shopping List"), CurrentPath(), OldFile::MayBeMissing, [](OutputFile &file) {
         file.Write(State.NumberOfCurrentItems);
         for (int i = 1; i <= State.NumberOfCurrentItems; ++i) {
             const CurrentItemRecord &item = State.CurrentShoppingList(i);
@@ -92,6 +85,5 @@ void SaveCurrentShoppingList()
             file.Write(item.CouponValue);
             file.Write(item.FullPrice);
         }
-        file.Close();
     });
 }

@@ -8,6 +8,7 @@
 #include <QStringDecoder>
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
 namespace {
 
@@ -232,6 +233,12 @@ QString InputFile::InputLine()
     return Decoded(line);
 }
 
+void OutputFile::Collect()
+{
+    m_collected.clear();
+    m_collecting = true;
+}
+
 void OutputFile::Open(const QString &givenPath)
 {
     m_file.close();
@@ -241,8 +248,11 @@ void OutputFile::Open(const QString &givenPath)
         RaiseError(RuntimeError::PathFileAccess);
     m_file.setFileName(path);
     errno = 0;
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        m_collecting = false;
+        WriteBytes(std::exchange(m_collected, {}));
         return;
+    }
     if (WriteFailure(errno) == RuntimeError::DiskFull)
         RaiseError(RuntimeError::DiskFull);
     RaiseError(QFileInfo(info.path()).isDir() ? RuntimeError::PathFileAccess : RuntimeError::PathNotFound);
@@ -288,10 +298,19 @@ void OutputFile::Write(const QString &value)
 
 void OutputFile::WriteLine(const QString &value)
 {
+    const QByteArray line = value.toUtf8() + "\r\n";
+    if (m_collecting) {
+        m_collected += line;
+        return;
+    }
     if (!m_file.isOpen())
         RaiseError(RuntimeError::BadFileNumber);
-    const QByteArray line = value.toUtf8() + "\r\n";
+    WriteBytes(line);
+}
+
+void OutputFile::WriteBytes(const QByteArray &bytes)
+{
     errno = 0;
-    if (m_file.write(line) != line.size())
+    if (m_file.write(bytes) != bytes.size())
         RaiseError(WriteFailure(errno));
 }

@@ -63,6 +63,9 @@ private:
 class OutputFile
 {
 public:
+    /// Takes what is written from now on into memory; the next Open writes it out. So an error among the values comes
+    /// before any file is touched.
+    void Collect();
     /// Creates or empties the file; error 76 where its folder is missing, 75 where it has no write bit, for every user,
     /// or cannot be created.
     void Open(const QString &path);
@@ -77,5 +80,8 @@ public:
 
 private:
     void WriteLine(const QString &value);
+    void WriteBytes(const QByteArray &bytes);
     QFile m_file;
+    QByteArray m_collected;
+    bool m_collecting = false;
 };

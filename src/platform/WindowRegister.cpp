@@ -18,6 +18,8 @@ namespace {
 
 // An X server needs a moment to activate what it was asked to; after that a late answer counts as the user's own.
 constexpr int ActivationPatience = 700; // milliseconds
+// Once it has answered, answers to what it was asked before may still be on their way for so long.
+constexpr int ActivationRest = 150;
 
 Form *FormOf(QWidget *widget)
 {
@@ -315,12 +317,17 @@ void WindowRegister::MoveFocus(Form *form, QWidget *control)
 void WindowRegister::Expect(Form *form)
 {
     // A window that the toolkit has at rest sends no answer that could be waited for.
-    const bool atRest = QApplication::activeWindow() == form && !m_expected && m_patience.hasExpired();
-    if (!atRest) {
+    if (Expected() || QApplication::activeWindow() != form) {
         m_expected = form;
         m_patience.setRemainingTime(ActivationPatience);
     }
     form->activateWindow();
+}
+
+/// The window that the toolkit's next word is awaited of, null if none.
+Form *WindowRegister::Expected() const
+{
+    return m_patience.hasExpired() ? nullptr : m_expected.data();
 }
 
 bool WindowRegister::AnyVisible() const
@@ -358,12 +365,13 @@ void WindowRegister::WhileAway(const std::function<void()> &outside)
 
 void WindowRegister::WindowActivated(Form *form)
 {
-    if (m_expected == form || m_patience.hasExpired())
-        m_expected = nullptr;
+    Form *expected = Expected();
+    if (expected == form)
+        m_patience = qMin(m_patience, QDeadlineTimer(ActivationRest));
     if (m_away > 0 || m_transition > 0 || form == m_active || Loaded(form->objectName()) != form)
         return;
-    if (m_expected) { // a third window in between: the one that was asked for is asked for again
-        m_expected->activateWindow();
+    if (expected && expected != form) { // a third window in between: the one that was asked for is asked for again
+        expected->activateWindow();
         return;
     }
     if (!m_modals.isEmpty() && m_modals.last().TheForm != form) {
@@ -434,7 +442,7 @@ void WindowRegister::Pressed(QWidget *widget)
     Form *form = FormOf(widget);
     if (!form)
         return;
-    const bool overtaken = m_expected && m_expected != form;
+    const bool overtaken = Expected() && Expected() != form;
     if (overtaken)
         m_expected = nullptr;
     // The window system may have told of the activation while another one was expected.

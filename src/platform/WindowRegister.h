@@ -79,6 +79,7 @@ private:
     void ActivatePrevious();
     void Enter(Form *form, QWidget *control);
     void Expect(Form *form);
+    Form *Expected() const;
     void WindowActivated(Form *form);
     void FocusMoved(QWidget *now);
     void PutAway(Form *form, bool wasActive);
@@ -104,8 +105,8 @@ private:
     QPointer<Form> m_arriving;   // its Activate runs, its got-focus is still to come
     QPointer<QWidget> m_told;    // the control that was told last that it has the focus
     QPointer<QWidget> m_clicked; // the field that a press of the mouse has just moved the focus to
-    QPointer<Form> m_expected;   // the window that the toolkit was asked to activate and has not yet
-    QDeadlineTimer m_patience;   // how long it is waited for
+    QPointer<Form> m_expected;   // the window that the toolkit was asked to activate
+    QDeadlineTimer m_patience;   // for so long another one is no choice of the user's
     int m_away = 0;              // inside WhileAway
     int m_transition = 0;        // inside a showing or a load
     bool m_movingFocus = false;

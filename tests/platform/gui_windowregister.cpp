@@ -36,10 +36,10 @@ QStringList OpensFrom(const QString &old, const QString &name)
     return QStringList{name + QStringLiteral(" Load")} + Goes(old) + Comes(name);
 }
 
-/// The user clicks on another window of the program.
+/// The user clicks on another window of the program, in his own time.
 void UserGoesTo(Form &form)
 {
-    Settle();
+    QTest::qWait(200);
     form.activateWindow();
     Settle();
 }
