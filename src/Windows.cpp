@@ -1,8 +1,19 @@
 #include "Windows.h"
 
 #include "budget/frmBudget.h"
+#include "budget/frmMonthlyOverhead.h"
+#include "budget/frmSavingsForecast.h"
+#include "budget/frmScanPayPeriods.h"
+#include "commitments/frmCreditors.h"
+#include "commitments/frmExtras.h"
+#include "commitments/frmProjects.h"
+#include "commitments/frmRegulars.h"
+#include "commitments/frmViewProject.h"
 #include "foundation/frmSplash.h"
+#include "mainwindow/frmEnvironmentSettings.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/frmMonthlyPaymentOption.h"
+#include "mainwindow/frmSemiMonthlyPayInfo.h"
 #include "mainwindow/frmSetCurrentPayPeriod.h"
 #include "platform/WindowRegister.h"
 
@@ -21,5 +32,16 @@ void DeclareWindows()
     Declare<frmSplash>("frmSplash");
     Declare<frmMain>("frmMain");
     Declare<frmSetCurrentPayPeriod>("frmSetCurrentPayPeriod");
+    Declare<frmEnvironmentSettings>("frmEnvironmentSettings");
+    Declare<frmSemiMonthlyPayInfo>("frmSemiMonthlyPayInfo");
+    Declare<frmMonthlyPaymentOption>("frmMonthlyPaymentOption");
     Declare<frmBudget>("frmBudget");
+    Declare<frmMonthlyOverhead>("frmMonthlyOverhead");
+    Declare<frmSavingsForecast>("frmSavingsForecast");
+    Declare<frmScanPayPeriods>("frmScanPayPeriods");
+    Declare<frmCreditors>("frmCreditors");
+    Declare<frmRegulars>("frmRegulars");
+    Declare<frmExtras>("frmExtras");
+    Declare<frmProjects>("frmProjects");
+    Declare<frmViewProject>("frmViewProject");
 }

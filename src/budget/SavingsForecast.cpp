@@ -2,9 +2,9 @@
 
 #include "budget/BudgetGenerator.h"
 #include "foundation/State.h"
+#include "platform/Desk.h"
 #include "platform/Format.h"
 #include "platform/Numbers.h"
-#include "platform/Printer.h"
 
 void ForecastSavings()
 {
@@ -18,6 +18,7 @@ void ForecastSavings()
         Forecast.AccumulatedSavings += State.BudgetBalance;
         Forecast.ForecastAccumulated(row) = FormatCurrency(Forecast.AccumulatedSavings);
     }
+    TheDesk.Hourglass(false); // the long part is done
     if (State.PrintSavingsForecast) {
         PrintReportTitle(QStringLiteral("SAVINGS FORECAST"));
         PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Savings"), QStringLiteral("Accumulated"),

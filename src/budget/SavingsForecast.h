@@ -21,8 +21,8 @@ struct ForecastState {
 inline ForecastState Forecast;
 
 /// Runs State.ForecastPeriods pairs of budget runs from State.BudgetPeriodStart on, which is left behind the last row,
-/// and prints the forecast if State.PrintSavingsForecast. Raises error 9 beyond 1000 rows, else what GenerateBudget
-/// raises.
+/// and prints the forecast if State.PrintSavingsForecast. The pointer is the normal one again when the rows are
+/// computed. Raises error 9 beyond 1000 rows, else what GenerateBudget raises.
 void ForecastSavings();
 
 /// The rows of the last run as they are shown: an amount is red when its text is below 0.

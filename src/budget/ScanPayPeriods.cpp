@@ -5,6 +5,8 @@
 #include "platform/Numbers.h"
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 void FillScanPayPeriods()
 {
@@ -34,14 +36,15 @@ void SortExtraPayPeriods()
     const int count = State.NumberOfExtraPayPeriods;
     if (count == 1)
         return;
-    std::vector<qint64> dates;
-    for (int i = 1; i <= count; ++i)
-        dates.push_back(State.ExtraPayPeriods(i).PayPeriodDate.JulianDay());
-    std::vector<qint64> sorted = dates;
-    std::sort(sorted.begin(), sorted.end());
     const OneBased<ExtraPayPeriodRecord> scratch = State.ExtraPayPeriods;
-    for (int i = 1; i <= count; ++i) {
-        const auto first = std::find(dates.begin(), dates.end(), sorted[std::size_t(i - 1)]);
-        State.ExtraPayPeriods(i) = scratch(int(first - dates.begin()) + 1);
+    std::vector<int> order(std::size_t(std::max(count, 0)));
+    std::iota(order.begin(), order.end(), 1);
+    const auto day = [&](int index) { return scratch(index).PayPeriodDate.JulianDay(); };
+    std::stable_sort(order.begin(), order.end(), [&](int one, int other) { return day(one) < day(other); });
+    for (int i = 1, first = 0; i <= count; ++i) {
+        const int found = order[std::size_t(i - 1)];
+        if (first == 0 || day(found) != day(first))
+            first = found;
+        State.ExtraPayPeriods(i) = scratch(first);
     }
 }

@@ -4,6 +4,7 @@
 #include "platform/Dates.h"
 
 #include <array>
+#include <functional>
 
 /// The scan's own state; a test puts it back with one assignment.
 struct ScanState {
@@ -23,3 +24,6 @@ void NewExtraPayPeriod();
 /// date the first stands twice afterwards and the second is lost, and that is how a pay period picked twice behaves.
 /// Raises error 13 for a stored date that is none.
 void SortExtraPayPeriods();
+
+/// The extras window's list of pay periods. Empty while that window is not loaded.
+inline std::function<void()> FillPayPeriodList;

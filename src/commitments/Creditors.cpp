@@ -78,6 +78,7 @@ void SortCreditors()
 
 void DeleteCreditor(int index)
 {
+    State.Creditors(index); // no selected row, no delete, not even of the last one
     if (State.NumberOfCreditors < 2) {
         State.Creditors.Redim(1);
         State.NumberOfCreditors = 0;

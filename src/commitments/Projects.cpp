@@ -54,6 +54,7 @@ void AddProject(const QString &name, Currency amount)
 
 void DeleteProject(int index)
 {
+    State.ProjectNames(index); // no selected row, no delete, not even of the last one
     if (State.NumberOfProjects < 2) {
         RedimProjects(0, false);
         State.NumberOfProjects = 0;

@@ -27,6 +27,7 @@ void ChangeRegular(int index, const RegularRecord &record)
 
 void DeleteRegular(int index)
 {
+    State.Regulars(index); // no selected row, no delete, not even of the last one
     if (State.NumberOfRegulars < 2) {
         State.Regulars.Redim(0);
         State.NumberOfRegulars = 0;

@@ -5,6 +5,7 @@
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
 #include "foundation/Tutor.h"
+#include "mainwindow/StateLineLook.h"
 #include "platform/Icons.h"
 #include "platform/Theme.h"
 #include "platform/WindowRegister.h"
@@ -18,7 +19,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int LastTimedTutorPage = 24;
-constexpr int StateLinePadding = 12;
+constexpr int StateLinePadding = 16;  // pixels, above and below a line together
+constexpr int StateLineCharacters = 44; // what the list has room for in its width
 } // namespace
 
 frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
@@ -43,12 +45,15 @@ frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
     BuildMenus();
     BuildToolbar();
     BuildStatusBar();
+    ui->lstBudgetState->setItemDelegate(new StateLineLook(ui->lstBudgetState));
+    ui->lstBudgetState->setMouseTracking(true);
+    ReserveSpace();
     ui->cmdHowDoI->setEnabled(Entry(u"mnuHowDoI"_s)->isEnabled());
     ui->cmdGettingStarted->setEnabled(Entry(u"mnuGettingStarted"_s)->isEnabled());
 
     connect(ui->lstBudgetState, &ListBox::Click, this, &frmMain::lstBudgetState_Click);
     connect(ui->cmdExit, &QPushButton::clicked, this, LeaveProgram);
-    connect(ui->cmdTutor, &QPushButton::clicked, this, &frmMain::mnuTallymereTutor_Click);
+    connect(ui->cmdTutor, &QPushButton::clicked, this, [this] { Entry(u"mnuTallymereTutor"_s)->trigger(); });
     connect(ui->cmdHowDoI, &QPushButton::clicked, this, [this] { ActOn(u"mnuHowDoI"_s); });
     connect(ui->cmdGettingStarted, &QPushButton::clicked, this, &frmMain::cmdGettingStarted_Click);
     connect(&Timer1, &QTimer::timeout, this, &frmMain::Timer1_Timer);
@@ -122,29 +127,37 @@ void frmMain::BuildStatusBar()
     }
 }
 
-/// The hint label has room for the longest hint, so that nothing jumps when the text changes.
-void frmMain::ReserveHintSpace()
+/// The hint label has room for the longest hint and the list for its nine lines, so that nothing jumps when a text
+/// changes.
+void frmMain::ReserveSpace()
 {
-    const int width = qMax(ui->Toolbar1->width(), ui->Toolbar1->minimumSizeHint().width());
+    QLabel &hint = *ui->lblToolbar;
+    const int edge = 2 * (hint.margin() + hint.frameWidth());
+    const int width = qMax(ui->Toolbar1->width(), ui->Toolbar1->minimumSizeHint().width()) - edge;
     int height = 0;
     for (const ToolbarEntry &entry : MainToolbar())
-        height = qMax(height, ui->lblToolbar->fontMetrics()
-                                  .boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, entry.Hint)
-                                  .height());
-    ui->lblToolbar->setMinimumHeight(height);
+        height = qMax(height, hint.fontMetrics().boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, entry.Hint).height());
+    hint.setMinimumHeight(height + edge);
+
+    ListBox &list = *ui->lstBudgetState;
+    const int lines = int(BudgetStateLines().size());
+    const int least = list.fontMetrics().height() + StateLinePadding;
+    list.setMinimumSize(StateLineCharacters * list.fontMetrics().averageCharWidth(), lines * least + 2 * list.frameWidth());
+    for (int line = 0; line < list.count(); ++line)
+        list.item(line)->setSizeHint(QSize(0, qMax(least, list.viewport()->height() / lines)));
 }
 
 void frmMain::resizeEvent(QResizeEvent *event)
 {
     Form::resizeEvent(event);
-    ReserveHintSpace();
+    ReserveSpace();
 }
 
 void frmMain::changeEvent(QEvent *event)
 {
     Form::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        ReserveHintSpace();
+        ReserveSpace();
 }
 
 void frmMain::Load()
@@ -155,8 +168,10 @@ void frmMain::Load()
     TheDesk.Hourglass(false);
     // Directly left of the tutor's window, which this loads whether or not the tutor is on.
     const QString tutor = u"frmTallymereTutor"_s;
-    if (TheWindows.Knows(tutor))
+    if (TheWindows.Knows(tutor)) {
+        adjustSize(); // it has no size of its own before it is shown
         move(TheWindows.Touch(tutor).x() - width(), y());
+    }
     Timer1.start();
 }
 
@@ -201,10 +216,10 @@ void frmMain::FillBudgetState()
     for (const StateEntry &entry : BudgetStateLines()) {
         ui->lstBudgetState->AddItem(entry.Line());
         QListWidgetItem *line = ui->lstBudgetState->item(ui->lstBudgetState->count() - 1);
-        line->setSizeHint(QSize(0, ui->lstBudgetState->fontMetrics().height() + StateLinePadding));
         if (!TheWindows.Knows(entry.Window))
             line->setFlags(line->flags() & ~Qt::ItemIsEnabled);
     }
+    ReserveSpace();
 }
 
 bool frmMain::IsAvailable(const MenuEntry &entry) const
@@ -308,17 +323,14 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
 void frmMain::FlipOption(const QString &entryName, const QString &option, const QString &title, const QString &on,
                          const QString &off)
 {
-    // The menu has flipped the mark already when it was chosen there; the stored option is what counts.
-    const bool turnOn = OptionValue(option) != 1;
-    Entry(entryName)->setChecked(turnOn);
+    const bool turnOn = Entry(entryName)->isChecked(); // choosing the entry has flipped its mark
     SaveOption(option, turnOn);
     ShowMessage(turnOn ? on : off, title, Icon::Information);
 }
 
 void frmMain::mnuTallymereTutor_Click()
 {
-    const bool turnOn = OptionValue(ShowTutor) != 1;
-    Entry(u"mnuTallymereTutor"_s)->setChecked(turnOn);
+    const bool turnOn = Entry(u"mnuTallymereTutor"_s)->isChecked();
     if (turnOn) {
         tmrAutoTutor.start();
     } else {

@@ -38,7 +38,7 @@ private:
     void BuildMenus();
     void BuildToolbar();
     void BuildStatusBar();
-    void ReserveHintSpace();
+    void ReserveSpace();
     void ReadOptions();
     void FillBudgetState();
     /// Whether what the entry opens exists. One whose window does not stays grey.

@@ -3,6 +3,7 @@
 #include "platform/WindowRegister.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 
@@ -81,6 +82,23 @@ bool Form::HandleEnter(QObject *control)
     if (handler)
         handler();
     return bool(handler);
+}
+
+bool Form::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
+        GiveLinesTheirHeight();
+    return done;
+}
+
+/// Layouts let a label of several lines be squeezed when the window is small or its letters are large; here it keeps
+/// the height that its lines need in its width.
+void Form::GiveLinesTheirHeight()
+{
+    for (QLabel *label : findChildren<QLabel *>())
+        if (label->wordWrap() && label->isVisible() && label->heightForWidth(label->width()) > label->height())
+            label->setMinimumHeight(label->heightForWidth(label->width()));
 }
 
 void Form::closeEvent(QCloseEvent *event)

@@ -48,10 +48,12 @@ protected:
     void OnGotFocus(QWidget *control, const std::function<void()> &handler);
     void OnLostFocus(QWidget *control, const std::function<void()> &handler);
     void closeEvent(QCloseEvent *event) final;
+    bool event(QEvent *event) override;
 
 private:
     friend class WindowRegister;
     QWidget *FirstControl() const;
+    void GiveLinesTheirHeight();
     bool CanHaveFocus(const QWidget *control) const;
     bool HandleEnter(QObject *control);
 

@@ -1,17 +1,24 @@
 #include "platform/Grid.h"
 
+#include "platform/RowLook.h"
 #include "platform/RuntimeError.h"
 #include "platform/Theme.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QTimer>
 #include <numeric>
 
 namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
+constexpr int MeasuredLetter = 5; // pixels
+constexpr int RowsAtFirst = 21; // what a grid opens with room for
+constexpr int RowsAtLeast = 6;
+constexpr int MostLetters = 120; // that a grid claims the width of
+constexpr int HairlineAlpha = 60; // of 255
 constexpr int DefaultTwips = 960; // of a column that was given no width
 }
 
@@ -116,7 +123,7 @@ private:
         case Qt::ForegroundRole:
             if (cell.Colour == GridColour::Text)
                 return {};
-            return QBColor(int(cell.Colour), m_grid->palette().color(row == 0 ? QPalette::Button : QPalette::Base),
+            return QBColor(int(cell.Colour), m_grid->palette().color(QPalette::Base),
                            m_grid->palette().color(QPalette::Text));
         default: return {};
         }
@@ -154,8 +161,39 @@ private:
     bool m_dirty = false;
 };
 
+/// A plain heading: texts with the rows' own margins over a hairline.
+class GridHeading : public QHeaderView
+{
+public:
+    explicit GridHeading(QWidget *parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+protected:
+    void paintSection(QPainter *painter, const QRect &rect, int column) const override
+    {
+        const QColor ink = palette().color(QPalette::Text);
+        painter->fillRect(rect, palette().color(QPalette::Base));
+        painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1, QColor(ink.red(), ink.green(), ink.blue(), HairlineAlpha));
+        const auto value = [&](int role) { return model()->headerData(column, Qt::Horizontal, role); };
+        const QFont font = qvariant_cast<QFont>(value(Qt::FontRole));
+        const QRect room = rect.adjusted(RowLook::Margin, 0, -RowLook::Margin, 0);
+        painter->setFont(font);
+        const QVariant colour = value(Qt::ForegroundRole);
+        painter->setPen(colour.isValid() ? colour.value<QColor>() : ink);
+        painter->drawText(room, qvariant_cast<Qt::Alignment>(value(Qt::TextAlignmentRole)),
+                          QFontMetrics(font).elidedText(value(Qt::DisplayRole).toString(), Qt::ElideRight, room.width()));
+    }
+    QSize sectionSizeFromContents(int column) const override
+    {
+        const QFontMetrics metrics(qvariant_cast<QFont>(model()->headerData(column, Qt::Horizontal, Qt::FontRole)));
+        const QString text = model()->headerData(column, Qt::Horizontal).toString();
+        return {metrics.horizontalAdvance(text) + 2 * RowLook::Margin, metrics.height() + 2 * RowPadding};
+    }
+};
+
 Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
 {
+    setHorizontalHeader(new GridHeading(this));
+    setItemDelegate(new RowLook(this));
     setModel(m_model);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -249,6 +287,7 @@ void Grid::SetColumnWidth(int column, int twips)
 {
     m_model->Check(column);
     m_twips[std::size_t(column)] = twips;
+    updateGeometry();
     ShareWidth();
 }
 
@@ -284,12 +323,19 @@ void Grid::SetCurrentRow(int row)
         selectionModel()->clear();
 }
 
+/// The widths of the columns were measured with letters five pixels wide; today's are wider.
+int Grid::NaturalWidth() const
+{
+    const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
+    return total * qMax(MeasuredLetter, fontMetrics().averageCharWidth()) / MeasuredLetter / TwipsPerPixel;
+}
+
 void Grid::ShareWidth()
 {
     const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
     if (total == 0 || m_model->columnCount() != Columns())
         return;
-    const int width = qMax(viewport()->width(), total / TwipsPerPixel);
+    const int width = qMax(viewport()->width(), NaturalWidth());
     int used = 0;
     for (int column = 0; column < Columns(); ++column) {
         const bool last = column == Columns() - 1;
@@ -317,15 +363,24 @@ void Grid::resizeEvent(QResizeEvent *event)
 void Grid::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        ShareWidth();
         ShareHeight();
+    }
 }
 
 QSize Grid::sizeHint() const
 {
-    const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0) / TwipsPerPixel;
     const int scrollBar = 24;
-    return {qMax(total, 240) + scrollBar, 17 * (fontMetrics().height() + RowPadding)};
+    return {qMax(NaturalWidth(), 240) + scrollBar, RowsAtFirst * (fontMetrics().height() + RowPadding)};
+}
+
+QSize Grid::minimumSizeHint() const
+{
+    // A grid of usual width needs no scrolling sideways, also when its columns get their widths late.
+    const int scrollBar = 24;
+    const int most = MostLetters * fontMetrics().averageCharWidth();
+    return {qMin(NaturalWidth(), most) + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
 }
 
 void Grid::keyPressEvent(QKeyEvent *event)

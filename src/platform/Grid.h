@@ -57,8 +57,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 private:
+    int NaturalWidth() const;
     void ShareWidth();
     void ShareHeight();
     GridModel *m_model;

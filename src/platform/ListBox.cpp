@@ -1,5 +1,7 @@
 #include "platform/ListBox.h"
 
+#include "platform/RowLook.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -17,11 +19,18 @@ public:
 
 } // namespace
 
+namespace {
+// What a list opens with room for.
+constexpr int LettersAtFirst = 40;
+constexpr int RowsAtFirst = 12;
+} // namespace
+
 ListBox::ListBox(QWidget *parent) : QListWidget(parent)
 {
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
     setTabKeyNavigation(false);
+    setItemDelegate(new RowLook(this));
     connect(this, &QListWidget::doubleClicked, this, [this] { Q_EMIT DoubleClick(); });
 }
 
@@ -64,6 +73,12 @@ QStringList ListBox::Items() const
     for (int row = 0; row < count(); ++row)
         items += item(row)->text();
     return items;
+}
+
+QSize ListBox::sizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    return QListWidget::sizeHint().expandedTo({LettersAtFirst * metrics.averageCharWidth(), RowsAtFirst * metrics.height()});
 }
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const

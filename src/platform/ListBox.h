@@ -19,6 +19,7 @@ public:
     void Clear();
     void AddItem(const QString &text);
     QStringList Items() const;
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// Also for a click on the row that is selected already.

@@ -408,8 +408,10 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
             WindowActivated(form);
         break;
     case QEvent::FocusIn:
-        if (static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason)
-            m_clicked = qobject_cast<QLineEdit *>(watched);
+        if (watched->isWidgetType()) // styles hear of it, too
+            m_clicked = static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason
+                            ? qobject_cast<QLineEdit *>(watched)
+                            : nullptr;
         break;
     case QEvent::MouseButtonPress:
         if (event->spontaneous())

@@ -32,24 +32,24 @@ private Q_SLOTS:
         QTest::addColumn<int>("second");
         QTest::addColumn<int>("monthEndPay");
         QTest::addColumn<QString>("chain");
-        const auto row = [](const char *name, int frequency, int first, int second, int monthEndPay, const char *chain) {
+        const auto row = [](const char *name, int frequency, int first, int second, int monthEndPay,
+                            const char *chain) {
             QTest::newRow(name) << frequency << first << second << monthEndPay << QString::fromLatin1(chain);
         };
         row("weekly", 7, 0, 0, 0, "12-24-2003 12-31-2003 01-07-2004 01-14-2004");
         row("biweekly", 14, 0, 0, 0, "12-24-2003 01-07-2004 01-21-2004 02-04-2004");
-        row("semimonthly, 1 and 15", 15, 1, 15, 0,
-            "12-15-2003 01-01-2004 01-15-2004 02-01-2004 02-15-2004 03-01-2004");
+        row("semimonthly, 1 and 15", 15, 1, 15, 0, "12-15-2003 01-01-2004 01-15-2004 02-01-2004 02-15-2004 03-01-2004");
         row("semimonthly, 15 and month's end, leap year", 15, 15, 0, 0,
             "01-15-2004 01-31-2004 02-15-2004 02-29-2004 03-15-2004 03-31-2004 04-15-2004");
         row("semimonthly, 15 and month's end, common year", 15, 15, 0, 0,
             "01-15-2005 01-31-2005 02-15-2005 02-28-2005 03-15-2005");
         row("semimonthly, 14 and 28", 15, 14, 28, 0,
             "12-14-2004 12-28-2004 01-14-2005 01-28-2005 02-14-2005 02-28-2005");
-        row("monthly: once clamped, the day stays", 30, 0, 0, 0, "01-31-2004 02-29-2004 03-29-2004 04-29-2004 05-29-2004");
+        row("monthly: once clamped, the day stays", 30, 0, 0, 0,
+            "01-31-2004 02-29-2004 03-29-2004 04-29-2004 05-29-2004");
         row("monthly in a common year", 30, 0, 0, 0, "01-30-2005 02-28-2005 03-28-2005");
         row("monthly over the year's end", 30, 0, 0, 0, "11-30-2003 12-30-2003 01-30-2004 02-29-2004");
-        row("monthly, month's end", 30, 0, 0, -1,
-            "12-31-2003 01-31-2004 02-29-2004 03-31-2004 04-30-2004 05-31-2004");
+        row("monthly, month's end", 30, 0, 0, -1, "12-31-2003 01-31-2004 02-29-2004 03-31-2004 04-30-2004 05-31-2004");
         row("monthly, month's end, mid-month start", 30, 0, 0, -1, "01-15-2004 02-29-2004 03-31-2004 04-30-2004");
         row("monthly, month's end, over the year's end", 30, 0, 0, -1, "10-31-2003 11-30-2003 12-31-2003 01-31-2004");
         row("a first pay day of 0 never leaves its month", 15, 0, 15, 0, "01-10-2004 01-15-2004 01-31-2004 01-31-2004");

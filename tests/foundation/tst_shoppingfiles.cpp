@@ -36,9 +36,14 @@ const char NoAccess[] = "Error 75: Path/File access error";
 const MasterItemRecord Milk{QStringLiteral("Milk, whole"), QStringLiteral("gallon"), Count(24900),
                             QStringLiteral("Corner"), true};
 const MasterItemRecord Bread{QStringLiteral("Bread"), QString(), Count(0), QString(), false};
-const CurrentItemRecord MilkOnTheList{
-    QStringLiteral("Milk"), QStringLiteral("gallon"), Count(24900), QStringLiteral("Corner"), 1.5F, true, Count(2500),
-    Count(37091)};
+const CurrentItemRecord MilkOnTheList{QStringLiteral("Milk"),
+                                      QStringLiteral("gallon"),
+                                      Count(24900),
+                                      QStringLiteral("Corner"),
+                                      1.5F,
+                                      true,
+                                      Count(2500),
+                                      Count(37091)};
 
 void ExpectOnly(FakeDesk &desk, int count, const Message &message)
 {
@@ -69,9 +74,10 @@ private Q_SLOTS:
         State.NumberOfMasterItems = 2;
         State.MasterShoppingList = {Milk, Bread};
         SaveMasterShoppingList();
-        QCOMPARE(desk.ReadFile(MasterFile), QByteArray("2\r\n"
-                                                       "\"Milk, whole\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n#TRUE#\r\n"
-                                                       "\"Bread\"\r\n\"\"\r\n0\r\n\"\"\r\n#FALSE#\r\n"));
+        QCOMPARE(desk.ReadFile(MasterFile),
+                 QByteArray("2\r\n"
+                            "\"Milk, whole\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n#TRUE#\r\n"
+                            "\"Bread\"\r\n\"\"\r\n0\r\n\"\"\r\n#FALSE#\r\n"));
         State.MasterShoppingList.Redim(0);
         InputMasterShoppingList();
         QCOMPARE(State.NumberOfMasterItems, qint16(2));
@@ -86,8 +92,9 @@ private Q_SLOTS:
         State.NumberOfCurrentItems = 1;
         State.CurrentShoppingList = {MilkOnTheList};
         SaveCurrentShoppingList();
-        QCOMPARE(desk.ReadFile(ListFile),
-                 QByteArray("1\r\n\"Milk\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n1.5\r\n#TRUE#\r\n0.25\r\n3.7091\r\n"));
+        QCOMPARE(
+            desk.ReadFile(ListFile),
+            QByteArray("1\r\n\"Milk\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n1.5\r\n#TRUE#\r\n0.25\r\n3.7091\r\n"));
         State.CurrentShoppingList.Redim(0);
         InputCurrentShoppingList();
         QCOMPARE(State.NumberOfCurrentItems, qint16(1));
@@ -226,11 +233,21 @@ private Q_SLOTS:
             QCOMPARE(desk.TakeMessage(), (Message{message, InputCurrent, Icon::Stop, Buttons::Ok, 0}));
         CurrentItemRecord damaged = MilkOnTheList;
         switch (line) {
-        case 3: damaged.UnitPrice = Currency(); break;
-        case 5: damaged.Quantity = 0; break;
-        case 6: damaged.Taxable = false; break;
-        case 7: damaged.CouponValue = Currency(); break;
-        default: damaged.FullPrice = Currency(); break;
+        case 3:
+            damaged.UnitPrice = Currency();
+            break;
+        case 5:
+            damaged.Quantity = 0;
+            break;
+        case 6:
+            damaged.Taxable = false;
+            break;
+        case 7:
+            damaged.CouponValue = Currency();
+            break;
+        default:
+            damaged.FullPrice = Currency();
+            break;
         }
         QVERIFY(State.CurrentShoppingList(1) == damaged);
         QVERIFY(State.CurrentShoppingList(2) == MilkOnTheList); // the loop carries on with the following field
@@ -253,7 +270,8 @@ private Q_SLOTS:
         const QLocale before = UserLocale();
         SetUserLocale(QLocale(QLocale::German, QLocale::Germany));
         State.CurrentStoreFile = QStringLiteral("untitled.lst");
-        const QByteArray list = "1\r\n\"Milk\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n1.5\r\n#TRUE#\r\n0.25\r\n3.7091\r\n";
+        const QByteArray list =
+            "1\r\n\"Milk\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n1.5\r\n#TRUE#\r\n0.25\r\n3.7091\r\n";
         desk.WriteFile(ListFile, list);
         InputCurrentShoppingList();
         SaveCurrentShoppingList();
@@ -317,7 +335,8 @@ private Q_SLOTS:
         desk.WriteFile(MasterFile, "32767");
         InputMasterShoppingList();
         QCOMPARE(desk.Messages.size(), 26);
-        QCOMPARE(desk.Messages.takeLast(), Told("163810 more errors in this file are not shown one by one.", InputMaster));
+        QCOMPARE(desk.Messages.takeLast(),
+                 Told("163810 more errors in this file are not shown one by one.", InputMaster));
         ExpectOnly(desk, 25, Told(PastEnd, InputMaster)); // 5 * 32767 - 25
         desk.WriteFile(ListFile, "32767");
         InputCurrentShoppingList();
@@ -391,20 +410,24 @@ private Q_SLOTS:
         QCOMPARE(desk.ReadFile(ListFile), QByteArray("as it was"));
     }
 
-    void AFailedSaveLeavesTheNewFilePartlyWritten()
+    void AnErrorAmongTheValuesComesBeforeTheFileIsTouched()
     {
         FakeDesk desk;
         State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        desk.WriteFile(MasterFile, "as it was");
         desk.WriteFile(ListFile, "as it was");
-        State.NumberOfCurrentItems = 2; // one more than there are
+        State.NumberOfMasterItems = State.NumberOfCurrentItems = 2; // one more than there are
+        State.MasterShoppingList = {Milk};
         State.CurrentShoppingList = {MilkOnTheList};
+        SaveMasterShoppingList();
+        QCOMPARE(desk.TakeMessage(), Told(OutOfRange, SaveMaster));
         SaveCurrentShoppingList();
         QCOMPARE(desk.TakeMessage(), Told(OutOfRange, SaveCurrent));
-        QCOMPARE(desk.ReadFile(ListFile),
-                 QByteArray("2\r\n\"Milk\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n1.5\r\n#TRUE#\r\n0.25\r\n3.7091\r\n"));
-        State.NumberOfCurrentItems = 1; // and the file is not blocked
+        QCOMPARE(desk.ReadFile(MasterFile), QByteArray("as it was"));
+        QCOMPARE(desk.ReadFile(ListFile), QByteArray("as it was"));
+        State.NumberOfCurrentItems = 1; // and nothing is blocked
         SaveCurrentShoppingList();
-        QVERIFY(desk.ReadFile(ListFile).startsWith("1\r\n"));
+        QVERIFY(desk.ReadFile(ListFile).startsWith("1\r\n\"Milk\""));
     }
 
     void AnUpperCaseNameIsFoundAndNotDoubled()
@@ -417,7 +440,8 @@ private Q_SLOTS:
         SaveCurrentShoppingList();
         const QDir stores(desk.Path(QStringLiteral("STORES")));
         QCOMPARE(stores.entryList(QDir::Files).size(), 1);
-        QCOMPARE(QDir(desk.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList(QStringLiteral("STORES")));
+        QCOMPARE(QDir(desk.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+                 QStringList(QStringLiteral("STORES")));
     }
 };
 

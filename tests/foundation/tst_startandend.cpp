@@ -176,7 +176,7 @@ private Q_SLOTS:
         };
         InitializeVariables();
         QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
-        QVERIFY(initializing); // the flag falls only behind it
+        QVERIFY(initializing);      // the flag falls only behind it
         QCOMPARE(items, qint16(1)); // and the last list is there before it
         QVERIFY(!State.InitializingVariables);
         QVERIFY(!State.MathCalculatorMissing);
@@ -249,9 +249,12 @@ private Q_SLOTS:
     void ADamagedSettingIsToldAndAbandonsTheStart_data()
     {
         QTest::addColumn<QByteArray>("file");
-        QTest::newRow("periods beyond 16 bits") << QByteArray("40000\n1000\n14\n1\n15\n0\n0.06\n\"untitled.lst\"\n0.9\n");
-        QTest::newRow("a paycheck beyond the range") << QByteArray("26\n1e20\n14\n1\n15\n0\n0.06\n\"untitled.lst\"\n0.9\n");
-        QTest::newRow("a tax beyond single precision") << QByteArray("26\n1\n14\n1\n15\n0\n1e99\n\"untitled.lst\"\n0.9\n");
+        QTest::newRow("periods beyond 16 bits")
+            << QByteArray("40000\n1000\n14\n1\n15\n0\n0.06\n\"untitled.lst\"\n0.9\n");
+        QTest::newRow("a paycheck beyond the range")
+            << QByteArray("26\n1e20\n14\n1\n15\n0\n0.06\n\"untitled.lst\"\n0.9\n");
+        QTest::newRow("a tax beyond single precision")
+            << QByteArray("26\n1\n14\n1\n15\n0\n1e99\n\"untitled.lst\"\n0.9\n");
     }
     void ADamagedSettingIsToldAndAbandonsTheStart()
     {
@@ -436,8 +439,7 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         LeaveProgram();
-        QCOMPARE(desk.TakeMessage(),
-                 Told("Error 53: File not found", QStringLiteral("Save Environment Settings")));
+        QCOMPARE(desk.TakeMessage(), Told("Error 53: File not found", QStringLiteral("Save Environment Settings")));
         QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("close")));
         QVERIFY(desk.Ended);
     }

@@ -1,17 +1,17 @@
-// Any bytes at all as a data file. The first byte of an input says what reads the rest: a letter of the table below names
-// a loader, which gets the rest as its file; under every other byte the values are read one by one from memory, the type
-// changing from read to read, which is many times faster.
+// Any bytes at all as a data file. The first byte of an input says what reads the rest: a letter of the table below
+// names a loader, which gets the rest as its file; under every other byte the values are read one by one from memory,
+// the type changing from read to read, which is many times faster.
 //
-// Beside what the sanitizers see, these must hold: only RuntimeError is ever thrown; every read takes something from the
-// file or says that it is at its end; a load shows at most 26 boxes; what was loaded without a message is saved without
-// one and loads again as the same; the number and date tests agree with their conversions.
+// Beside what the sanitizers see, these must hold: only RuntimeError is ever thrown; every read takes something from
+// the file or says that it is at its end; a load shows at most 26 boxes; what was loaded without a message is saved
+// without one and loads again as the same; the number and date tests agree with their conversions.
+#include "platform/DataFile.h"
 #include "ErrorOf.h"
 #include "RecordingDesk.h"
 #include "budget/BudgetGenerator.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/ShoppingFiles.h"
 #include "foundation/StartAndEnd.h"
-#include "platform/DataFile.h"
 #include "platform/Numbers.h"
 
 #include <cstdio>
@@ -73,9 +73,15 @@ void ReadFromMemory(const QByteArray &bytes, int firstType)
                 Require(again == value, "a Single reads back");
                 break;
             }
-            case 3: file.InputBoolean(); break;
-            case 4: CheckText(file.InputString()); break;
-            default: file.InputLine(); break;
+            case 3:
+                file.InputBoolean();
+                break;
+            case 4:
+                CheckText(file.InputString());
+                break;
+            default:
+                file.InputLine();
+                break;
             }
         });
         if (error == RuntimeError::InputPastEnd)

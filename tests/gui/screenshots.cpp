@@ -14,10 +14,36 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Half the colours of a screen are more than these pictures need.
-QImage SmallPicture(const QPixmap &picture)
+/// The picture with at most 256 colours, which takes a third of the room. Where it has more, neighbours are made equal
+/// in steps that the eye does not see.
+QImage SmallPicture(const QPixmap &pixmap)
 {
-    return picture.toImage().convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
+    const QImage picture = pixmap.toImage().convertToFormat(QImage::Format_RGB32);
+    for (int step = 1; step <= 8; step *= 2) {
+        const auto nearby = [step](int channel) { return qMin(255, (channel + step / 2) / step * step); };
+        QHash<QRgb, uchar> numbers;
+        QList<QRgb> colours;
+        QImage small(picture.size(), QImage::Format_Indexed8);
+        bool fits = true;
+        for (int y = 0; fits && y < picture.height(); ++y) {
+            for (int x = 0; fits && x < picture.width(); ++x) {
+                const QRgb exact = picture.pixel(x, y);
+                const QRgb colour = qRgb(nearby(qRed(exact)), nearby(qGreen(exact)), nearby(qBlue(exact)));
+                auto number = numbers.find(colour);
+                if (number == numbers.end()) {
+                    fits = colours.size() < 256;
+                    number = numbers.insert(colour, uchar(colours.size()));
+                    colours += colour;
+                }
+                small.scanLine(y)[x] = number.value();
+            }
+        }
+        if (fits) {
+            small.setColorTable(colours);
+            return small;
+        }
+    }
+    return picture;
 }
 
 bool TakePicture(const QString &window, Household household, bool dark, const QString &folder)

@@ -961,7 +961,7 @@ private Q_SLOTS:
         const Form &main = *TheWindows.Loaded(Window);
         QVERIFY(TheWindows.Loaded(u"frmTallymereTutor"_s));
         QVERIFY(!IsShown(u"frmTallymereTutor"_s));
-        QCOMPARE(main.frameGeometry().x() + main.frameGeometry().width(), 1500);
+        QCOMPARE(main.x() + main.width(), 1500);
     }
 
     void ADamagedStartIsToldAndTheMainWindowOpens_data()
@@ -1000,7 +1000,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         desk.RemoveFile(u"help\\Instruction.txt"_s);
-        desk.WriteFile(u"creditor.txt"_s, "1\r\n\"Rent\"\r\n1\r\n800\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n1\r\n\"Rent\"\r\n800\r\n");
         desk.StartProgram();
         QVERIFY(!Entry(u"mnuFinanceMathCalculator"_s).isEnabled());
         QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).first(), u"Creditors: 1"_s);
@@ -1024,7 +1024,6 @@ private Q_SLOTS:
         desk.StartProgram();
         Choose(u"mnuFileExtras"_s); // it gets no unload event
         Show(Window);
-        desk.RemoveFile(u"environm.ini"_s);
         State.PaycheckAmount = Currency::FromTenThousandths(12345000);
         QStringList order;
         QByteArray saved;

@@ -975,6 +975,7 @@ private Q_SLOTS:
         toys["A"].Button->hide();
         toys["A"].FocusOn(toys["A"].Button);
         QCOMPARE(TakeLog(), QStringList());
+        Settle();
         QCOMPARE(QApplication::focusWidget(), toys["A"].First);
     }
 
@@ -1276,12 +1277,14 @@ private Q_SLOTS:
         ToyBox toys;
         UseRealBoxes();
         Show("A");
+        Soon([] { RaiseError(RuntimeError::TypeMismatch); });
         int failures = 0;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] {
             if (++failures == 4)
                 AnswerBoxSoon();
-            RaiseError(RuntimeError::Overflow);
+            if (OpenBox())
+                RaiseError(RuntimeError::Overflow);
         });
         timer.start(1);
         QTRY_VERIFY(Log.contains("the program ends"));

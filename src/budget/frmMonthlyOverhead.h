@@ -1,0 +1,28 @@
+// The window that tells what a month costs, compared with what a month brings in.
+#pragma once
+
+#include "foundation/WorkWindow.h"
+
+#include <memory>
+
+namespace Ui {
+class frmMonthlyOverhead;
+}
+
+class frmMonthlyOverhead : public WorkWindow
+{
+    Q_OBJECT
+public:
+    frmMonthlyOverhead();
+    ~frmMonthlyOverhead() override;
+    void Activate() override;
+    void Deactivate() override;
+
+private:
+    void ShowOverhead();
+    void ClearOverheadGrid();
+    void cmdPrint_Click();
+    void cmdQuit_Click();
+
+    std::unique_ptr<Ui::frmMonthlyOverhead> ui;
+};

@@ -1,0 +1,131 @@
+#include "budget/frmSavingsForecast.h"
+
+#include "budget/SavingsForecast.h"
+#include "foundation/State.h"
+#include "platform/Desk.h"
+#include "platform/Grid.h"
+#include "platform/Numbers.h"
+#include "platform/WindowRegister.h"
+#include "ui_frmSavingsForecast.h"
+
+#include <QLineEdit>
+
+namespace {
+
+constexpr int StartRows = 2;
+constexpr int RowsInView = 16;
+constexpr int NumberTwips = 500;
+constexpr int TextTwips = 2045;
+enum Column { Number, PayPeriod, Savings, Accumulated, Columns };
+
+/// Writes an amount in place, red below 0; the colour does not run on into the row below.
+void WriteAmount(Grid &grid, int row, int column, const QString &text, bool red)
+{
+    grid.SetColour(row, column, red ? GridColour::LightRed : GridColour::Text);
+    grid.SetText(row, column, text);
+    if (red)
+        grid.SetColour(row + 1, column, GridColour::Text);
+}
+
+} // namespace
+
+frmSavingsForecast::frmSavingsForecast() : ui(std::make_unique<Ui::frmSavingsForecast>())
+{
+    ui->setupUi(this);
+    ui->grdSavingsForecast->SetShape(StartRows, Columns);
+    for (int column = 0; column < Columns; ++column) // before it is shown: the window opens wide enough
+        ui->grdSavingsForecast->SetColumnWidth(column, column == Number ? NumberTwips : TextTwips);
+    OnGotFocus(ui->grdSavingsForecast, [this] { grdSavingsForecast_GotFocus(); });
+    connect(ui->grdSavingsForecast, &Grid::Click, this, &frmSavingsForecast::grdSavingsForecast_Click);
+}
+
+frmSavingsForecast::~frmSavingsForecast() = default;
+
+void frmSavingsForecast::Load()
+{
+    WorkWindow::Load();
+    // Set here alone: when the window comes back to the front, the forecast continues behind its last row.
+    State.BudgetPeriodStart = State.CurrentPayPeriod;
+}
+
+void frmSavingsForecast::Activate()
+{
+    State.LookingAhead = false;
+    State.BudgetCredit = {};
+    Grid &grid = *ui->grdSavingsForecast;
+    grid.SetRowsInView(RowsInView);
+    const QString headings[Columns] = {QStringLiteral("No."), QStringLiteral("Pay Period"), QStringLiteral("Savings"),
+                                       QStringLiteral("Accumulated")};
+    for (int column = 0; column < Columns; ++column) {
+        grid.SetColumnWidth(column, column == Number ? NumberTwips : TextTwips);
+        grid.SetBold(0, column, true);
+        grid.SetText(0, column, headings[column]);
+    }
+    grid.SetRightAligned(Savings, true);
+    grid.SetRightAligned(Accumulated, true);
+}
+
+void frmSavingsForecast::Deactivate()
+{
+    State.LookingAhead = false;
+    State.BudgetCredit = {};
+    // The question for the pay period is loaded unseen for this where it is not loaded.
+    const auto &entry = TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmSetCurrentPayPeriod"),
+                                                        QStringLiteral("txtCurrentPayPeriod"));
+    State.CurrentPayPeriod = Format(ToDate(entry.text()), DateFormat::Short);
+}
+
+void frmSavingsForecast::Unload()
+{
+    WorkWindow::Unload();
+    Deactivate();
+}
+
+void frmSavingsForecast::grdSavingsForecast_GotFocus()
+{
+    TheDesk.Hourglass(true);
+    ForecastSavings();
+    FillGrid();
+    TheDesk.Hourglass(false);
+}
+
+/// Rows of an earlier forecast are pushed down, but for those that a row with a red amount is written over.
+void frmSavingsForecast::FillGrid()
+{
+    Grid &grid = *ui->grdSavingsForecast;
+    int number = 0;
+    for (const DatedRow &row : ForecastRows()) {
+        ++number;
+        if (!row.AmountIsRed && !row.AccumulatedIsRed) {
+            grid.AddItem(QString::number(number) + QLatin1Char('\t') + row.Date + QLatin1Char('\t') + row.Amount +
+                             QLatin1Char('\t') + row.Accumulated,
+                         number);
+            continue;
+        }
+        grid.SetText(number, Number, QString::number(number));
+        grid.SetText(number, PayPeriod, row.Date);
+        WriteAmount(grid, number, Savings, row.Amount, row.AmountIsRed);
+        WriteAmount(grid, number, Accumulated, row.Accumulated, row.AccumulatedIsRed);
+    }
+    grid.SetCurrentRow(0);
+}
+
+void frmSavingsForecast::grdSavingsForecast_Click()
+{
+    if (State.ProjectDateFromForecast)
+        PickCompletionDate();
+}
+
+void frmSavingsForecast::PickCompletionDate()
+{
+    const int row = ui->grdSavingsForecast->CurrentRow();
+    Forecast.ForecastPickRow = ToInteger(row);
+    // The heading addresses a date before the first: error 9, which nobody traps.
+    TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmProjects"), QStringLiteral("txtProjectCompletionDate"))
+        .setText(Forecast.ForecastDates(row));
+    // A row below the last forecast row takes an empty date, and where nothing is accumulated there is no amount.
+    const QString accumulated = ui->grdSavingsForecast->Text(row, Accumulated);
+    Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency() : ToCurrency(accumulated);
+    State.ProjectDateFromForecast = false;
+    TheWindows.Unload(objectName());
+}

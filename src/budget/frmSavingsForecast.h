@@ -1,0 +1,30 @@
+// The window of the savings forecast: a row a pay period, and the pick of a project's completion date.
+#pragma once
+
+#include "foundation/WorkWindow.h"
+
+#include <memory>
+
+namespace Ui {
+class frmSavingsForecast;
+}
+
+class frmSavingsForecast : public WorkWindow
+{
+    Q_OBJECT
+public:
+    frmSavingsForecast();
+    ~frmSavingsForecast() override;
+    void Load() override;
+    void Activate() override;
+    void Deactivate() override;
+    void Unload() override;
+
+private:
+    void FillGrid();
+    void PickCompletionDate();
+    void grdSavingsForecast_GotFocus();
+    void grdSavingsForecast_Click();
+
+    std::unique_ptr<Ui::frmSavingsForecast> ui;
+};

@@ -1,0 +1,31 @@
+// The window of the creditors: bills that fall due on a fixed day of every month.
+#pragma once
+
+#include "commitments/ListPanel.h"
+
+#include <memory>
+
+namespace Ui {
+class frmCreditors;
+}
+
+class frmCreditors : public ListPanel
+{
+    Q_OBJECT
+public:
+    frmCreditors();
+    ~frmCreditors() override;
+
+private:
+    void FillCreditorList();
+    void SaveAndReload();
+    void CommitEntry();
+    void cmdListCreditors_Click();
+    void cmdAddCreditor_Click();
+    void lstCreditors_Click();
+    void cmdAddChangeCreditor_Click();
+    void cmdDeleteCreditor_Click();
+    void cmdQuit_Click();
+
+    std::unique_ptr<Ui::frmCreditors> ui;
+};

@@ -1,0 +1,57 @@
+#include "commitments/frmViewProject.h"
+
+#include "budget/GridRendering.h"
+#include "commitments/Projects.h"
+#include "ui_frmViewProject.h"
+
+namespace {
+constexpr int StartRows = MostProjectEntries + 2; // the heading, every entry, and one below the last
+constexpr int DateTwips = 1750;
+constexpr int AmountTwips = 1447;
+
+/// The window may outlive its project: then it goes on showing what it showed.
+bool ProjectIsThere()
+{
+    return Projects.SelectedProject >= 1 && Projects.SelectedProject <= State.NumberOfProjects;
+}
+} // namespace
+
+frmViewProject::frmViewProject() : ui(std::make_unique<Ui::frmViewProject>())
+{
+    ui->setupUi(this);
+    ui->grdViewProject->SetShape(StartRows, 3);
+    OnGotFocus(ui->grdViewProject, [this] { grdViewProject_GotFocus(); });
+}
+
+frmViewProject::~frmViewProject() = default;
+
+void frmViewProject::Activate()
+{
+    Grid &grid = *ui->grdViewProject;
+    grid.SetColumnWidth(0, DateTwips);
+    grid.SetColumnWidth(1, AmountTwips);
+    grid.SetColumnWidth(2, AmountTwips);
+    for (int column : {0, 1, 2})
+        grid.SetBold(0, column, true);
+    grid.SetRightAligned(1, true);
+    grid.SetRightAligned(2, true);
+    grid.SetText(0, 0, QStringLiteral("Pay Period"));
+    grid.SetText(0, 1, QStringLiteral("Installment"));
+    grid.SetText(0, 2, QStringLiteral("Accumulated"));
+    if (ProjectIsThere())
+        setWindowTitle(State.ProjectNames(Projects.SelectedProject));
+}
+
+void frmViewProject::grdViewProject_GotFocus()
+{
+    if (!ProjectIsThere())
+        return;
+    // Rows of an earlier filling stay below the new ones, and each filling prints again: coming back to the window is a
+    // filling, too.
+    int row = 0;
+    for (const DatedRow &dated : ProjectRows(Projects.SelectedProject))
+        WriteDatedRow(*ui->grdViewProject, ++row, dated);
+    ui->grdViewProject->SetCurrentRow(0);
+    if (State.PrintProjectView)
+        PrintProject(Projects.SelectedProject);
+}

@@ -1,0 +1,126 @@
+#include "mainwindow/Settings.h"
+
+#include "platform/Format.h"
+#include "platform/Numbers.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double LastFirstPayDate = 27;
+constexpr double LastSecondPayDate = 28;
+
+QString PerCent(float fraction)
+{
+    return Format(ToSingle(double(fraction) * 100), NumberFormat::Fixed);
+}
+
+float Fraction(const QString &perCent)
+{
+    return ToSingle(double(ToSingle(perCent)) / 100);
+}
+
+/// A number that no double can hold lies beyond every range.
+double ValueOrInfinity(const QString &text)
+{
+    double value = std::numeric_limits<double>::infinity();
+    IgnoreErrors([&] { value = ToDouble(text); });
+    return value;
+}
+
+} // namespace
+
+EnvironmentEntry ShownEnvironment()
+{
+    return {.ForecastPeriods = Format(int(State.ForecastPeriods), NumberFormat::GeneralNumber),
+            .PaycheckAmount = FormatCurrency(State.PaycheckAmount),
+            .SalesTax = PerCent(State.SalesTax),
+            .AverageNetPercentage = PerCent(State.AverageNetPercentage)};
+}
+
+std::optional<Refusal> ValidateEnvironmentEntry(const EnvironmentEntry &entry)
+{
+    return FirstFailure({
+        {IsNumeric(entry.ForecastPeriods), "Forecast Periods does not contain a valid numeric amount",
+         "txtForecastPeriods"},
+        {IsNumeric(entry.PaycheckAmount), "Paycheck Amount does not contain a valid currency amount",
+         "txtPaycheckAmount"},
+        {IsNumeric(entry.SalesTax), "Sales Tax does not contain a valid numeric amount", "txtSalesTax"},
+        // It names a due date although the percentage is meant: the wording that users know, kept.
+        {IsNumeric(entry.AverageNetPercentage), "Due Date does not contain a valid numeric amount",
+         "txtAverageNetPercentage"},
+    });
+}
+
+QString BoundedForecastPeriods(const QString &text)
+{
+    const qint16 periods = ToInteger(text);
+    if (periods > MostForecastPeriods)
+        return PlainText(MostForecastPeriods);
+    return periods < LeastForecastPeriods ? PlainText(LeastForecastPeriods) : text;
+}
+
+QString SteppedForecastPeriods(const QString &text, int step, int maximum)
+{
+    QString stepped = text;
+    IgnoreErrors([&] {
+        const double periods = std::nearbyint(ToDouble(text)) + step;
+        stepped = PlainText(int(std::clamp(periods, double(LeastForecastPeriods), double(maximum))));
+    });
+    return stepped;
+}
+
+void TakeEnvironmentEntry(const EnvironmentEntry &entry)
+{
+    State.ForecastPeriods = ToInteger(entry.ForecastPeriods);
+    State.PaycheckAmount = ToCurrency(entry.PaycheckAmount);
+    State.SalesTax = Fraction(entry.SalesTax);
+    State.AverageNetPercentage = Fraction(entry.AverageNetPercentage);
+}
+
+const QList<PayFrequencyOption> &PayFrequencyOptions()
+{
+    static const QList<PayFrequencyOption> options{
+        {Weekly, u"Calculate Wages (Weekly)"_s, {}},
+        {Biweekly, u"Calculate Wages (Biweekly)"_s, {}},
+        {Semimonthly, u"Calculate Wages (Semimonthly)"_s, u"frmSemiMonthlyPayInfo"_s},
+        {Monthly, u"Calculate Wages (Monthly)"_s, u"frmMonthlyPaymentOption"_s},
+    };
+    return options;
+}
+
+int OptionOfPayFrequency(qint16 frequency)
+{
+    const QList<PayFrequencyOption> &options = PayFrequencyOptions();
+    const auto option = std::find_if(options.begin(), options.end(), [&](const PayFrequencyOption &one) {
+        return one.Frequency == frequency;
+    });
+    return option == options.end() ? -1 : int(option - options.begin());
+}
+
+std::optional<Refusal> ValidateSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate)
+{
+    const double first = ValueOrInfinity(firstPayDate);
+    const double second = ValueOrInfinity(secondPayDate);
+    // The bounds differ, and equal dates and a first date of 0 pass: the calendar steps from them as they are.
+    return FirstFailure({
+        {IsNumeric(firstPayDate), "First Pay Date does not contain a valid numeric amount", "txtFirstPayDate"},
+        {IsNumeric(secondPayDate), "Second Pay Date does not contain a valid numeric amount", "txtSecondPayDate"},
+        {first >= 0 && first <= LastFirstPayDate && second >= 0 && second <= LastSecondPayDate,
+         "Dates are out of acceptable range", "txtFirstPayDate"},
+        {second == 0 || first <= second,
+         "First Pay Date cannot be greater than Second Pay Date unless you get paid at the end of the month",
+         "txtFirstPayDate"},
+    });
+}
+
+void TakeSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate)
+{
+    State.FirstPayDate = ToInteger(firstPayDate);
+    State.SecondPayDate = ToInteger(secondPayDate);
+}

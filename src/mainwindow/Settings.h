@@ -1,0 +1,49 @@
+// What the settings windows show, test and store, as calculations on texts and the shared state.
+#pragma once
+
+#include "foundation/Refusal.h"
+#include "foundation/State.h"
+
+constexpr int LeastForecastPeriods = 1;
+constexpr int MostForecastPeriods = 1000;
+
+/// The texts of frmEnvironmentSettings that apply when the window is left. Percentages are in per cent.
+struct EnvironmentEntry {
+    QString ForecastPeriods;
+    QString PaycheckAmount;
+    QString SalesTax;
+    QString AverageNetPercentage;
+    bool operator==(const EnvironmentEntry &) const = default;
+};
+
+/// The settings as the window shows them.
+EnvironmentEntry ShownEnvironment();
+
+/// What the texts are refused for, if anything: each has to be a number, in the order of the record.
+std::optional<Refusal> ValidateEnvironmentEntry(const EnvironmentEntry &entry);
+
+/// The forecast text, replaced by "1000" or "1" where its integer value lies outside 1 to 1000.
+/// Error 6 if it is beyond an Integer, 13 if it is no number.
+QString BoundedForecastPeriods(const QString &text);
+
+/// The forecast text one step of the spinner further, kept within 1 to maximum; a text that is no number stays.
+QString SteppedForecastPeriods(const QString &text, int step, int maximum);
+
+/// Stores the entry, setting by setting in the order of the record; an error leaves those before it stored.
+/// Percentages become fractions in single precision. Error 6 for a number beyond its type, 13 for no number.
+void TakeEnvironmentEntry(const EnvironmentEntry &entry);
+
+/// One pay frequency that can be chosen, in order of option from 0.
+struct PayFrequencyOption {
+    qint16 Frequency = 0;
+    QString WagesCaption; ///< what the wage calculator is titled then
+    QString DatesWindow;  ///< asks for what the frequency needs to know beyond itself; empty: nothing
+};
+const QList<PayFrequencyOption> &PayFrequencyOptions();
+/// The option of a frequency, -1 where there is none.
+int OptionOfPayFrequency(qint16 frequency);
+
+/// What two semimonthly pay dates are refused for, if anything. A second date of 0 is the month's end.
+std::optional<Refusal> ValidateSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate);
+/// Stores them, rounded to Integers, ties to even.
+void TakeSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate);

@@ -1,0 +1,227 @@
+// The window of valid pay periods: looking only, and picking one for the extras.
+#include "GuiDesk.h"
+#include "GuiMain.h"
+
+#include "budget/ScanPayPeriods.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Window = u"frmScanPayPeriods"_s;
+const QString List = u"lstScanPayPeriods"_s;
+
+void TakeHousehold()
+{
+    Scan = {};
+    State.CurrentPayPeriod = u"01-01-2004"_s;
+    State.PayFrequency = Biweekly;
+}
+
+class Other : public Form
+{
+};
+
+/// Stands in for the extras window: counts how often its list of pay periods is filled.
+class ExtrasWindow : public Form
+{
+public:
+    static inline int Fills = 0;
+    void Load() override
+    {
+        FillPayPeriodList = [] { ++Fills; };
+    }
+    void Unload() override { FillPayPeriodList = nullptr; }
+};
+
+/// The extras window adds a pay period: it is shown, its flag is up, and the scan is open above it.
+void OpenForExtras()
+{
+    ExtrasWindow::Fills = 0;
+    TheWindows.Declare(u"frmExtras"_s, [] { return new ExtrasWindow; });
+    Show(u"frmExtras"_s);
+    State.ScanCalledFromExtras = true;
+    Show(Window);
+}
+
+} // namespace
+
+class gui_frmScanPayPeriods : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { FillPayPeriodList = nullptr; }
+
+    void TheListHasAHundredAndOneRowsFromTheCurrentPayPeriodOn()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Valid Pay Periods"_s);
+        const QStringList rows = RowsOf(Window, List);
+        QCOMPARE(rows.size(), 101);
+        QCOMPARE(rows.mid(0, 3), (QStringList{u"January 1, 2004"_s, u"January 15, 2004"_s, u"January 29, 2004"_s}));
+        QCOMPARE(rows.last(), u"November 1, 2007"_s); // 1,400 days later
+        QCOMPARE(Find<ListBox>(Window, List).ListIndex(), -1);
+        QCOMPARE(FocusOf(Window), List);
+    }
+
+    void ComingBackFillsAgain()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        Show(u"frmOther"_s);
+        State.PayFrequency = Weekly;
+        Show(Window);
+        QCOMPARE(RowsOf(Window, List).mid(0, 2), (QStringList{u"January 1, 2004"_s, u"January 8, 2004"_s}));
+        QCOMPARE(RowsOf(Window, List).size(), 101);
+    }
+
+    void ForLookingOnlyAClickIsRememberedAndNothingElse()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        ClickRow(Window, List, 1);
+        QCOMPARE(Scan.ScanPickedDate, u"01-15-2004"_s);
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(0));
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("0\r\n"));
+        QVERIFY(IsShown(Window));
+        QVERIFY(!TheWindows.Loaded(u"frmExtras"_s));
+    }
+
+    void AFrequencyThatIsNoneLeavesTheRowsEmpty()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.PayFrequency = 21;
+        Show(Window);
+        QCOMPARE(RowsOf(Window, List).size(), 101);
+        QCOMPARE(RowsOf(Window, List).mid(0, 2), (QStringList{u"January 1, 2004"_s, QString()}));
+        ClickRow(Window, List, 1);
+        QCOMPARE(Scan.ScanPickedDate, QString());
+    }
+
+    void APickForTheExtrasMakesSavesAndHides()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfExtraPayPeriods = 1;
+        State.ExtraPayPeriods.Redim(1);
+        State.ExtraPayPeriods(1).PayPeriodDate = u"02-12-2004"_s;
+        State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
+        State.ExtraPayPeriods(1).ExtraItems(1) = {u"Tires"_s, Currency::FromDouble(80.5)};
+        OpenForExtras();
+        ClickRow(Window, List, 2);
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("2\r\n\"01-29-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"
+                                                          "\"02-12-2004\"\r\n1\r\n\"Tires\"\r\n80.5\r\n"));
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(2));
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItem, u"New Item"_s);
+        QVERIFY(!State.ScanCalledFromExtras);
+        QCOMPARE(ExtrasWindow::Fills, 1);
+        QVERIFY(TheWindows.Loaded(Window)); // hidden and not unloaded
+        QVERIFY(!IsShown(Window));
+        QCOMPARE(ActiveWindow(), u"frmExtras"_s);
+
+        Show(Window); // the next showing only looks
+        ClickRow(Window, List, 3);
+        QCOMPARE(Scan.ScanPickedDate, u"02-12-2004"_s);
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(2));
+        QVERIFY(IsShown(Window));
+    }
+
+    void ASinglePayPeriodIsKeptAsPicked()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        OpenForExtras();
+        ClickRow(Window, List, 0);
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("1\r\n\"01-01-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"));
+    }
+
+    void ADatePickedTwiceKeepsTheOlderRecordTwice()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfExtraPayPeriods = 1;
+        State.ExtraPayPeriods.Redim(1);
+        State.ExtraPayPeriods(1).PayPeriodDate = u"01-15-2004"_s;
+        State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
+        State.ExtraPayPeriods(1).ExtraItems(1) = {u"Tires"_s, Currency::FromDouble(80)};
+        OpenForExtras();
+        ClickRow(Window, List, 1);
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("2\r\n\"01-15-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n"
+                                                          "\"01-15-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n"));
+    }
+
+    void TheArrowsOnlyMoveAndEnterOrSpacePicks_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Enter") << int(Qt::Key_Return);
+        QTest::newRow("Space") << int(Qt::Key_Space);
+    }
+    void TheArrowsOnlyMoveAndEnterOrSpacePicks()
+    {
+        QFETCH(int, key);
+        GuiDesk desk;
+        TakeHousehold();
+        OpenForExtras();
+        auto &list = Find<ListBox>(Window, List);
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Down);
+        QVERIFY(State.ScanCalledFromExtras);
+        QCOMPARE(Scan.ScanPickedDate, QString());
+        const QString marked = list.currentItem()->text();
+        QTest::keyClick(&list, Qt::Key(key));
+        Settle();
+        QCOMPARE(Scan.ScanPickedDate, Format(marked, DateFormat::Dashes));
+        QVERIFY(!State.ScanCalledFromExtras);
+    }
+
+    void AnExtrasWindowThatIsClosedIsLoadedUnseen()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        Show(u"frmOther"_s);
+        OpenForExtras();
+        TheWindows.Unload(u"frmExtras"_s);
+        ClickRow(Window, List, 1);
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(1));
+        QCOMPARE(ExtrasWindow::Fills, 1);
+        QVERIFY(TheWindows.Loaded(u"frmExtras"_s));
+        QVERIFY(!IsShown(u"frmExtras"_s));
+    }
+
+    void ADamagedDateEndsTheProgramWithTheDefaultReport()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfExtraPayPeriods = 1;
+        State.ExtraPayPeriods.Redim(1);
+        State.ExtraPayPeriods(1).PayPeriodDate = u"never"_s;
+        OpenForExtras();
+        ClickRow(Window, List, 1);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '13':\n\nType mismatch"_s, AppTitle, Icon::Stop}));
+        QVERIFY(desk.Ended);
+    }
+
+    void TheTutorRestsWhileTheWindowIsLoaded()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
+        QVERIFY(timer.isActive());
+        Choose(u"mnuIncomeScanPayPeriods"_s);
+        QVERIFY(!timer.isActive());
+        CloseByFrame(Window);
+        QVERIFY(timer.isActive());
+        QCOMPARE(ActiveWindow(), u"frmMain"_s);
+    }
+};
+
+GUI_TEST_MAIN(gui_frmScanPayPeriods)
+#include "gui_frmScanPayPeriods.moc"

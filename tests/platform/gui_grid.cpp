@@ -1,0 +1,420 @@
+// The grid: rows put in and written in place, the heading, the colours, and many rows without waiting.
+#include "ErrorOf.h"
+#include "GuiMain.h"
+#include "platform/Grid.h"
+#include "platform/Theme.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+namespace {
+
+/// All rows, cells joined by " | ".
+QStringList RowsOf(const Grid &grid)
+{
+    QStringList rows;
+    for (int row = 0; row < grid.Rows(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < grid.Columns(); ++column)
+            cells += grid.Text(row, column);
+        rows += cells.join(QStringLiteral(" | "));
+    }
+    return rows;
+}
+
+/// What the user sees of it: heading and rows as the view shows them.
+QStringList ShownRows(const Grid &grid)
+{
+    QStringList rows;
+    const QAbstractItemModel *model = grid.model();
+    for (int row = -1; row < model->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < model->columnCount(); ++column)
+            cells += row < 0 ? model->headerData(column, Qt::Horizontal).toString()
+                             : model->index(row, column).data().toString();
+        rows += cells.join(QStringLiteral(" | "));
+    }
+    return rows;
+}
+
+/// Whether any point of the picture has very nearly that colour; the edges of letters are blended.
+bool Shows(const QImage &picture, const QColor &colour)
+{
+    const auto near = [](int one, int other) { return qAbs(one - other) < 40; };
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (const QColor point = picture.pixelColor(x, y); near(point.red(), colour.red()) &&
+                                                               near(point.green(), colour.green()) &&
+                                                               near(point.blue(), colour.blue()))
+                return true;
+    return false;
+}
+
+void Fill(Grid &grid, int rows)
+{
+    grid.SetShape(1, 2);
+    grid.SetText(0, 0, "Item");
+    grid.SetText(0, 1, "Amount");
+    for (int row = 1; row <= rows; ++row)
+        grid.AddItem(QStringLiteral("item %1\t%2").arg(row).arg(row * 10), row);
+}
+
+void Present(Grid &grid)
+{
+    grid.resize(400, 300);
+    grid.show();
+    grid.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&grid));
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+class gui_grid : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Rows
+
+    void AnInsertedRowPushesTheRestDown()
+    {
+        Grid grid;
+        Fill(grid, 2);
+        grid.AddItem("new\t5", 1);
+        QCOMPARE(RowsOf(grid), (QStringList{"Item | Amount", "new | 5", "item 1 | 10", "item 2 | 20"}));
+        grid.AddItem("last", 4); // at the row count it appends; cells that are not told are empty
+        QCOMPARE(grid.Rows(), 5);
+        QCOMPARE(RowsOf(grid).last(), "last | ");
+        grid.AddItem("heading\t", 0); // also before the heading, which becomes a row then
+        QCOMPARE(RowsOf(grid).mid(0, 2), (QStringList{"heading | ", "Item | Amount"}));
+    }
+
+    void WhatIsOutsideIsErrorNine_data()
+    {
+        QTest::addColumn<int>("what");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("error");
+        const int write = 0, insert = 1, read = 2, colour = 3, bold = 4, width = 5, align = 6;
+        QTest::newRow("writing in the last column") << write << 1 << 1 << 0;
+        QTest::newRow("writing right of the last column") << write << 1 << 2 << 9;
+        QTest::newRow("writing left of the first column") << write << 1 << -1 << 9;
+        QTest::newRow("writing above the heading") << write << -1 << 0 << 9;
+        QTest::newRow("writing below the last row") << write << 9 << 0 << 0;
+        QTest::newRow("writing below the last row, right of the last column") << write << 9 << 2 << 9;
+        QTest::newRow("inserting at the row count") << insert << 3 << 0 << 0;
+        QTest::newRow("inserting beyond the row count") << insert << 4 << 0 << 9;
+        QTest::newRow("inserting above the heading") << insert << -1 << 0 << 9;
+        QTest::newRow("inserting more cells than columns") << insert << 1 << 2 << 9;
+        QTest::newRow("reading below the last row") << read << 3 << 0 << 9;
+        QTest::newRow("reading right of the last column") << read << 1 << 2 << 9;
+        QTest::newRow("colouring right of the last column") << colour << 1 << 2 << 9;
+        QTest::newRow("bold right of the last column") << bold << 1 << 2 << 9;
+        QTest::newRow("a width right of the last column") << width << 0 << 2 << 9;
+        QTest::newRow("an alignment right of the last column") << align << 0 << 2 << 9;
+    }
+    void WhatIsOutsideIsErrorNine()
+    {
+        QFETCH(int, what);
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(int, error);
+        Grid grid;
+        Fill(grid, 2);
+        const QStringList before = RowsOf(grid);
+        const int raised = ErrorOf([&] {
+            switch (what) {
+            case 0: grid.SetText(row, column, "x"); break;
+            case 1: grid.AddItem(QString(column, QLatin1Char('\t')), row); break;
+            case 2: grid.Text(row, column); break;
+            case 3: grid.SetColour(row, column, GridColour::LightRed); break;
+            case 4: grid.SetBold(row, column, true); break;
+            case 5: grid.SetColumnWidth(column, 100); break;
+            default: grid.SetRightAligned(column, true);
+            }
+        });
+        QCOMPARE(raised, error);
+        if (error != 0)
+            QCOMPARE(RowsOf(grid), before); // and nothing has changed
+    }
+
+    void WritingBelowTheLastRowMakesTheRows()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        grid.SetText(4, 1, "far");
+        QCOMPARE(RowsOf(grid), (QStringList{"Item | Amount", "item 1 | 10", " | ", " | ", " | far"}));
+    }
+
+    void WritingInPlaceKeepsTheRowCount()
+    {
+        Grid grid;
+        Fill(grid, 2);
+        grid.SetText(1, 1, "99");
+        QCOMPARE(RowsOf(grid), (QStringList{"Item | Amount", "item 1 | 99", "item 2 | 20"}));
+    }
+
+    void ClearingKeepsHeadingAndRows()
+    {
+        Grid grid;
+        Fill(grid, 2);
+        grid.ClearBelowHeading();
+        QCOMPARE(RowsOf(grid), (QStringList{"Item | Amount", " | ", " | "}));
+        grid.AddItem("again\t1", 1);
+        QCOMPARE(grid.Rows(), 4);
+    }
+
+    // What the user sees
+
+    void TheViewShowsWhatTheGridHolds()
+    {
+        Grid grid;
+        Fill(grid, 2);
+        Present(grid);
+        QCOMPARE(ShownRows(grid), RowsOf(grid));
+        grid.SetText(1, 0, "changed");
+        grid.SetText(0, 1, "Price");
+        QCoreApplication::processEvents();
+        QCOMPARE(ShownRows(grid), (QStringList{"Item | Price", "changed | 10", "item 2 | 20"}));
+        grid.AddItem("new\t5", 1);
+        grid.SetText(5, 0, "far");
+        QCoreApplication::processEvents();
+        QCOMPARE(ShownRows(grid), RowsOf(grid));
+        grid.SetShape(1, 3);
+        grid.SetText(0, 2, "third");
+        QCoreApplication::processEvents();
+        QCOMPARE(ShownRows(grid), QStringList{" |  | third"});
+    }
+
+    void TheHeadingStaysWhileTheRestScrolls()
+    {
+        Grid grid;
+        Fill(grid, 500);
+        Present(grid);
+        const QImage heading = grid.horizontalHeader()->grab().toImage();
+        const QImage rows = grid.viewport()->grab().toImage();
+        grid.verticalScrollBar()->setValue(grid.verticalScrollBar()->maximum());
+        QCoreApplication::processEvents();
+        QVERIFY(grid.horizontalHeader()->isVisible());
+        QCOMPARE(grid.horizontalHeader()->grab().toImage(), heading);
+        QVERIFY(grid.viewport()->grab().toImage() != rows);
+        QCOMPARE(grid.model()->headerData(0, Qt::Horizontal).toString(), "Item");
+    }
+
+    void HeadingAndCellsAreBoldAndAlignedAsTold()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        grid.SetRightAligned(1, true);
+        grid.SetBold(0, 0, true);
+        grid.SetBold(1, 1, true);
+        Present(grid);
+        const QAbstractItemModel *model = grid.model();
+        const auto headingFont = [&](int column) {
+            return model->headerData(column, Qt::Horizontal, Qt::FontRole).value<QFont>();
+        };
+        QVERIFY(headingFont(0).bold());
+        QVERIFY(!headingFont(1).bold());
+        QVERIFY(!model->index(0, 0).data(Qt::FontRole).value<QFont>().bold());
+        QVERIFY(model->index(0, 1).data(Qt::FontRole).value<QFont>().bold());
+        const auto alignment = [](const QVariant &value) { return Qt::Alignment(value.toInt()); };
+        QCOMPARE(alignment(model->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole)), Qt::AlignRight | Qt::AlignVCenter);
+        QCOMPARE(alignment(model->index(0, 1).data(Qt::TextAlignmentRole)), Qt::AlignRight | Qt::AlignVCenter);
+        QCOMPARE(alignment(model->index(0, 0).data(Qt::TextAlignmentRole)), Qt::AlignLeft | Qt::AlignVCenter);
+        QVERIFY(grid.RightAligned(1));
+        QVERIFY(!grid.RightAligned(0));
+    }
+
+    void ColoursCanBeRead_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<int>("row");
+        QTest::newRow("row, light desktop") << false << 1;
+        QTest::newRow("row, dark desktop") << true << 1;
+        QTest::newRow("heading, light desktop") << false << 0;
+        QTest::newRow("heading, dark desktop") << true << 0;
+    }
+    void ColoursCanBeRead()
+    {
+        QFETCH(bool, dark);
+        QFETCH(int, row);
+        Grid grid;
+        Fill(grid, 1);
+        grid.setPalette(dark ? DarkPalette() : LightPalette());
+        grid.SetColour(row, 0, GridColour::LightBlue);
+        grid.SetColour(row, 1, GridColour::LightRed);
+        Present(grid);
+        const auto colour = [&](int column) {
+            return row == 0 ? grid.model()->headerData(column, Qt::Horizontal, Qt::ForegroundRole).value<QColor>()
+                            : grid.model()->index(row - 1, column).data(Qt::ForegroundRole).value<QColor>();
+        };
+        const QColor background = grid.palette().color(QPalette::Base);
+        const QImage picture = row == 0 ? grid.horizontalHeader()->viewport()->grab().toImage()
+                                        : grid.viewport()->grab(grid.visualRect(grid.model()->index(0, 1))).toImage();
+        QVERIFY(Shows(picture, colour(1)));
+        QVERIFY(Contrast(colour(0), background) >= 4.5);
+        QVERIFY(Contrast(colour(1), background) >= 4.5);
+        QVERIFY(colour(0).blue() > colour(0).red());
+        QVERIFY(colour(1).red() > colour(1).blue());
+        QCOMPARE(grid.Colour(row, 0), GridColour::LightBlue);
+        grid.SetColour(row, 0, GridColour::Text); // the text colour again
+        QVERIFY(!colour(0).isValid());
+    }
+
+    void WidthsAreSharedInProportion()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        grid.SetColumnWidth(0, 3100);
+        grid.SetColumnWidth(1, 1750);
+        Present(grid);
+        const int first = grid.horizontalHeader()->sectionSize(0), second = grid.horizontalHeader()->sectionSize(1);
+        QCOMPARE(first + second, grid.viewport()->width());
+        QVERIFY(qAbs(first * 1750 - second * 3100) <= 2 * 4850); // to the pixel
+        QCOMPARE(grid.ColumnWidth(0), 3100);
+    }
+
+    void ColumnsWithoutAWidthAreVisible()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        grid.SetColumnWidth(0, 3100);
+        Present(grid);
+        QVERIFY(grid.horizontalHeader()->sectionSize(1) >= 960 / 15);
+    }
+
+    void ANarrowGridScrollsInsteadOfSqueezing()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        grid.SetColumnWidth(0, 15 * 600);
+        grid.SetColumnWidth(1, 15 * 300);
+        Present(grid); // 400 wide
+        QVERIFY(grid.horizontalHeader()->sectionSize(0) >= 600); // more where letters are wide
+        QVERIFY(qAbs(grid.horizontalHeader()->sectionSize(0) - 2 * grid.horizontalHeader()->sectionSize(1)) <= 2);
+        QVERIFY(grid.horizontalScrollBar()->maximum() > 0);
+    }
+
+    void SoManyRowsFillTheHeight()
+    {
+        Grid grid;
+        Fill(grid, 40);
+        grid.SetRowsInView(6);
+        grid.resize(400, 420);
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        QCoreApplication::processEvents();
+        const int height = grid.viewport()->height() + grid.horizontalHeader()->height();
+        QCOMPARE(grid.rowHeight(0), height / 6);
+    }
+
+    // The user
+
+    void AClickTellsTheRow()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        QSignalSpy clicks(&grid, &Grid::Click);
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(2, 1)).center());
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(grid.CurrentRow(), 3);
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(2, 1)).center());
+        QCOMPARE(clicks.count(), 2);
+    }
+
+    void AClickOnTheHeadingIsRowZero()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(2, 0)).center());
+        QSignalSpy clicks(&grid, &Grid::Click);
+        QTest::mouseClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(grid.CurrentRow(), 0);
+        QVERIFY(!grid.selectionModel()->hasSelection());
+        QTest::keyClick(&grid, Qt::Key_Shift); // a key that moves nothing keeps the row
+        QCOMPARE(grid.CurrentRow(), 0);
+    }
+
+    void KeysMoveAndClick()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        grid.setFocus();
+        grid.SetCurrentRow(2);
+        QSignalSpy clicks(&grid, &Grid::Click);
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QCOMPARE(grid.CurrentRow(), 3);
+        QCOMPARE(clicks.count(), 0);
+        QTest::keyClick(&grid, Qt::Key_Return);
+        QTest::keyClick(&grid, Qt::Key_Space);
+        QCOMPARE(clicks.count(), 2);
+        QCOMPARE(grid.CurrentRow(), 3);
+    }
+
+    void SettingTheRowIsNoClick()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        QSignalSpy clicks(&grid, &Grid::Click);
+        grid.SetCurrentRow(4); // before the view has seen the rows
+        Present(grid);
+        QCOMPARE(grid.CurrentRow(), 4);
+        QCOMPARE(grid.currentIndex().row(), 3);
+        QCOMPARE(clicks.count(), 0);
+    }
+
+    // Many rows
+
+    void ManyRowsReachTheViewAtOnce()
+    {
+        constexpr int many = 32767;
+        Grid grid;
+        Present(grid);
+        QSignalSpy resets(grid.model(), &QAbstractItemModel::modelReset);
+        QSignalSpy inserts(grid.model(), &QAbstractItemModel::rowsInserted);
+        QSignalSpy changes(grid.model(), &QAbstractItemModel::dataChanged);
+        Fill(grid, many);
+        for (int row = 1; row <= many; ++row) {
+            grid.SetColour(row, 1, GridColour::LightRed);
+            grid.SetBold(row, 0, true);
+        }
+        QCOMPARE(resets.count() + inserts.count() + changes.count(), 0); // nothing is told row by row
+        QCoreApplication::processEvents();
+        QCOMPARE(resets.count(), 1);
+        QCOMPARE(inserts.count() + changes.count(), 0);
+        QCOMPARE(grid.model()->rowCount(), many);
+        // No widget per cell, and painting asks for what is in view only.
+        QVERIFY(grid.viewport()->findChildren<QWidget *>().isEmpty());
+        grid.verticalScrollBar()->setValue(grid.verticalScrollBar()->maximum());
+        const QImage end = grid.viewport()->grab().toImage();
+        QVERIFY(!end.isNull());
+        QCOMPARE(grid.rowAt(grid.viewport()->height() - 2), many - 1);
+    }
+
+    void WritingInPlaceLeavesTheViewWhereItIs()
+    {
+        Grid grid;
+        Fill(grid, 500);
+        Present(grid);
+        grid.SetCurrentRow(2);
+        grid.verticalScrollBar()->setValue(1000);
+        QSignalSpy resets(grid.model(), &QAbstractItemModel::modelReset);
+        grid.ClearBelowHeading();
+        for (int row = 1; row <= 500; ++row)
+            grid.SetText(row, 0, QString::number(row));
+        QCoreApplication::processEvents();
+        QCOMPARE(resets.count(), 0);
+        QCOMPARE(grid.verticalScrollBar()->value(), 1000);
+        QCOMPARE(grid.CurrentRow(), 2);
+        QCOMPARE(ShownRows(grid)[500], "500 | ");
+    }
+};
+
+GUI_TEST_MAIN(gui_grid)
+#include "gui_grid.moc"

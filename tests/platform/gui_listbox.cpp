@@ -1,0 +1,229 @@
+// The list box: what counts as a click, and what only moves the mark.
+#include "GuiMain.h"
+#include "platform/ListBox.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+namespace {
+
+/// A list of three rows between two fields, on the screen.
+struct Stage {
+    Stage()
+    {
+        auto *layout = new QVBoxLayout(&Window);
+        layout->addWidget(Before);
+        layout->addWidget(List);
+        layout->addWidget(After);
+        for (const char *text : {"first", "second", "third"})
+            List->AddItem(QString::fromLatin1(text));
+        Window.resize(300, 300);
+        Window.show();
+        Window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&Window))
+            qFatal("no window");
+        Before->setFocus();
+    }
+    QPoint At(int row) const { return List->visualItemRect(List->item(row)).center(); }
+    void Click(int row, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mouseClick(List->viewport(), button, {}, At(row));
+    }
+    void Press(Qt::Key key) const { QTest::keyClick(List, key); }
+
+    QWidget Window;
+    QLineEdit *Before = new QLineEdit;
+    ListBox *List = new ListBox;
+    QLineEdit *After = new QLineEdit;
+    QSignalSpy Clicks{List, &ListBox::Click};
+    QSignalSpy DoubleClicks{List, &ListBox::DoubleClick};
+};
+
+} // namespace
+
+class gui_listbox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FillingSelectsNothing()
+    {
+        Stage stage;
+        QCOMPARE(stage.List->ListIndex(), -1);
+        QCOMPARE(stage.List->Items(), (QStringList{"first", "second", "third"}));
+        QCOMPARE(stage.Clicks.count(), 0);
+    }
+
+    void MovingTheFocusIntoTheListSelectsNothing()
+    {
+        Stage stage;
+        QTest::keyClick(stage.Before, Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), stage.List);
+        QCOMPARE(stage.List->ListIndex(), -1);
+        QCOMPARE(stage.Clicks.count(), 0);
+        stage.Press(Qt::Key_Tab); // and Tab leaves it
+        QCOMPARE(QApplication::focusWidget(), stage.After);
+    }
+
+    void AClickSelects()
+    {
+        Stage stage;
+        stage.Click(1);
+        QCOMPARE(stage.List->ListIndex(), 1);
+        QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void AClickOnTheSelectedRowCountsAgain()
+    {
+        Stage stage;
+        stage.Click(1);
+        stage.Click(1);
+        QCOMPARE(stage.Clicks.count(), 2);
+        QCOMPARE(stage.List->ListIndex(), 1);
+    }
+
+    void AClickBelowTheRowsIsNone()
+    {
+        Stage stage;
+        stage.Click(0);
+        QTest::mouseClick(stage.List->viewport(), Qt::LeftButton, {}, stage.List->viewport()->rect().bottomLeft() - QPoint(-5, 3));
+        QCOMPARE(stage.Clicks.count(), 1);
+        QCOMPARE(stage.List->ListIndex(), 0);
+    }
+
+    void TheRightButtonIsNoClick()
+    {
+        Stage stage;
+        stage.Click(1, Qt::RightButton);
+        QCOMPARE(stage.Clicks.count(), 0);
+    }
+
+    // What is selected has always been told: the row where the mouse is let go counts.
+    void APressThatWandersIsAClickWhereItEnds()
+    {
+        Stage stage;
+        QTest::mousePress(stage.List->viewport(), Qt::LeftButton, {}, stage.At(0));
+        QMouseEvent move(QEvent::MouseMove, stage.At(2), stage.List->viewport()->mapToGlobal(stage.At(2)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(stage.List->viewport(), &move);
+        QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(2));
+        QCOMPARE(stage.Clicks.count(), 1);
+        QCOMPARE(stage.List->ListIndex(), 2);
+    }
+
+    void ADoubleClickIsAClickAndADoubleClick()
+    {
+        Stage stage;
+        stage.Click(1);
+        QTest::mouseDClick(stage.List->viewport(), Qt::LeftButton, {}, stage.At(1));
+        QCOMPARE(stage.DoubleClicks.count(), 1);
+        QCOMPARE(stage.List->ListIndex(), 1);
+    }
+
+    void ArrowsOnlyMoveTheMark()
+    {
+        Stage stage;
+        stage.List->setFocus();
+        stage.Click(0);
+        stage.Press(Qt::Key_Down);
+        stage.Press(Qt::Key_Down);
+        QCOMPARE(stage.List->currentRow(), 2);
+        QCOMPARE(stage.List->ListIndex(), 0);
+        stage.Press(Qt::Key_Home);
+        stage.Press(Qt::Key_End);
+        stage.Press(Qt::Key_Up);
+        stage.Press(Qt::Key_T); // typing ahead moves the mark, too
+        QCOMPARE(stage.List->currentRow(), 2);
+        QCOMPARE(stage.List->ListIndex(), 0);
+        QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void EnterAndSpaceAreTheClick_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Enter") << int(Qt::Key_Return);
+        QTest::newRow("Enter of the number pad") << int(Qt::Key_Enter);
+        QTest::newRow("Space") << int(Qt::Key_Space);
+    }
+    void EnterAndSpaceAreTheClick()
+    {
+        QFETCH(int, key);
+        Stage stage;
+        QTest::keyClick(stage.Before, Qt::Key_Tab);
+        stage.Press(Qt::Key_Home);
+        stage.Press(Qt::Key_Down);
+        stage.Press(Qt::Key(key));
+        QCOMPARE(stage.List->ListIndex(), 1);
+        QCOMPARE(stage.Clicks.count(), 1);
+        stage.Press(Qt::Key(key)); // on the selected row again
+        QCOMPARE(stage.Clicks.count(), 2);
+    }
+
+    void KeysInAnEmptyListDoNothing()
+    {
+        Stage stage;
+        stage.List->Clear();
+        stage.List->setFocus();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Down, Qt::Key_Home})
+            stage.Press(key);
+        QCOMPARE(stage.Clicks.count(), 0);
+        QCOMPARE(stage.List->ListIndex(), -1);
+    }
+
+    void APositionThatCodeSetsIsAClickOnce()
+    {
+        Stage stage;
+        stage.List->SetListIndex(2);
+        QCOMPARE(stage.List->ListIndex(), 2);
+        QCOMPARE(stage.Clicks.count(), 1);
+        stage.List->SetListIndex(2); // the value it has already
+        QCOMPARE(stage.Clicks.count(), 1);
+        stage.List->SetListIndex(-1); // no row, no click
+        QCOMPARE(stage.List->ListIndex(), -1);
+        QCOMPARE(stage.Clicks.count(), 1);
+        stage.List->SetListIndex(2);
+        QCOMPARE(stage.Clicks.count(), 2);
+    }
+
+    void ClearingTellsNothing()
+    {
+        Stage stage;
+        stage.Click(1);
+        stage.List->Clear();
+        QCOMPARE(stage.List->ListIndex(), -1);
+        QCOMPARE(stage.List->count(), 0);
+        QCOMPARE(stage.Clicks.count(), 1);
+        stage.List->AddItem("afresh");
+        QCOMPARE(stage.List->ListIndex(), -1);
+    }
+
+    void AClickMayEmptyTheList()
+    {
+        Stage stage;
+        connect(stage.List, &ListBox::Click, stage.List, &ListBox::Clear);
+        stage.Click(1);
+        QCOMPARE(stage.List->count(), 0);
+        QCOMPARE(stage.List->ListIndex(), -1);
+    }
+
+    void ASortedListIgnoresCase()
+    {
+        ListBox list;
+        list.setSortingEnabled(true);
+        for (const char *text : {"pears", "Apples", "bread", "Milk", "apples 2"})
+            list.AddItem(QString::fromLatin1(text));
+        QCOMPARE(list.Items(), (QStringList{"Apples", "apples 2", "bread", "Milk", "pears"}));
+    }
+
+    void AnUnsortedListKeepsTheOrder()
+    {
+        ListBox list;
+        for (const char *text : {"pears", "Apples", "bread"})
+            list.AddItem(QString::fromLatin1(text));
+        QCOMPARE(list.Items(), (QStringList{"pears", "Apples", "bread"}));
+    }
+};
+
+GUI_TEST_MAIN(gui_listbox)
+#include "gui_listbox.moc"

@@ -1,0 +1,193 @@
+// The real message boxes: what stands in them and what their buttons do.
+#include "GuiMain.h"
+#include "ToyWindows.h"
+#include "platform/RealDesk.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+namespace {
+
+/// Looks at the box that the message opens, then answers it.
+Answer Ask(const Message &message, const std::function<void(QMessageBox &)> &look,
+           QMessageBox::StandardButton button = QMessageBox::Ok)
+{
+    QTimer::singleShot(0, qApp, [=] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        look(*box);
+        box->button(button)->click();
+    });
+    return TheDesk.ShowMessage(message);
+}
+
+QStringList ButtonsOf(const QMessageBox &box)
+{
+    QStringList names;
+    for (QAbstractButton *button : box.buttons())
+        names += button->text().remove(QLatin1Char('&'));
+    names.sort();
+    return names;
+}
+
+} // namespace
+
+class gui_messagebox : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_toys = std::make_unique<ToyBox>();
+        const auto end = TheDesk.EndProgram;
+        InstallRealDesk(m_folder.path());
+        TheDesk.EndProgram = end;
+        Show("A");
+        Settle();
+    }
+    void cleanup() { m_toys.reset(); }
+
+    void TitleTextAndIcon_data()
+    {
+        QTest::addColumn<Icon>("icon");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("stop") << Icon::Stop << int(QMessageBox::Critical);
+        QTest::newRow("question") << Icon::Question << int(QMessageBox::Question);
+        QTest::newRow("warning") << Icon::Warning << int(QMessageBox::Warning);
+        QTest::newRow("information") << Icon::Information << int(QMessageBox::Information);
+        QTest::newRow("none") << Icon::None << int(QMessageBox::NoIcon);
+    }
+    void TitleTextAndIcon()
+    {
+        QFETCH(Icon, icon);
+        QFETCH(int, shown);
+        const Answer answer = Ask({"Please enter a name", "Creditors", icon}, [&](QMessageBox &box) {
+            QCOMPARE(box.windowTitle(), "Creditors");
+            QCOMPARE(box.text(), "Please enter a name");
+            QCOMPARE(int(box.icon()), shown);
+            QCOMPARE(ButtonsOf(box), QStringList{"OK"});
+            QVERIFY(box.isModal());
+        });
+        QCOMPARE(answer, Answer::Ok);
+    }
+
+    // What a user has typed may stand in a message and is no mark-up.
+    void TheTextIsPlain()
+    {
+        const QString text = QStringLiteral("<b>A & B</b>\n\nsecond line");
+        Ask({text, "title", Icon::Stop}, [&](QMessageBox &box) {
+            QCOMPARE(box.text(), text);
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            const auto *label = box.findChild<QLabel *>("qt_msgbox_label");
+            QVERIFY(label);
+            QCOMPARE(label->text(), text);
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+        });
+    }
+
+    void Questions_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<Answer>("answer");
+        QTest::newRow("Yes") << int(QMessageBox::Yes) << Answer::Yes;
+        QTest::newRow("No") << int(QMessageBox::No) << Answer::No;
+    }
+    void Questions()
+    {
+        QFETCH(int, button);
+        QFETCH(Answer, answer);
+        const Answer given = Ask({"Delete it?", "Creditors", Icon::Question, Buttons::YesNo},
+                                 [](QMessageBox &box) { QCOMPARE(ButtonsOf(box), (QStringList{"No", "Yes"})); },
+                                 QMessageBox::StandardButton(button));
+        QCOMPARE(given, answer);
+    }
+
+    void KeysAnswer_data()
+    {
+        QTest::addColumn<Buttons>("buttons");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Answer>("answer");
+        QTest::newRow("Enter is OK") << Buttons::Ok << int(Qt::Key_Return) << Answer::Ok;
+        QTest::newRow("Esc closes a box with OK alone") << Buttons::Ok << int(Qt::Key_Escape) << Answer::Ok;
+        QTest::newRow("Enter is OK beside Help") << Buttons::OkHelp << int(Qt::Key_Return) << Answer::Ok;
+        QTest::newRow("Esc closes a box with OK and Help") << Buttons::OkHelp << int(Qt::Key_Escape) << Answer::Ok;
+        QTest::newRow("Enter is the first button, Yes") << Buttons::YesNo << int(Qt::Key_Return) << Answer::Yes;
+        QTest::newRow("Esc is No") << Buttons::YesNo << int(Qt::Key_Escape) << Answer::No;
+    }
+    void KeysAnswer()
+    {
+        QFETCH(Buttons, buttons);
+        QFETCH(int, key);
+        QFETCH(Answer, answer);
+        QTimer::singleShot(0, qApp, [key] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            Settle();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+            QVERIFY(!box->isVisible());
+        });
+        QCOMPARE(TheDesk.ShowMessage({"text", "title", Icon::Question, buttons, 22}), answer);
+    }
+
+    void TheHelpButtonOpensTheHelpAndLeavesTheBox()
+    {
+        QList<HelpQuestion> asked;
+        TheDesk.ShowHelp = [&](const HelpQuestion &question) { asked += question; };
+        const Answer answer =
+            Ask({"Please enter an amount", "Creditors", Icon::Stop, Buttons::OkHelp, 22}, [&](QMessageBox &box) {
+                QCOMPARE(ButtonsOf(box), (QStringList{"Help", "OK"}));
+                QCOMPARE(box.button(QMessageBox::Help)->isEnabled(), true);
+                box.button(QMessageBox::Help)->click();
+                box.button(QMessageBox::Help)->click();
+                Settle();
+                QVERIFY(box.isVisible());
+            });
+        QCOMPARE(answer, Answer::Ok);
+        QCOMPARE(asked.size(), 2);
+        QCOMPARE(asked[0].Context, 22);
+    }
+
+    void TheBoxStandsOverTheActiveWindow()
+    {
+        Show("B");
+        Settle();
+        Ask({"text", "title"}, [&](QMessageBox &box) { QCOMPARE(box.parentWidget(), TheWindows.Loaded("B")); });
+        // Over the minimized one it could not be seen.
+        (*m_toys)["B"].showMinimized();
+        Settle();
+        Ask({"text", "title"}, [&](QMessageBox &box) { QVERIFY(!box.parentWidget()); });
+    }
+
+    void ABoxBeforeTheFirstWindowStandsAlone()
+    {
+        m_toys = std::make_unique<ToyBox>();
+        InstallRealDesk(m_folder.path());
+        Ask({"text", "title"}, [&](QMessageBox &box) { QVERIFY(!box.parentWidget()); });
+    }
+
+    void ABoxOverABoxReturnsInOrder()
+    {
+        QStringList answered;
+        QTimer::singleShot(0, qApp, [&] {
+            auto *outer = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(outer);
+            const Answer inner = Ask({"inner", "title"}, [](QMessageBox &box) { QCOMPARE(box.text(), "inner"); });
+            QCOMPARE(inner, Answer::Ok);
+            answered += "inner";
+            QVERIFY(outer->isVisible());
+            outer->button(QMessageBox::Yes)->click();
+        });
+        QCOMPARE(TheDesk.ShowMessage({"outer", "title", Icon::Question, Buttons::YesNo}), Answer::Yes);
+        answered += "outer";
+        QCOMPARE(answered, (QStringList{"inner", "outer"}));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<ToyBox> m_toys;
+};
+
+GUI_TEST_MAIN(gui_messagebox)
+#include "gui_messagebox.moc"

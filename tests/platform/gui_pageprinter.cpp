@@ -1,0 +1,278 @@
+// Documents on paper, read back from the PDF that they become.
+#include "ErrorOf.h"
+#include "GuiMain.h"
+#include "platform/Desk.h"
+#include "platform/PagePrinter.h"
+
+#include <QPdfWriter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+PrintFont Courier(float size)
+{
+    PrintFont font;
+    font.Name = QStringLiteral("Courier");
+    font.Size = size;
+    return font;
+}
+
+QStringList Numbered(int lines)
+{
+    QStringList all;
+    for (int line = 1; line <= lines; ++line)
+        all += QStringLiteral("Line %1").arg(line);
+    return all;
+}
+
+/// A PDF of that document; returns the number of pages that the drawing tells.
+int WritePdf(const PrintJob &job, const QString &path, QPageSize::PageSizeId size = QPageSize::Letter)
+{
+    QPdfWriter pdf(path);
+    pdf.setPageSize(QPageSize(size));
+    pdf.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
+    return DrawDocument(job, pdf);
+}
+
+/// Its pages as text, laid out as on the paper.
+QStringList PagesOf(const QString &path)
+{
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+    if (!reader.waitForStarted() || !reader.waitForFinished() || reader.exitCode() != 0)
+        qFatal("pdftotext (of the package poppler-utils) does not run");
+    QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split(QLatin1Char('\f'));
+    pages.removeLast();
+    return pages;
+}
+
+/// The left edge of a word on its page and the page's width, in points.
+struct Place {
+    double Left = -1;
+    double Right = -1;
+    double PageWidth = 0;
+};
+Place PlaceOf(const QString &word, const QString &path)
+{
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")});
+    if (!reader.waitForFinished() || reader.exitCode() != 0)
+        qFatal("pdftotext (of the package poppler-utils) does not run");
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    static const QRegularExpression page(QStringLiteral("<page width=\"([0-9.]+)\""));
+    const QRegularExpression found(
+        QStringLiteral("xMin=\"([0-9.]+)\" yMin=\"[0-9.]+\" xMax=\"([0-9.]+)\" yMax=\"[0-9.]+\">%1<").arg(word));
+    const auto match = found.match(text);
+    Place place;
+    place.PageWidth = page.match(text).captured(1).toDouble();
+    if (match.hasMatch()) {
+        place.Left = match.captured(1).toDouble();
+        place.Right = match.captured(2).toDouble();
+    }
+    return place;
+}
+
+constexpr double Margin = 15 / 25.4 * 72; // points
+
+} // namespace
+
+class gui_pageprinter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void APageHoldsWhatFitsAndNoLineIsLost_data()
+    {
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<int>("leastPages");
+        QTest::addColumn<int>("mostPages");
+        // A letter sheet has 25 cm between the margins; eight points and the space between lines are 3 to 4 mm.
+        QTest::newRow("one line") << 1 << 1 << 1;
+        QTest::newRow("half a page") << 30 << 1 << 1;
+        QTest::newRow("two pages or three") << 150 << 2 << 3;
+        QTest::newRow("many pages") << 1000 << 12 << 17;
+    }
+    void APageHoldsWhatFitsAndNoLineIsLost()
+    {
+        QFETCH(int, lines);
+        QFETCH(int, leastPages);
+        QFETCH(int, mostPages);
+        const QString path = m_folder.filePath("pages.pdf");
+        const int pages = WritePdf({Courier(8), Numbered(lines)}, path);
+        QVERIFY2(pages >= leastPages && pages <= mostPages, qPrintable(QString::number(pages)));
+        const QStringList texts = PagesOf(path);
+        QCOMPARE(texts.size(), pages);
+        QStringList read;
+        for (const QString &page : texts) {
+            const QStringList rows = page.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+            for (const QString &row : rows)
+                read += row.trimmed();
+        }
+        QCOMPARE(read, Numbered(lines));
+        // Every page but the last is full.
+        for (qsizetype page = 1; page + 1 < texts.size(); ++page)
+            QCOMPARE(texts[page].count("Line"), texts[0].count("Line"));
+    }
+
+    void LargerLettersNeedMorePages()
+    {
+        const int small = WritePdf({Courier(8), Numbered(300)}, m_folder.filePath("small.pdf"));
+        const int large = WritePdf({Courier(10), Numbered(300)}, m_folder.filePath("large.pdf"));
+        QVERIFY(large > small);
+    }
+
+    void EmptyLinesTakeTheirRoom()
+    {
+        QStringList sparse;
+        for (const QString &line : Numbered(40))
+            sparse += QStringList{line, {}, {}};
+        const QString path = m_folder.filePath("sparse.pdf");
+        QCOMPARE(WritePdf({Courier(8), sparse}, path), WritePdf({Courier(8), Numbered(120)}, m_folder.filePath("dense.pdf")));
+    }
+
+    void TextStandsInItsColumns()
+    {
+        Printer printer;
+        PrintJob job;
+        TheDesk.PrintDocument = [&](const PrintJob &sent) { job = sent; };
+        printer.Font = Courier(8);
+        printer.CentredLine("OVERHEAD");
+        printer.NewLine();
+        printer.AmountLine("Rent due the 1st", "$1,250.00");
+        printer.AmountLine("Gas", "$7.50");
+        printer.RuleLine();
+        printer.EndDoc();
+        const QString path = m_folder.filePath("columns.pdf");
+        QCOMPARE(WritePdf(job, path), 1);
+        QStringList read = PagesOf(path).value(0).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(read.size(), 4);
+        // The reader drops the blanks that all lines have in common and rounds places; the columns stay under each other.
+        const auto ends = [&](int line) { return read[line].size(); };
+        const auto starts = [&](int line) { return read[line].size() - read[line].trimmed().size(); };
+        QVERIFY(read[1].contains("Rent due the 1st"));
+        QVERIFY(qAbs(ends(1) - ends(2)) <= 1); // amounts end in one column
+        QCOMPARE(starts(1), starts(2));        // labels start in one column
+        QVERIFY(starts(0) > starts(1));
+        QCOMPARE(read[3].trimmed(), QString(50, QLatin1Char('_')));
+        QVERIFY(qAbs(ends(3) - ends(1)) <= 1); // the rule ends where the amounts end
+    }
+
+    // Column n starts n - 1 widths of a figure right of the margin, whatever the letters.
+    void ColumnsStandInAnyFont_data()
+    {
+        QTest::addColumn<QString>("font");
+        QTest::newRow("fixed") << "Courier";
+        QTest::newRow("proportional") << "DejaVu Sans";
+        QTest::newRow("unknown") << "No Such Font";
+        QTest::newRow("none") << "";
+    }
+    void ColumnsStandInAnyFont()
+    {
+        QFETCH(QString, font);
+        PrintJob job;
+        job.Font.Name = font;
+        job.Font.Size = 8;
+        // Wide and narrow letters before the columns, which are 1, 31 and 61
+        job.Lines = {QStringLiteral("aaa%1bbb%1ccc").arg(QString(27, QLatin1Char(' '))),
+                     QStringLiteral("WWWWWWWWWWWW%1iiiiiiiiiiii%1ddd").arg(QString(18, QLatin1Char(' ')))};
+        const QString path = m_folder.filePath("fonts.pdf");
+        QCOMPARE(WritePdf(job, path), 1);
+        const Place first = PlaceOf("aaa", path), second = PlaceOf("bbb", path), third = PlaceOf("ccc", path);
+        const Place wide = PlaceOf("WWWWWWWWWWWW", path), narrow = PlaceOf("iiiiiiiiiiii", path), last = PlaceOf("ddd", path);
+        QVERIFY(qAbs(first.Left - Margin) < 1);
+        QVERIFY(third.Left > second.Left && second.Left > first.Left);
+        QVERIFY(qAbs((third.Left - second.Left) - (second.Left - first.Left)) < 0.5);
+        QVERIFY(qAbs(wide.Left - first.Left) < 0.5);
+        QVERIFY(qAbs(narrow.Left - second.Left) < 0.5);
+        QVERIFY(qAbs(last.Left - third.Left) < 0.5);
+    }
+
+    void EightyColumnsFit_data()
+    {
+        QTest::addColumn<QString>("font");
+        QTest::addColumn<float>("size");
+        QTest::addColumn<int>("paper");
+        QTest::newRow("the usual font on letter") << "Courier" << 8.F << int(QPageSize::Letter);
+        QTest::newRow("the usual font on A4") << "Courier" << 8.F << int(QPageSize::A4);
+        QTest::newRow("a large font") << "Courier" << 24.F << int(QPageSize::A4);
+        QTest::newRow("small paper") << "Courier" << 10.F << int(QPageSize::A5);
+        QTest::newRow("a size of nothing") << "Courier" << 0.F << int(QPageSize::Letter);
+    }
+    void EightyColumnsFit()
+    {
+        QFETCH(QString, font);
+        QFETCH(float, size);
+        QFETCH(int, paper);
+        PrintJob job;
+        job.Font.Name = font;
+        job.Font.Size = size;
+        job.Lines = {QString(77, QLatin1Char(' ')) + QStringLiteral("end"), QString(80, QLatin1Char('8'))};
+        const QString path = m_folder.filePath("wide.pdf");
+        QCOMPARE(WritePdf(job, path, QPageSize::PageSizeId(paper)), 1);
+        const Place end = PlaceOf("end", path), all = PlaceOf(QString(80, QLatin1Char('8')), path);
+        QVERIFY(end.Left > 0 && all.Left > 0);
+        QVERIFY(qAbs(all.Left - Margin) < 1);
+        QVERIFY(end.Right <= end.PageWidth - Margin + 1);
+        QVERIFY(all.Right <= all.PageWidth - Margin + 1);
+        QVERIFY(qAbs(end.Right - all.Right) < 2);
+    }
+
+    // Where no printer is installed
+
+    void WithoutAPrinterAPdfIsWritten()
+    {
+        if (!QPrinterInfo::availablePrinters().isEmpty())
+            QSKIP("this machine has a printer, and a test prints nothing on it");
+        TheDesk.Now = [] { return QDateTime(QDate(2004, 1, 5), QTime(9, 30, 1)); };
+        const QString folder = m_folder.filePath("house/printed"); // not there yet
+        const PrintJob job{Courier(8), Numbered(200)};
+        const QString first = PrintToPaperOrPdf(job, folder);
+        QCOMPARE(first, folder + "/2004-01-05 09-30-01.pdf");
+        const QString second = PrintToPaperOrPdf(job, folder); // in the same second; nothing is overwritten
+        QCOMPARE(second, folder + "/2004-01-05 09-30-01 (2).pdf");
+        QCOMPARE(QDir(folder).entryList(QDir::Files).size(), 2);
+        const QStringList pages = PagesOf(first);
+        QVERIFY(pages.size() >= 3);
+        QVERIFY(pages[0].contains("Line 1\n"));
+        QVERIFY(pages.last().contains("Line 200"));
+    }
+
+    void AFolderThatCannotBeMadeIsAnError()
+    {
+        if (!QPrinterInfo::availablePrinters().isEmpty())
+            QSKIP("this machine has a printer, and a test prints nothing on it");
+        QFile file(m_folder.filePath("file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const PrintJob job{Courier(8), Numbered(2)};
+        QCOMPARE(ErrorOf([&] { PrintToPaperOrPdf(job, m_folder.filePath("file/printed")); }), 75);
+    }
+
+    void AFullDiskIsAnErrorAndLeavesNoHalfDocument()
+    {
+        if (!QPrinterInfo::availablePrinters().isEmpty())
+            QSKIP("this machine has a printer, and a test prints nothing on it");
+        TheDesk.Now = [] { return QDateTime(QDate(2004, 1, 5), QTime(9, 30, 1)); };
+        const QString folder = m_folder.filePath("full");
+        const PrintJob job{Courier(8), Numbered(2000)};
+        rlimit before{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const rlimit little{4096, before.rlim_max}; // as if the disk had this much room left
+        const auto ignored = signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &little);
+        const int error = ErrorOf([&] { PrintToPaperOrPdf(job, folder); });
+        setrlimit(RLIMIT_FSIZE, &before);
+        signal(SIGXFSZ, ignored);
+        QCOMPARE(error, 57);
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList());
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+GUI_TEST_MAIN(gui_pageprinter)
+#include "gui_pageprinter.moc"
