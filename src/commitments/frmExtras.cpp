@@ -54,7 +54,7 @@ void frmExtras::FillPayPeriodList()
 void frmExtras::FillExtraItemList()
 {
     const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(Extras.SelectedExtraPayPeriod);
-    ui->pnlPayPeriod->setTitle(FormatLongDate(payPeriod.PayPeriodDate));
+    ui->lblPayPeriod->setText(FormatLongDate(payPeriod.PayPeriodDate));
     ui->lstExtraItems->Clear();
     for (int i = 1; i <= payPeriod.NumberOfExtraItems; ++i)
         ui->lstExtraItems->AddItem(payPeriod.ExtraItems(i).ExtraItem);
@@ -67,7 +67,7 @@ void frmExtras::FillExtraItemList()
 /// Reads the file and goes back to the level of the pay periods.
 void frmExtras::ShowPayPeriods()
 {
-    ui->pnlPayPeriod->setTitle({});
+    ui->lblPayPeriod->clear();
     InputPayPeriods();
     FillPayPeriodList();
     ui->cmdAddPayPeriod->setEnabled(true);

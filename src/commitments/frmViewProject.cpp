@@ -20,17 +20,23 @@ frmViewProject::frmViewProject() : ui(std::make_unique<Ui::frmViewProject>())
 {
     ui->setupUi(this);
     ui->grdViewProject->SetShape(StartRows, 3);
+    SetColumnWidths(); // before it is shown: the window opens wide enough
     OnGotFocus(ui->grdViewProject, [this] { grdViewProject_GotFocus(); });
 }
 
 frmViewProject::~frmViewProject() = default;
 
+void frmViewProject::SetColumnWidths()
+{
+    ui->grdViewProject->SetColumnWidth(0, DateTwips);
+    ui->grdViewProject->SetColumnWidth(1, AmountTwips);
+    ui->grdViewProject->SetColumnWidth(2, AmountTwips);
+}
+
 void frmViewProject::Activate()
 {
     Grid &grid = *ui->grdViewProject;
-    grid.SetColumnWidth(0, DateTwips);
-    grid.SetColumnWidth(1, AmountTwips);
-    grid.SetColumnWidth(2, AmountTwips);
+    SetColumnWidths();
     for (int column : {0, 1, 2})
         grid.SetBold(0, column, true);
     grid.SetRightAligned(1, true);

@@ -15,7 +15,7 @@ Loader::Loader(const QString &title, const QString &path) : m_title(title)
 Loader::~Loader()
 {
     if (m_errors > MostMessages)
-        ShowMessage(QStringLiteral("%1 more errors in this file are not shown one by one.").arg(m_errors - MostMessages),
+        ShowMessage(QStringLiteral("Further errors in this file, not shown one by one: %1").arg(m_errors - MostMessages),
                     m_title, Icon::Stop);
 }
 

@@ -37,8 +37,9 @@ public:
         const QString label = text.left(colon);
         QFont heavier = line.font;
         heavier.setBold(true);
-        const QString value = QFontMetrics(heavier).elidedText(text.mid(colon).trimmed(), Qt::ElideMiddle,
-                                                               room.width() - line.fontMetrics.horizontalAdvance(label) - Padding);
+        const QString value =
+            QFontMetrics(heavier).elidedText(text.mid(colon).trimmed(), Qt::ElideMiddle,
+                                             room.width() - line.fontMetrics.horizontalAdvance(label) - Padding);
         painter->setPen(ink);
         painter->setFont(line.font);
         painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter, label);

@@ -10,6 +10,9 @@
 frmEnvironmentSettings::frmEnvironmentSettings() : ui(std::make_unique<Ui::frmEnvironmentSettings>())
 {
     ui->setupUi(this);
+    QPalette shownOnly = ui->txtStoreFile->palette();
+    shownOnly.setColor(QPalette::Base, Qt::transparent);
+    ui->txtStoreFile->setPalette(shownOnly);
     ui->updForecastPeriods->SetBuddy(ui->txtForecastPeriods);
     connect(ui->updForecastPeriods, &UpDown::Stepped, this, &frmEnvironmentSettings::updForecastPeriods_Change);
     optPayFrequency = std::make_unique<OptionGroup>(

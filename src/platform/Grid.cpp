@@ -348,7 +348,7 @@ void Grid::ShareWidth()
 void Grid::ShareHeight()
 {
     const int least = fontMetrics().height() + RowPadding;
-    const int whole = viewport()->height() + horizontalHeader()->height();
+    const int whole = contentsRect().height(); // the heading, whose height is not settled yet at a resize, and the rows
     const int row = m_rowsInView > 0 ? qMax(least, whole / m_rowsInView) : least;
     verticalHeader()->setDefaultSectionSize(row);
 }

@@ -78,7 +78,8 @@ QStringList ListBox::Items() const
 QSize ListBox::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return QListWidget::sizeHint().expandedTo({LettersAtFirst * metrics.averageCharWidth(), RowsAtFirst * metrics.height()});
+    return QListWidget::sizeHint().expandedTo(
+        {LettersAtFirst * metrics.averageCharWidth(), RowsAtFirst * metrics.height()});
 }
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
@@ -114,7 +115,8 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event)
     QListWidget::mouseReleaseEvent(event);
     if (event->button() != Qt::LeftButton || !m_pressed)
         return;
-    // The selection has followed the mouse, so the row that it was let go on counts, not the one that it was pressed on.
+    // The selection has followed the mouse, so the row that it was let go on counts, not the one that it was pressed
+    // on.
     m_pressed = false;
     if (ListIndex() >= 0)
         Q_EMIT Click();

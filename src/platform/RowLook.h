@@ -18,7 +18,8 @@ public:
         QStyleOptionViewItem cell = option;
         cell.state.setFlag(QStyle::State_HasFocus, false);
         m_view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, m_view);
-        if (m_view->hasFocus() && index.row() == m_view->currentIndex().row() && !(cell.state & QStyle::State_Selected)) {
+        if (m_view->hasFocus() && index.row() == m_view->currentIndex().row() &&
+            !(cell.state & QStyle::State_Selected)) {
             QColor mark = cell.palette.color(QPalette::Highlight);
             mark.setAlpha(FocusAlpha);
             painter->fillRect(cell.rect, mark);

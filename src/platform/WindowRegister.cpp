@@ -193,7 +193,8 @@ void WindowRegister::PutAway(Form *form, bool wasActive)
     }
     if (wasActive && !m_active)
         ActivatePrevious();
-    else if (toolkitIsThere && m_active) // it was only looked at; the toolkit's choice of the next one is not the user's
+    else if (toolkitIsThere &&
+             m_active) // it was only looked at; the toolkit's choice of the next one is not the user's
         Expect(m_active);
 }
 
@@ -433,7 +434,8 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
         if (KeyPressed(watched, *static_cast<QKeyEvent *>(event)))
             return true;
         break;
-    default: break;
+    default:
+        break;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -4,6 +4,8 @@
 
 #include "budget/MonthlyOverhead.h"
 
+#include <limits>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -226,7 +228,7 @@ private Q_SLOTS:
         desk.StartProgram();
         State.PaycheckAmount = Currency::FromTenThousandths(std::numeric_limits<qint64>::max());
         State.PayFrequency = Weekly;
-        Choose(u"mnuBudgetCurrentOverhead"_s);
+        Click(u"frmMain"_s, u"Toolbar1Button5"_s);
         QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '6':\n\nOverflow"_s, AppTitle, Icon::Stop}));
         QVERIFY(desk.Ended);
     }

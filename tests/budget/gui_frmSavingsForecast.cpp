@@ -4,6 +4,8 @@
 
 #include "budget/SavingsForecast.h"
 
+#include <QHeaderView>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -115,12 +117,12 @@ private Q_SLOTS:
         Grid &grid = TheGrid();
         const auto rowsInView = [&] {
             const int whole = grid.viewport()->height() + grid.horizontalHeader()->height();
-            return whole / grid.verticalHeader()->defaultSectionSize();
+            return double(whole) / grid.verticalHeader()->defaultSectionSize();
         };
-        QCOMPARE(rowsInView(), 16);
+        QVERIFY(rowsInView() >= 16 && rowsInView() < 17);
         TheWindows.Loaded(Window)->resize(900, 900);
         Settle();
-        QCOMPARE(rowsInView(), 16);
+        QVERIFY(rowsInView() >= 16 && rowsInView() < 17);
     }
 
     void ItFillsByItselfWhenItIsShown()
@@ -400,6 +402,7 @@ private Q_SLOTS:
                               u"    January 1, 2004                    $200.00                     $200.00"_s,
                               u"    January 15, 2004                   $200.00                     $400.00"_s}));
         QVERIFY(!State.PrintSavingsForecast);
+        Show(u"frmMain"_s);
         Choose(u"mnuBudgetSavingsForecast"_s); // comes to the front, fills again, prints nothing
         desk.TakeMessage();
         QCOMPARE(desk.Printed.size(), 1);
@@ -412,7 +415,7 @@ private Q_SLOTS:
         desk.StartProgram();
         TakeHousehold(1001);
         desk.Answers = {Answer::No};
-        Choose(u"mnuBudgetSavingsForecast"_s);
+        Click(u"frmMain"_s, u"Toolbar1Button7"_s);
         desk.TakeMessage();
         QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '9':\n\nSubscript out of range"_s, AppTitle, Icon::Stop}));
         QVERIFY(desk.Ended);

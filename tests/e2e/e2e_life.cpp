@@ -20,12 +20,18 @@ bool Do(const QStringList &words)
     tool.start(QStringLiteral("xdotool"), words);
     return tool.waitForFinished(10000) && tool.exitCode() == 0;
 }
-bool Key(const QString &key) { return Do({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), key}); }
-bool TypeText(const QString &text) { return Do({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text}); }
+bool Key(const QString &key)
+{
+    return Do({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), key});
+}
+bool TypeText(const QString &text)
+{
+    return Do({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+}
 bool ClickAt(QPoint point)
 {
-    return Do({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(point.x()), QString::number(point.y()),
-               QStringLiteral("click"), QStringLiteral("1")});
+    return Do({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(point.x()),
+               QString::number(point.y()), QStringLiteral("click"), QStringLiteral("1")});
 }
 bool ClickTitleBar(const Form &form)
 {
@@ -95,8 +101,8 @@ public:
     Stranger()
     {
         m_process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--stranger")});
-        m_stands = m_process.waitForStarted(10000) &&
-                   QTest::qWaitFor([] { return !QGuiApplication::focusWindow(); }, 10000);
+        m_stands =
+            m_process.waitForStarted(10000) && QTest::qWaitFor([] { return !QGuiApplication::focusWindow(); }, 10000);
     }
     ~Stranger() { Leave(); }
     bool Stands() const { return m_stands; }
@@ -183,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(heard.count("A Activate"), 1);
         QVERIFY(TypeText("7"));
         QTRY_COMPARE(toys["A"].Second->text(), "7"); // it was selected as a whole
-        QVERIFY(ClickControl(*toys["B"].Button)); // and a click on a button over there is a click
+        QVERIFY(ClickControl(*toys["B"].Button));    // and a click on a button over there is a click
         QTRY_VERIFY(Log.contains("B Click"));
         QCOMPARE(Log.last(), "B Click");
     }

@@ -727,7 +727,7 @@ private Q_SLOTS:
         for (int shown = 3; shown <= 25; ++shown)
             QCOMPARE(desk.TakeMessage(), Told(PastEnd, title));
         QCOMPARE(desk.TakeMessage(),
-                 Told("377 more errors in this file are not shown one by one.", title)); // 2 + 398 + 2 - 25
+                 Told("Further errors in this file, not shown one by one: 377", title)); // 2 + 398 + 2 - 25
     }
 
     void OneEntryBeyondTheBoundTellsTwiceAndMisalignsTheRest()
@@ -759,7 +759,7 @@ private Q_SLOTS:
         for (int shown = 1; shown <= 25; ++shown)
             QCOMPARE(desk.TakeMessage(), Told(OutOfRange, title));
         QCOMPARE(desk.TakeMessage(),
-                 Told("65109 more errors in this file are not shown one by one.", title)); // 2 * 32567 - 25
+                 Told("Further errors in this file, not shown one by one: 65109", title)); // 2 * 32567 - 25
     }
 
     void TwentyFiveMessagesComeOneByOne()
@@ -780,7 +780,7 @@ private Q_SLOTS:
         InputCreditors();
         const Message last = desk.Messages.takeLast();
         ExpectOnly(desk, 25, Told(PastEnd, QStringLiteral("Input Creditors")));
-        QCOMPARE(last, Told("1 more errors in this file are not shown one by one.", QStringLiteral("Input Creditors")));
+        QCOMPARE(last, Told("Further errors in this file, not shown one by one: 1", QStringLiteral("Input Creditors")));
     }
 
     void ADamagedCountOf32767HoldsNobodyPrisoner_data() { ListRows(); }
@@ -794,7 +794,7 @@ private Q_SLOTS:
         QCOMPARE(SizeOf(list), 32767);
         const Message last = desk.Messages.takeLast();
         ExpectOnly(desk, 25, Told(PastEnd, LoadTitle(list)));
-        QCOMPARE(last.Text, QStringLiteral("%1 more errors in this file are not shown one by one.")
+        QCOMPARE(last.Text, QStringLiteral("Further errors in this file, not shown one by one: %1")
                                 .arg(32767 * list.ValuesOfRecord - 25));
     }
 

@@ -336,12 +336,12 @@ private Q_SLOTS:
         InputMasterShoppingList();
         QCOMPARE(desk.Messages.size(), 26);
         QCOMPARE(desk.Messages.takeLast(),
-                 Told("163810 more errors in this file are not shown one by one.", InputMaster));
+                 Told("Further errors in this file, not shown one by one: 163810", InputMaster));
         ExpectOnly(desk, 25, Told(PastEnd, InputMaster)); // 5 * 32767 - 25
         desk.WriteFile(ListFile, "32767");
         InputCurrentShoppingList();
         QCOMPARE(desk.Messages.takeLast(),
-                 Told("262111 more errors in this file are not shown one by one.", InputCurrent)); // 8 * 32767 - 25
+                 Told("Further errors in this file, not shown one by one: 262111", InputCurrent)); // 8 * 32767 - 25
         ExpectOnly(desk, 25, Told(PastEnd, InputCurrent));
         QCOMPARE(State.CurrentShoppingList.Size(), 32767);
     }

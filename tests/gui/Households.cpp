@@ -18,7 +18,9 @@ constexpr int SamplePeriods = 12;
 const QHash<QString, QStringList> &FirstButtons()
 {
     static const QHash<QString, QStringList> buttons{
-        {u"frmBudget"_s, {u"cmdBudget"_s, u"cmdBudget"_s}},
+        {u"frmBudget"_s, {u"cmdBudget"_s, u"cmdBudget"_s}}, {u"frmCreditors"_s, {u"cmdListCreditors"_s}},
+        {u"frmExtras"_s, {u"cmdListPayPeriods"_s}},         {u"frmProjects"_s, {u"cmdListProjects"_s}},
+        {u"frmRegulars"_s, {u"cmdListRegularItems"_s}},
     };
     return buttons;
 }

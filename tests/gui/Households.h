@@ -5,8 +5,7 @@
 
 enum class Household { Empty, Filled };
 
-/// Lays the household into the desk's folder, the sample's dated entries in the pay periods from desk.Now on, and lets
-/// the desk keep the options and the pictures' quiet: no tutor that comes by itself.
+/// Lays the household into the desk's folder, the sample's dated entries in the pay periods from desk.Now on.
 void LayHouseholdOf(const RecordingDesk &desk, Household household);
 
 /// Shows a window as the user sees it at work: opened from the main window and, in the filled household, with what its

@@ -78,10 +78,7 @@ public:
     }
 
 private:
-    void Fault(const QWidget &control, const QString &what)
-    {
-        m_faults += control.objectName() + u": "_s + what;
-    }
+    void Fault(const QWidget &control, const QString &what) { m_faults += control.objectName() + u": "_s + what; }
 
     void LookAtRoom(QWidget &control, bool contents)
     {
@@ -89,21 +86,24 @@ private:
             if (label->text().isEmpty())
                 return;
             if (label->wordWrap() && label->heightForWidth(label->width()) > label->height())
-                Fault(control, u"its lines need %1 pixels of height and have %2"_s
-                                   .arg(label->heightForWidth(label->width()))
-                                   .arg(label->height()));
+                Fault(control,
+                      u"its lines need %1 pixels of height and have %2"_s.arg(label->heightForWidth(label->width()))
+                          .arg(label->height()));
             else if (!label->wordWrap() && IsSmaller(label->size(), label->sizeHint()))
-                Fault(control, u"\"%1\" needs %2 and has %3"_s.arg(label->text(), Size(label->sizeHint()), Size(label->size())));
+                Fault(control,
+                      u"\"%1\" needs %2 and has %3"_s.arg(label->text(), Size(label->sizeHint()), Size(label->size())));
         } else if (auto *button = qobject_cast<QAbstractButton *>(&control)) {
             if (IsSmaller(button->size(), button->sizeHint()))
-                Fault(control, u"\"%1\" needs %2 and has %3"_s.arg(button->text(), Size(button->sizeHint()), Size(button->size())));
+                Fault(control, u"\"%1\" needs %2 and has %3"_s.arg(button->text(), Size(button->sizeHint()),
+                                                                   Size(button->size())));
         } else if (auto *group = qobject_cast<QGroupBox *>(&control)) {
             if (group->width() < group->minimumSizeHint().width())
                 Fault(control, u"its title is cut"_s);
         } else if (auto *field = qobject_cast<QLineEdit *>(&control)) {
             if (field->height() < field->minimumSizeHint().height())
                 Fault(control, u"its text is cut from above or below"_s);
-            if (contents && field->isReadOnly() && field->fontMetrics().horizontalAdvance(field->text()) > field->width())
+            if (contents && field->isReadOnly() &&
+                field->fontMetrics().horizontalAdvance(field->text()) > field->width())
                 Fault(control, u"it does not show the whole of \"%1\""_s.arg(field->text()));
         } else if (auto *combo = qobject_cast<QComboBox *>(&control)) {
             if (IsSmaller(combo->size(), combo->minimumSizeHint()))
@@ -179,8 +179,9 @@ private:
         if (!label || label->text().isEmpty() || !label->isEnabled())
             return;
         // A label has no ground of its own: it lies on the first one behind it.
-        const double contrast = Contrast(label->palette().color(label->foregroundRole()),
-                                         label->parentWidget()->palette().color(label->parentWidget()->backgroundRole()));
+        const double contrast =
+            Contrast(label->palette().color(label->foregroundRole()),
+                     label->parentWidget()->palette().color(label->parentWidget()->backgroundRole()));
         if (contrast < ReadableContrast)
             Fault(control, u"its contrast is %1 to 1"_s.arg(contrast, 0, 'f', 1));
     }

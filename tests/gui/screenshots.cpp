@@ -59,9 +59,10 @@ bool TakePicture(const QString &window, Household household, bool dark, const QS
     }
     Form &form = *TheWindows.Loaded(window);
     const QPixmap picture = form.grab();
-    const QString name = u"%1/%2-%3-%4-%5.png"_s.arg(folder, window, household == Household::Empty ? u"empty"_s : u"filled"_s)
-                             .arg(qRound(picture.devicePixelRatio() * 100))
-                             .arg(dark ? u"dark"_s : u"light"_s);
+    const QString name =
+        u"%1/%2-%3-%4-%5.png"_s.arg(folder, window, household == Household::Empty ? u"empty"_s : u"filled"_s)
+            .arg(qRound(picture.devicePixelRatio() * 100))
+            .arg(dark ? u"dark"_s : u"light"_s);
     const bool saved = SmallPicture(picture).save(name, "PNG", 0);
     if (!saved)
         qWarning("cannot write %s", qPrintable(name));

@@ -71,7 +71,8 @@ const MenuRow MenuRows[] = {
     {"mnuHelp", "&Getting Started", "mnuGettingStarted", "", "", 0},
     {"mnuGettingStarted", "Getting Started With Your &Budget", "mnuStartBudget", "", "frmGettingStarted", 0},
     {"mnuGettingStarted", "Getting Started With &Shopping", "mnuStartShopping", "", "frmGettingStarted", 0},
-    {"mnuGettingStarted", "Getting Started With &Paying Off Bills", "mnuStartPayingOffBills", "", "frmGettingStarted", 0},
+    {"mnuGettingStarted", "Getting Started With &Paying Off Bills", "mnuStartPayingOffBills", "", "frmGettingStarted",
+     0},
     {"mnuHelp", "Ho&w Do I...?", "mnuHowDoI", "", "frmHowDoI", 0},
     {"mnuHelp", "&About", "mnuHelpAbout", "", "frmAbout", 0},
 };
@@ -318,9 +319,9 @@ private Q_SLOTS:
             QCOMPARE(entry.text(), Text(row.Caption));
             QCOMPARE(entry.shortcut(), QKeySequence(Text(row.Shortcut)));
             QCOMPARE(entry.isSeparator(), *row.Caption == '\0');
-            QCOMPARE(entry.isCheckable(), std::any_of(std::begin(OptionRows), std::end(OptionRows), [&](const auto &option) {
-                         return Text(option.Entry) == entry.objectName();
-                     }));
+            QCOMPARE(entry.isCheckable(),
+                     std::any_of(std::begin(OptionRows), std::end(OptionRows),
+                                 [&](const auto &option) { return Text(option.Entry) == entry.objectName(); }));
         }
     }
 
@@ -407,8 +408,8 @@ private Q_SLOTS:
         desk.StartProgram();
         for (int index = 1; index <= 16; ++index) {
             const QPoint place = ToolbarButton(index).pos();
-            QCOMPARE(place.x(), ToolbarButton((index - 1) % 4 + 1).x());       // the column of the first row
-            QCOMPARE(place.y(), ToolbarButton((index - 1) / 4 * 4 + 1).y());   // the row of the first column
+            QCOMPARE(place.x(), ToolbarButton((index - 1) % 4 + 1).x());     // the column of the first row
+            QCOMPARE(place.y(), ToolbarButton((index - 1) / 4 * 4 + 1).y()); // the row of the first column
             if (index % 4 != 1)
                 QVERIFY(place.x() > ToolbarButton(index - 1).x());
             if (index > 4)
@@ -450,8 +451,8 @@ private Q_SLOTS:
         GuiDesk desk;
         desk.StartProgram();
         QCOMPARE(RowsOf(Window, u"lstBudgetState"_s),
-                 (QStringList{u"Creditors: 0"_s, u"Regular Items: 0"_s, u"Extra Item Pay Periods: 0"_s, u"Projects: 0"_s,
-                              u"Average Net Percentage: 90.00%"_s, u"Paycheck Amount: $1,000.00"_s,
+                 (QStringList{u"Creditors: 0"_s, u"Regular Items: 0"_s, u"Extra Item Pay Periods: 0"_s,
+                              u"Projects: 0"_s, u"Average Net Percentage: 90.00%"_s, u"Paycheck Amount: $1,000.00"_s,
                               u"Current Shopping List: untitled.lst"_s, u"Savings Forecast: 26 Pay Periods"_s,
                               u"Current Sales Tax: 6.00%"_s}));
     }
@@ -475,8 +476,8 @@ private Q_SLOTS:
         QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).first(), u"Creditors: 0"_s);
         Show(Window);
         QCOMPARE(RowsOf(Window, u"lstBudgetState"_s),
-                 (QStringList{u"Creditors: 1200"_s, u"Regular Items: 3"_s, u"Extra Item Pay Periods: 4"_s, u"Projects: 5"_s,
-                              u"Average Net Percentage: 81.25%"_s, u"Paycheck Amount: $1,234.51"_s,
+                 (QStringList{u"Creditors: 1200"_s, u"Regular Items: 3"_s, u"Extra Item Pay Periods: 4"_s,
+                              u"Projects: 5"_s, u"Average Net Percentage: 81.25%"_s, u"Paycheck Amount: $1,234.51"_s,
                               u"Current Shopping List: weekly.lst"_s, u"Savings Forecast: 1000 Pay Periods"_s,
                               u"Current Sales Tax: 7.25%"_s}));
     }
@@ -487,9 +488,15 @@ private Q_SLOTS:
         DeclareToys();
         desk.StartProgram();
         TutorPages tutor;
-        const QStringList windows{u"frmCreditors"_s, u"frmRegulars"_s, u"frmExtras"_s, u"frmProjects"_s,
-                                  u"frmAverageNetPercentage"_s, u"frmEnvironmentSettings"_s, u"frmCurrentShoppingList"_s,
-                                  u"frmEnvironmentSettings"_s, u"frmEnvironmentSettings"_s};
+        const QStringList windows{u"frmCreditors"_s,
+                                  u"frmRegulars"_s,
+                                  u"frmExtras"_s,
+                                  u"frmProjects"_s,
+                                  u"frmAverageNetPercentage"_s,
+                                  u"frmEnvironmentSettings"_s,
+                                  u"frmCurrentShoppingList"_s,
+                                  u"frmEnvironmentSettings"_s,
+                                  u"frmEnvironmentSettings"_s};
         for (int row = 0; row < windows.size(); ++row) {
             ClickRow(Window, u"lstBudgetState"_s, row);
             QCOMPARE(ActiveWindow(), windows[row]);
@@ -508,7 +515,8 @@ private Q_SLOTS:
         QCOMPARE(list.ListIndex(), -1);
         QVERIFY(QMetaObject::invokeMethod(&list, "Click"));
         const QRect last = list.visualItemRect(list.item(list.count() - 1));
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(last.center().x(), last.bottom() + 3));
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(last.center().x(), last.bottom() + 3));
         Settle();
         QCOMPARE(ActiveWindow(), Window);
         QCOMPARE(desk.Messages.size(), 0);
@@ -703,7 +711,8 @@ private Q_SLOTS:
         QuestionAnswerer answerer;
         desk.Answers += Answer::No;
         for (const MenuRow &row : MenuRows)
-            if (row.TutorPage > 0 && Text(row.Name) != u"mnuShopperOpenStoreList"_s && Entry(Text(row.Name)).isEnabled())
+            if (row.TutorPage > 0 && Text(row.Name) != u"mnuShopperOpenStoreList"_s &&
+                Entry(Text(row.Name)).isEnabled())
                 Choose(Text(row.Name));
         QCOMPARE(tutor.Pages, QList<int>());
         QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
@@ -735,8 +744,8 @@ private Q_SLOTS:
             desk.Answers += answer;
             Choose(u"mnuBudgetSavingsForecast"_s);
             QCOMPARE(desk.Beeps, 1);
-            QCOMPARE(desk.TakeMessage(), (Message{u"Do you wish to print the Savings Forecast?"_s, u"Savings Forecast"_s,
-                                                  Icon::Question, Buttons::YesNo}));
+            QCOMPARE(desk.TakeMessage(), (Message{u"Do you wish to print the Savings Forecast?"_s,
+                                                  u"Savings Forecast"_s, Icon::Question, Buttons::YesNo}));
             QCOMPARE(State.PrintSavingsForecast, answer == Answer::Yes);
             QCOMPARE(ActiveWindow(), u"frmSavingsForecast"_s);
         }

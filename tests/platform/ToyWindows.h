@@ -136,11 +136,26 @@ private:
     Desk m_before;
 };
 
-inline void Show(const char *name) { TheWindows.Show(QString::fromLatin1(name)); }
-inline void ShowModal(const char *name) { TheWindows.ShowModal(QString::fromLatin1(name)); }
-inline void Hide(const char *name) { TheWindows.Hide(QString::fromLatin1(name)); }
-inline bool Unload(const char *name) { return TheWindows.Unload(QString::fromLatin1(name)); }
-inline QString Active() { return TheWindows.Active() ? TheWindows.Active()->objectName() : QString(); }
+inline void Show(const char *name)
+{
+    TheWindows.Show(QString::fromLatin1(name));
+}
+inline void ShowModal(const char *name)
+{
+    TheWindows.ShowModal(QString::fromLatin1(name));
+}
+inline void Hide(const char *name)
+{
+    TheWindows.Hide(QString::fromLatin1(name));
+}
+inline bool Unload(const char *name)
+{
+    return TheWindows.Unload(QString::fromLatin1(name));
+}
+inline QString Active()
+{
+    return TheWindows.Active() ? TheWindows.Active()->objectName() : QString();
+}
 inline void When(const char *heard, const std::function<void()> &handler)
 {
     WhenHeard.insert(QString::fromLatin1(heard), handler);

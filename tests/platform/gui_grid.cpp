@@ -126,13 +126,26 @@ private Q_SLOTS:
         const QStringList before = RowsOf(grid);
         const int raised = ErrorOf([&] {
             switch (what) {
-            case 0: grid.SetText(row, column, "x"); break;
-            case 1: grid.AddItem(QString(column, QLatin1Char('\t')), row); break;
-            case 2: grid.Text(row, column); break;
-            case 3: grid.SetColour(row, column, GridColour::LightRed); break;
-            case 4: grid.SetBold(row, column, true); break;
-            case 5: grid.SetColumnWidth(column, 100); break;
-            default: grid.SetRightAligned(column, true);
+            case 0:
+                grid.SetText(row, column, "x");
+                break;
+            case 1:
+                grid.AddItem(QString(column, QLatin1Char('\t')), row);
+                break;
+            case 2:
+                grid.Text(row, column);
+                break;
+            case 3:
+                grid.SetColour(row, column, GridColour::LightRed);
+                break;
+            case 4:
+                grid.SetBold(row, column, true);
+                break;
+            case 5:
+                grid.SetColumnWidth(column, 100);
+                break;
+            default:
+                grid.SetRightAligned(column, true);
             }
         });
         QCOMPARE(raised, error);
@@ -220,7 +233,8 @@ private Q_SLOTS:
         QVERIFY(!model->index(0, 0).data(Qt::FontRole).value<QFont>().bold());
         QVERIFY(model->index(0, 1).data(Qt::FontRole).value<QFont>().bold());
         const auto alignment = [](const QVariant &value) { return Qt::Alignment(value.toInt()); };
-        QCOMPARE(alignment(model->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole)), Qt::AlignRight | Qt::AlignVCenter);
+        QCOMPARE(alignment(model->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole)),
+                 Qt::AlignRight | Qt::AlignVCenter);
         QCOMPARE(alignment(model->index(0, 1).data(Qt::TextAlignmentRole)), Qt::AlignRight | Qt::AlignVCenter);
         QCOMPARE(alignment(model->index(0, 0).data(Qt::TextAlignmentRole)), Qt::AlignLeft | Qt::AlignVCenter);
         QVERIFY(grid.RightAligned(1));
@@ -291,7 +305,7 @@ private Q_SLOTS:
         Fill(grid, 1);
         grid.SetColumnWidth(0, 15 * 600);
         grid.SetColumnWidth(1, 15 * 300);
-        Present(grid); // 400 wide
+        Present(grid);                                           // 400 wide
         QVERIFY(grid.horizontalHeader()->sectionSize(0) >= 600); // more where letters are wide
         QVERIFY(qAbs(grid.horizontalHeader()->sectionSize(0) - 2 * grid.horizontalHeader()->sectionSize(1)) <= 2);
         QVERIFY(grid.horizontalScrollBar()->maximum() > 0);

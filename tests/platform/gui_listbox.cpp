@@ -87,7 +87,8 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.Click(0);
-        QTest::mouseClick(stage.List->viewport(), Qt::LeftButton, {}, stage.List->viewport()->rect().bottomLeft() - QPoint(-5, 3));
+        QTest::mouseClick(stage.List->viewport(), Qt::LeftButton, {},
+                          stage.List->viewport()->rect().bottomLeft() - QPoint(-5, 3));
         QCOMPARE(stage.Clicks.count(), 1);
         QCOMPARE(stage.List->ListIndex(), 0);
     }

@@ -98,9 +98,12 @@ private Q_SLOTS:
     {
         QFETCH(int, button);
         QFETCH(Answer, answer);
-        const Answer given = Ask({"Delete it?", "Creditors", Icon::Question, Buttons::YesNo},
-                                 [](QMessageBox &box) { QCOMPARE(ButtonsOf(box), (QStringList{"No", "Yes"})); },
-                                 QMessageBox::StandardButton(button));
+        const Answer given = Ask(
+            {"Delete it?", "Creditors", Icon::Question, Buttons::YesNo},
+            [](QMessageBox &box) {
+                QCOMPARE(ButtonsOf(box), (QStringList{"No", "Yes"}));
+            },
+            QMessageBox::StandardButton(button));
         QCOMPARE(given, answer);
     }
 

@@ -131,7 +131,8 @@ private Q_SLOTS:
         for (const QString &line : Numbered(40))
             sparse += QStringList{line, {}, {}};
         const QString path = m_folder.filePath("sparse.pdf");
-        QCOMPARE(WritePdf({Courier(8), sparse}, path), WritePdf({Courier(8), Numbered(120)}, m_folder.filePath("dense.pdf")));
+        QCOMPARE(WritePdf({Courier(8), sparse}, path),
+                 WritePdf({Courier(8), Numbered(120)}, m_folder.filePath("dense.pdf")));
     }
 
     void TextStandsInItsColumns()
@@ -150,7 +151,8 @@ private Q_SLOTS:
         QCOMPARE(WritePdf(job, path), 1);
         QStringList read = PagesOf(path).value(0).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QCOMPARE(read.size(), 4);
-        // The reader drops the blanks that all lines have in common and rounds places; the columns stay under each other.
+        // The reader drops the blanks that all lines have in common and rounds places; the columns stay under each
+        // other.
         const auto ends = [&](int line) { return read[line].size(); };
         const auto starts = [&](int line) { return read[line].size() - read[line].trimmed().size(); };
         QVERIFY(read[1].contains("Rent due the 1st"));
@@ -182,7 +184,8 @@ private Q_SLOTS:
         const QString path = m_folder.filePath("fonts.pdf");
         QCOMPARE(WritePdf(job, path), 1);
         const Place first = PlaceOf("aaa", path), second = PlaceOf("bbb", path), third = PlaceOf("ccc", path);
-        const Place wide = PlaceOf("WWWWWWWWWWWW", path), narrow = PlaceOf("iiiiiiiiiiii", path), last = PlaceOf("ddd", path);
+        const Place wide = PlaceOf("WWWWWWWWWWWW", path), narrow = PlaceOf("iiiiiiiiiiii", path),
+                    last = PlaceOf("ddd", path);
         QVERIFY(qAbs(first.Left - Margin) < 1);
         QVERIFY(third.Left > second.Left && second.Left > first.Left);
         QVERIFY(qAbs((third.Left - second.Left) - (second.Left - first.Left)) < 0.5);

@@ -181,7 +181,8 @@ private Q_SLOTS:
         QTest::newRow("the one that opened it") << QStringList{"A", "B"} << "A";
         QTest::newRow("the second of three") << QStringList{"A", "B", "C"} << "B";
         QTest::newRow("not the one that was opened last") << QStringList{"A", "B", "A", "C"} << "A";
-        QTest::newRow("the one that was left last, though another was shown last") << QStringList{"A", "B", "C", "B", "D"} << "B";
+        QTest::newRow("the one that was left last, though another was shown last")
+            << QStringList{"A", "B", "C", "B", "D"} << "B";
     }
     void UnloadingGivesBackToTheOneBefore()
     {
@@ -640,8 +641,7 @@ private Q_SLOTS:
         When("B Activate", [] { Unload("B"); });
         TakeLog();
         Show("B");
-        QCOMPARE(TakeLog(),
-                 QStringList{"B Load"} + Goes("A") + QStringList{"B Activate"} + Closes("B") + Comes("A"));
+        QCOMPARE(TakeLog(), QStringList{"B Load"} + Goes("A") + QStringList{"B Activate"} + Closes("B") + Comes("A"));
         Settle();
         QCOMPARE(TakeLog(), QStringList());
     }
@@ -1036,9 +1036,15 @@ private Q_SLOTS:
         window.Second->setText("12.50");
         window.Second->deselect();
         switch (way) {
-        case 0: window.FocusOn(window.Second); break;
-        case 1: QTest::keyClick(window.First, Qt::Key_Tab); break;
-        case 2: QTest::mouseClick(window.Second, Qt::LeftButton, {}, QPoint(20, window.Second->height() / 2)); break;
+        case 0:
+            window.FocusOn(window.Second);
+            break;
+        case 1:
+            QTest::keyClick(window.First, Qt::Key_Tab);
+            break;
+        case 2:
+            QTest::mouseClick(window.Second, Qt::LeftButton, {}, QPoint(20, window.Second->height() / 2));
+            break;
         default:
             window.FocusOn(window.Second);
             Show("B");
@@ -1173,9 +1179,14 @@ private Q_SLOTS:
         Settle();
         QVERIFY(!Log.contains("the program ends"));
         switch (way) {
-        case 0: toys["A"].close(); break;
-        case 1: Unload("A"); break;
-        default: Hide("A");
+        case 0:
+            toys["A"].close();
+            break;
+        case 1:
+            Unload("A");
+            break;
+        default:
+            Hide("A");
         }
         Settle();
         QCOMPARE(TakeLog().count("the program ends"), 1);

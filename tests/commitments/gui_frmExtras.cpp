@@ -1,0 +1,465 @@
+// The window of the extra items, event by event: the two levels of its list, the credit box, the pick of a pay period in
+// the scan, messages, focus, and what stands in extra.txt afterwards.
+#include "CommitmentsDesk.h"
+#include "GuiMain.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Window = u"frmExtras"_s;
+const QString List = u"lstExtraItems"_s;
+const QString Heading = u"lblPayPeriod"_s; // the caption of pnlPayPeriod
+const QString Commit = u"cmdAddChangeExtraItem"_s;
+const QString Amount = u"txtExtraItemAmount"_s;
+const QString Item = u"txtExtraItem"_s;
+const QString Credit = u"chkCredit"_s;
+const QStringList Fields{Amount, Item};
+const QStringList Buttons_{u"cmdListPayPeriods"_s, u"cmdAddPayPeriod"_s,    u"cmdDeletePayPeriod"_s,
+                           u"cmdAddExtraItem"_s,   u"cmdDeleteExtraItem"_s, u"cmdQuit"_s};
+const QStringList Controls = Buttons_ + Fields + QStringList{Credit, Commit};
+
+const QByteArray Gift = "\"01-05-2004\"\r\n2\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n";
+const QByteArray Trip = "\"01-19-2004\"\r\n1\r\n\"Trip\"\r\n200\r\n";
+const QByteArray TwoPeriods = "2\r\n" + Gift + Trip;
+
+/// The window with the file's pay periods listed.
+void Open(const CommitmentsDesk &desk, const QByteArray &file = TwoPeriods)
+{
+    State.CurrentPayPeriod = u"01-05-2004"_s;
+    State.PayFrequency = Biweekly;
+    desk.WriteFile(u"extra.txt"_s, file);
+    Show(Window);
+    Click(Window, u"cmdListPayPeriods"_s);
+}
+
+void OpenPayPeriod(const CommitmentsDesk &desk, int row, const QByteArray &file = TwoPeriods)
+{
+    Open(desk, file);
+    ClickRow(Window, List, row);
+}
+
+void Enter(const QString &amount, const QString &item)
+{
+    Type(Window, Amount, amount);
+    Type(Window, Item, item);
+}
+
+bool IsCredit()
+{
+    return Find<QCheckBox>(Window, Credit).isChecked();
+}
+
+QByteArray File(const CommitmentsDesk &desk)
+{
+    return desk.ReadFile(u"extra.txt"_s);
+}
+
+/// A pay period of `count` items of one dollar, named 1 to `count`.
+QByteArray Items(int count)
+{
+    QByteArray text = "\"01-05-2004\"\r\n" + QByteArray::number(count) + "\r\n";
+    for (int i = 1; i <= count; ++i)
+        text += '"' + QByteArray::number(i) + "\"\r\n1\r\n";
+    return text;
+}
+
+const Message UnknownError{UnknownErrorText, u"Extras"_s, Icon::Warning};
+
+} // namespace
+
+class gui_frmExtras : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheCaptionsAreTheDesigns()
+    {
+        CommitmentsDesk desk;
+        Show(Window);
+        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Extras"_s);
+        QCOMPARE(Texts(Window, Buttons_), u"&List Pay Periods | &Add Pay Period | &Delete Pay Period | &Add Extra Item | "
+                                          "&Delete Extra Item | &Quit"_s);
+        QCOMPARE(TextOf(Window, u"Frame1"_s), u"Extra Items Information"_s);
+        QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);
+        QCOMPARE(BuddyText(Window, Item), u"Item"_s);
+        QCOMPARE(TextOf(Window, Credit), u"Credit"_s);
+        QCOMPARE(TextOf(Window, Commit), u"&Change"_s);
+        QCOMPARE(TabOrder(Window), QStringList{List} + Controls);
+        QCOMPARE(Find(Window, List).parentWidget(), &Find(Window, u"pnlPayPeriod"_s));
+        QCOMPARE(Find(Window, Heading).parentWidget(), &Find(Window, u"pnlPayPeriod"_s));
+    }
+
+    void OpeningOffersTheListAlone()
+    {
+        CommitmentsDesk desk;
+        desk.WriteFile(u"extra.txt"_s, TwoPeriods);
+        Show(Window);
+        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdQuit"_s);
+        QCOMPARE(TextOf(Window, Heading), QString());
+        QCOMPARE(RowsOf(Window, List), QStringList());
+    }
+
+    void ListingShowsThePayPeriods()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(TextOf(Window, Heading), QString());
+        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdAddPayPeriod cmdQuit"_s);
+        QVERIFY(Extras.ExtrasListMode);
+        QCOMPARE(SelectedRow(Window, List), -1);
+    }
+
+    void APayPeriodOpensIntoItsItems()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        QCOMPARE(TextOf(Window, Heading), u"January 5, 2004"_s);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Gift"_s, u"Refund"_s}));
+        QCOMPARE(SelectedRow(Window, List), -1);
+        QCOMPARE(Extras.SelectedExtraPayPeriod, qint16(1));
+        QVERIFY(!Extras.ExtrasListMode);
+        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdDeletePayPeriod cmdAddExtraItem cmdQuit"_s);
+    }
+
+    void TheHeadingKeepsItsLine()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        const QPoint before = Find(Window, List).pos();
+        ClickRow(Window, List, 0);
+        QCOMPARE(Find(Window, List).pos(), before); // nothing jumps when the heading comes
+    }
+
+    void AnItemShowsItself()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 0);
+        QCOMPARE(Texts(Window, Fields), u"$30.00 | Gift"_s);
+        QVERIFY(!IsCredit());
+        QCOMPARE(TextOf(Window, Commit), u"&Change"_s);
+        QCOMPARE(FocusOf(Window), Amount);
+        QCOMPARE(Enabled(Window, Controls),
+                 u"cmdListPayPeriods cmdDeletePayPeriod cmdAddExtraItem cmdDeleteExtraItem cmdQuit txtExtraItemAmount "
+                 "txtExtraItem chkCredit cmdAddChangeExtraItem"_s);
+    }
+
+    void TheCreditBoxFollowsTheRowsAndLeavesTheirAmountsAlone()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        QVERIFY(IsCredit());
+        QCOMPARE(TextOf(Window, Amount), u"($12.50)"_s);
+        ClickRow(Window, List, 0);
+        QVERIFY(!IsCredit());
+        QCOMPARE(TextOf(Window, Amount), u"$30.00"_s);
+        QCOMPARE(File(desk), TwoPeriods);
+    }
+
+    void TheOnlyItemCannotBeDeleted()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 1);
+        ClickRow(Window, List, 0);
+        QVERIFY(!IsEnabled(Window, u"cmdDeleteExtraItem"_s));
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"5"_s, u"Map"_s);
+        Click(Window, Commit);
+        ClickRow(Window, List, 0);
+        QVERIFY(IsEnabled(Window, u"cmdDeleteExtraItem"_s));
+    }
+
+    void ANewItemGoesToTheEndOfThePayPeriod()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        Click(Window, u"cmdAddExtraItem"_s);
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QCOMPARE(TextOf(Window, Commit), u"&New"_s);
+        QCOMPARE(FocusOf(Window), Amount);
+        QCOMPARE(Enabled(Window, Fields + QStringList{Credit, Commit}), (Fields + QStringList{Credit, Commit}).join(u' '));
+        Enter(u"0"_s, u"Flowers"_s); // an amount of 0 is an ordinary item
+        Click(Window, Commit);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Gift"_s, u"Refund"_s, u"Flowers"_s}));
+        QCOMPARE(TextOf(Window, Amount), u"$0.00"_s);
+        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n3\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n\"Flowers\"\r\n0\r\n" + Trip));
+        QCOMPARE(TextOf(Window, Heading), u"January 5, 2004"_s);
+        QVERIFY(IsEnabled(Window, Commit));
+        QCOMPARE(SelectedRow(Window, List), -1);
+    }
+
+    void AChangedItemKeepsItsPlace()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 0);
+        Enter(u"31.25"_s, u"Present"_s);
+        Click(Window, Commit);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Present"_s, u"Refund"_s}));
+        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n2\r\n\"Present\"\r\n31.25\r\n\"Refund\"\r\n-12.5\r\n" + Trip));
+    }
+
+    void TheCreditBoxTurnsTheAmountAround()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"12.50"_s, u"Sale"_s);
+        Click(Window, Credit);
+        QCOMPARE(TextOf(Window, Amount), u"($12.50)"_s);
+        Click(Window, Credit);
+        QCOMPARE(TextOf(Window, Amount), u"$12.50"_s);
+        Click(Window, Credit);
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n3\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n\"Sale\"\r\n-12.5\r\n" + Trip));
+    }
+
+    void TheCreditBoxLeavesWhatIsNoAmountAlone_data()
+    {
+        QTest::addColumn<QString>("amount");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("letters") << u"abc"_s;
+    }
+    void TheCreditBoxLeavesWhatIsNoAmountAlone()
+    {
+        QFETCH(QString, amount);
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Type(Window, Amount, amount);
+        Click(Window, Credit);
+        QCOMPARE(TextOf(Window, Amount), amount);
+        QVERIFY(IsCredit());
+    }
+
+    void AMinusSignMakesACreditWithoutTheBox()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 1);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"-7"_s, u"Bottles"_s);
+        Click(Window, Commit);
+        QVERIFY(!IsCredit());
+        QCOMPARE(TextOf(Window, Amount), u"($7.00)"_s);
+        ClickRow(Window, List, 1); // the box shows it when the item is selected again
+        QVERIFY(IsCredit());
+        QCOMPARE(TextOf(Window, Amount), u"($7.00)"_s);
+    }
+
+    void ABoxThatStandsFromARowBeforeDoesNotMakeTheNextItemACredit()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Click(Window, u"cmdAddExtraItem"_s);
+        QVERIFY(IsCredit());
+        Enter(u"7"_s, u"Cake"_s);
+        Click(Window, Commit);
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(3).ExtraItemAmount, Dollars(7));
+    }
+
+    void AnEntryIsRefused_data()
+    {
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("focus");
+        const QString amount = u"Please enter a numerical dollar amount in the Extra Item Amount field"_s;
+        const QString item = u"Please enter an extra item description in the Extra Item field"_s;
+        QTest::newRow("an amount of letters") << u"x"_s << u"Gift"_s << amount << Amount;
+        QTest::newRow("the amount comes first") << QString() << QString() << amount << Amount;
+        QTest::newRow("no name") << u"5"_s << QString() << item << Item;
+    }
+    void AnEntryIsRefused()
+    {
+        QFETCH(QString, amount);
+        QFETCH(QString, item);
+        QFETCH(QString, text);
+        QFETCH(QString, focus);
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(amount, item);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), (Message{text, u"Extras"_s, Icon::Stop, Buttons::OkHelp, 24}));
+        QCOMPARE(FocusOf(Window), focus);
+        QCOMPARE(File(desk), TwoPeriods);
+    }
+
+    void ASecondChangeWithoutARowIsAnUnknownErrorAndChangesNothing()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 0);
+        Click(Window, Commit);
+        Enter(u"1"_s, u"Other"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(File(desk), TwoPeriods);
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItem, u"Gift"_s);
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(0), ExtraItemRecord());
+    }
+
+    void DeletingWithoutARowLosesNothing()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 0);
+        Click(Window, Commit);
+        Click(Window, u"cmdDeleteExtraItem"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(File(desk), TwoPeriods);
+        QVERIFY(!desk.Ended);
+    }
+
+    void The201stItemIsAnUnknownErrorAndIsNotSaved()
+    {
+        CommitmentsDesk desk;
+        const QByteArray full = "1\r\n" + Items(200);
+        OpenPayPeriod(desk, 0, full);
+        QCOMPARE(RowsOf(Window, List).size(), 200);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"1"_s, u"201"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(201)); // by then the count has gone up
+        QCOMPARE(File(desk), full);
+        Click(Window, u"cmdListPayPeriods"_s); // reading the file puts it right
+        QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(200));
+    }
+
+    void DeletingAnItemClosesThePanel()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Click(Window, u"cmdDeleteExtraItem"_s);
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Gift"_s});
+        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n1\r\n\"Gift\"\r\n30\r\n" + Trip));
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QVERIFY(!IsCredit());
+        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdDeletePayPeriod cmdAddExtraItem cmdQuit"_s);
+    }
+
+    void DeletingThePayPeriodGoesBackToTheOthers()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Click(Window, u"cmdDeletePayPeriod"_s);
+        QCOMPARE(RowsOf(Window, List), QStringList{u"January 19, 2004"_s});
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Trip));
+        QCOMPARE(TextOf(Window, Heading), QString());
+        QVERIFY(Extras.ExtrasListMode);
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        // The fields and the credit box are emptied or left, but not disabled by this.
+        QCOMPARE(Enabled(Window, Controls),
+                 u"cmdListPayPeriods cmdAddPayPeriod cmdQuit txtExtraItemAmount txtExtraItem chkCredit"_s);
+        QVERIFY(IsCredit());
+    }
+
+    void DeletingTheOnlyPayPeriodLeavesAnEmptyFile()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0, "1\r\n" + Trip);
+        Click(Window, u"cmdDeletePayPeriod"_s);
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(0));
+        QCOMPARE(File(desk), QByteArray("0\r\n"));
+        QCOMPARE(RowsOf(Window, List), QStringList());
+    }
+
+    void ListingAgainLeavesTheItemsAndEmptiesThePanel()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Click(Window, u"cmdListPayPeriods"_s);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(TextOf(Window, Heading), QString());
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QVERIFY(!IsCredit());
+        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdAddPayPeriod cmdQuit txtExtraItemAmount txtExtraItem"_s);
+    }
+
+    void APayPeriodIsPickedInTheScan()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        Click(Window, u"cmdAddPayPeriod"_s);
+        QVERIFY(State.ScanCalledFromExtras);
+        QCOMPARE(ActiveWindow(), u"frmScanPayPeriods"_s);
+        ClickRow(u"frmScanPayPeriods"_s, u"lstScanPayPeriods"_s, 2);
+        QVERIFY(!State.ScanCalledFromExtras);
+        QVERIFY(!IsShown(u"frmScanPayPeriods"_s));
+        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s, u"February 2, 2004"_s}));
+        QCOMPARE(File(desk), QByteArray("3\r\n" + Gift + Trip + "\"02-02-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"));
+
+        ClickRow(Window, List, 2); // its one item cannot be deleted
+        QCOMPARE(RowsOf(Window, List), QStringList{u"New Item"_s});
+        ClickRow(Window, List, 0);
+        QCOMPARE(Texts(Window, Fields), u"$0.00 | New Item"_s);
+        QVERIFY(!IsEnabled(Window, u"cmdDeleteExtraItem"_s));
+    }
+
+    void APayPeriodPickedTwiceStandsTwiceWithTheOlderItems()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        Click(Window, u"cmdAddPayPeriod"_s);
+        ClickRow(u"frmScanPayPeriods"_s, u"lstScanPayPeriods"_s, 1);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(File(desk), QByteArray("3\r\n" + Gift + Trip + Trip));
+    }
+
+    void TheScanFillsTheListOnlyWhileTheWindowIsLoaded()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        QVERIFY(bool(FillPayPeriodList));
+        Click(Window, u"cmdQuit"_s);
+        QVERIFY(!FillPayPeriodList);
+    }
+
+    void EnterGoesRoundTheFieldsAndPressesNothing()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 0);
+        for (const QString &next : {Item, Amount}) {
+            PressEnter(Window, FocusOf(Window));
+            QCOMPARE(FocusOf(Window), next);
+            QCOMPARE(SelectedText(Window, next), TextOf(Window, next));
+        }
+        QCOMPARE(File(desk), TwoPeriods);
+    }
+
+    void AnAccessKeyThatTwoButtonsShareServesTheOneThatIsEnabled()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0); // adding a pay period is disabled here, adding an item is not
+        QTest::keyClick(TheWindows.Loaded(Window), Qt::Key_A, Qt::AltModifier);
+        Settle();
+        QCOMPARE(TextOf(Window, Commit), u"&New"_s);
+        QCOMPARE(FocusOf(Window), Amount);
+    }
+
+    void TheTutorRestsWhileTheWindowIsLoaded()
+    {
+        CommitmentsDesk desk;
+        desk.StartProgram();
+        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
+        Choose(u"mnuFileExtras"_s);
+        QVERIFY(IsShown(Window));
+        QVERIFY(!timer.isActive());
+        Click(Window, u"cmdQuit"_s);
+        QVERIFY(!TheWindows.Loaded(Window));
+        QVERIFY(timer.isActive());
+    }
+};
+
+GUI_TEST_MAIN(gui_frmExtras)
+#include "gui_frmExtras.moc"

@@ -1,0 +1,485 @@
+// The window of the projects, event by event: planning against the forecast's pick, messages, focus, the way to the
+// project's view, and what stands in projects.txt afterwards.
+#include "CommitmentsDesk.h"
+#include "GuiMain.h"
+
+#include <QToolTip>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Window = u"frmProjects"_s;
+const QString ForecastWindow = u"frmSavingsForecast"_s;
+const QString List = u"lstProjects"_s;
+const QString Commit = u"cmdNew"_s;
+const QString Project = u"txtProject"_s;
+const QString Amount = u"txtProjectAmount"_s;
+const QString Date = u"txtProjectCompletionDate"_s;
+const QStringList Fields{Project, Amount, Date};
+const QStringList Buttons_{u"cmdListProjects"_s, u"cmdAddProject"_s, u"cmdDeleteProject"_s, u"cmdQuit"_s};
+const QStringList Controls = Buttons_ + Fields + QStringList{Commit};
+
+const QByteArray Boat = "\"Boat\"\r\n60\r\n2\r\n\"January 1, 2004\"\r\n40\r\n\"January 8, 2004\"\r\n20\r\n";
+const QByteArray Lamp = "\"Lamp\"\r\n25\r\n1\r\n\"January 15, 2004\"\r\n25\r\n";
+
+/// A weekly household of $100.00 that saves $100.00, $50.00 and $100.00 in the first three pay periods of 2004.
+void TakeHousehold(const CommitmentsDesk &desk)
+{
+    State.CurrentPayPeriod = u"January 1, 2004"_s;
+    State.PaycheckAmount = Dollars(100);
+    State.PayFrequency = Weekly;
+    State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    State.ForecastPeriods = 3;
+    desk.WriteFile(u"extra.txt"_s, "1\r\n\"01-08-2004\"\r\n1\r\n\"Gift\"\r\n50\r\n");
+    State.NumberOfExtraPayPeriods = 1;
+    State.ExtraPayPeriods.Redim(1);
+    State.ExtraPayPeriods(1).PayPeriodDate = u"01-08-2004"_s;
+    State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
+    State.ExtraPayPeriods(1).ExtraItems(1) = {u"Gift"_s, Dollars(50)};
+}
+
+void Open(const CommitmentsDesk &desk, const QByteArray &file)
+{
+    TakeHousehold(desk);
+    desk.WriteFile(u"projects.txt"_s, file);
+    Show(Window);
+    Click(Window, u"cmdListProjects"_s);
+}
+
+void Add(const QString &project, const QString &amount)
+{
+    Click(Window, u"cmdAddProject"_s);
+    Type(Window, Project, project);
+    Type(Window, Amount, amount);
+}
+
+void DoubleClickDate()
+{
+    QTest::mouseDClick(&Find(Window, Date), Qt::LeftButton);
+    Settle();
+}
+
+/// Picks a row of the forecast that is open.
+void Pick(int row)
+{
+    auto &grid = Find<Grid>(ForecastWindow, u"grdSavingsForecast"_s);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      grid.visualRect(grid.model()->index(row - 1, 0)).center());
+    Settle();
+}
+
+void PickDate(int row)
+{
+    DoubleClickDate();
+    Pick(row);
+}
+
+QByteArray File(const CommitmentsDesk &desk)
+{
+    return desk.ReadFile(u"projects.txt"_s);
+}
+
+const Message UnknownError{UnknownErrorText, u"Projects"_s, Icon::Warning};
+const Message NotEnough{u"Tallymere did not find enough funds by the selected Completion Date. Double-click on the "
+                        "Completion Date box to select a later completion date which has at least the Project Amount "
+                        "available in the Accumulated column."_s,
+                        u"Projects"_s, Icon::Warning, Buttons::OkHelp, 4};
+
+Message PrintQuestion(const QString &project)
+{
+    return {u"Do you wish to print project "_s + project + u'?', u"Projects"_s, Icon::Question, Buttons::YesNo};
+}
+
+} // namespace
+
+class gui_frmProjects : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheCaptionsAreTheDesigns()
+    {
+        CommitmentsDesk desk;
+        Show(Window);
+        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Projects"_s);
+        QCOMPARE(Texts(Window, Buttons_), u"&List Projects | &Add Project | &Delete Project | &Quit"_s);
+        QCOMPARE(TextOf(Window, u"Frame1"_s), u"Project Information"_s);
+        QCOMPARE(BuddyText(Window, Project), u"Project"_s);
+        QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);
+        QCOMPARE(BuddyText(Window, Date), u"Completion Date"_s);
+        QCOMPARE(TextOf(Window, Commit), u"&New"_s);
+        QCOMPARE(Find(Window, List).toolTip(), u"Double-click on a project to see project detail"_s);
+        QCOMPARE(Find(Window, Date).toolTip(), QString());
+        QCOMPARE(TabOrder(Window), QStringList{List} + Controls);
+    }
+
+    void OpeningOffersTheListAlone()
+    {
+        CommitmentsDesk desk;
+        Show(Window);
+        QCOMPARE(Enabled(Window, Controls), u"cmdListProjects cmdQuit"_s);
+    }
+
+    void ListingReadsTheFileAndLetsAdd()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Boat"_s, u"Lamp"_s}));
+        QCOMPARE(SelectedRow(Window, List), -1);
+        QCOMPARE(Enabled(Window, Controls), u"cmdListProjects cmdAddProject cmdQuit"_s);
+    }
+
+    void AddingStartsAnEmptyEntry()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdAddProject"_s);
+        QCOMPARE(Texts(Window, Fields), u" |  | "_s);
+        QCOMPARE(Enabled(Window, Fields), Fields.join(u' '));
+        QCOMPARE(FocusOf(Window), Project);
+        QVERIFY(!IsEnabled(Window, Commit));
+    }
+
+    void NewIsEnabledWhenAllThreeFieldsHaveText()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(u"B"_s, u"6"_s);
+        QVERIFY(!IsEnabled(Window, Commit));
+        PickDate(2);
+        QVERIFY(IsEnabled(Window, Commit));
+        for (const QString &field : {Project, Amount}) { // deleting the one character of any of them disables it
+            const QString text = TextOf(Window, field);
+            Type(Window, field, {});
+            QVERIFY(!IsEnabled(Window, Commit));
+            Type(Window, field, text);
+            QVERIFY(IsEnabled(Window, Commit));
+        }
+        Find<QLineEdit>(Window, Date).clear(); // as a pick below the last row of the forecast does
+        QVERIFY(!IsEnabled(Window, Commit));
+    }
+
+    void ARowShowsItsProjectAndDoesNotEnableNew()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        ClickRow(Window, List, 0);
+        QCOMPARE(Texts(Window, Fields), u"Boat | $60.00 | January 8, 2004"_s);
+        QCOMPARE(Projects.SelectedProject, qint16(1));
+        QCOMPARE(FocusOf(Window), Project);
+        QCOMPARE(Enabled(Window, Controls),
+                 u"cmdListProjects cmdAddProject cmdDeleteProject cmdQuit txtProject txtProjectAmount "
+                 "txtProjectCompletionDate"_s);
+        Type(Window, Project, u"Ship"_s);
+        QVERIFY(!IsEnabled(Window, Commit)); // a project is viewed and deleted, never edited
+    }
+
+    void TheDateIsPickedInTheForecastAndTheProjectPlanned()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(u"Boat"_s, u"60"_s);
+        DoubleClickDate();
+        QCOMPARE(ActiveWindow(), ForecastWindow);
+        QVERIFY(State.ProjectDateFromForecast);
+        Pick(2);
+        QVERIFY(!TheWindows.Loaded(ForecastWindow));
+        QVERIFY(!State.ProjectDateFromForecast);
+        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(TextOf(Window, Date), u"January 8, 2004"_s);
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat)); // 100 to 50 as the savings are
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Boat"_s});
+        QCOMPARE(Texts(Window, Fields), u"Boat | $60.00 | January 8, 2004"_s);
+        QVERIFY(!IsEnabled(Window, Commit));
+        Type(Window, Project, u"Ship"_s); // the entry is over
+        QVERIFY(!IsEnabled(Window, Commit));
+    }
+
+    void TheFirstRowMakesOneInstallment()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(u"Coat"_s, u"99.99"_s);
+        PickDate(1);
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("1\r\n\"Coat\"\r\n99.99\r\n1\r\n\"January 1, 2004\"\r\n99.99\r\n"));
+    }
+
+    void EqualFundsPass()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(u"All"_s, u"150"_s);
+        PickDate(2);
+        Click(Window, Commit);
+        QCOMPARE(State.NumberOfProjects, qint16(1));
+        QCOMPARE(State.ProjectAmounts(1), Dollars(150));
+    }
+
+    void TooLittleIsToldAndALaterRowSucceeds()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(u"Piano"_s, u"150.01"_s);
+        PickDate(2);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), NotEnough);
+        QCOMPARE(File(desk), QByteArray("0\r\n"));
+        QCOMPARE(Texts(Window, Fields), u"Piano | $150.01 | January 8, 2004"_s);
+        QVERIFY(IsEnabled(Window, Commit));
+        PickDate(3);
+        Click(Window, Commit);
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Piano"_s});
+        QCOMPARE(State.ProjectEntryCounts(1), qint16(3));
+    }
+
+    void AKeyInTheDateOpensTheForecastAndTypesNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<bool>("opens");
+        QTest::newRow("a letter") << int(Qt::Key_J) << u"j"_s << 0 << true;
+        QTest::newRow("a capital letter") << int(Qt::Key_J) << u"J"_s << int(Qt::ShiftModifier) << true;
+        QTest::newRow("a digit") << int(Qt::Key_5) << u"5"_s << 0 << true;
+        QTest::newRow("the space") << int(Qt::Key_Space) << u" "_s << 0 << true;
+        QTest::newRow("Enter") << int(Qt::Key_Return) << u"\r"_s << 0 << true;
+        QTest::newRow("Enter of the keypad") << int(Qt::Key_Enter) << u"\r"_s << 0 << true;
+        QTest::newRow("Backspace") << int(Qt::Key_Backspace) << u"\b"_s << 0 << true;
+        QTest::newRow("Esc") << int(Qt::Key_Escape) << u"\x1b"_s << 0 << true;
+        QTest::newRow("a tab") << int(Qt::Key_Tab) << u"\t"_s << 0 << false;
+        QTest::newRow("an arrow") << int(Qt::Key_Left) << QString() << 0 << false;
+        QTest::newRow("a function key") << int(Qt::Key_F2) << QString() << 0 << false;
+        QTest::newRow("Delete") << int(Qt::Key_Delete) << u"\x7f"_s << 0 << false;
+        QTest::newRow("a key with Ctrl") << int(Qt::Key_V) << u"\x16"_s << int(Qt::ControlModifier) << false;
+        QTest::newRow("the shift key alone") << int(Qt::Key_Shift) << QString() << int(Qt::ShiftModifier) << false;
+    }
+    void AKeyInTheDateOpensTheForecastAndTypesNothing()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, text);
+        QFETCH(int, modifiers);
+        QFETCH(bool, opens);
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        ClickRow(Window, List, 0);
+        auto &date = Find<QLineEdit>(Window, Date);
+        TheWindows.Loaded(Window)->FocusOn(&date);
+        QTest::sendKeyEvent(QTest::Click, &date, Qt::Key(key), text, Qt::KeyboardModifiers(modifiers));
+        Settle();
+        QCOMPARE(date.text(), u"January 8, 2004"_s);
+        QCOMPARE(IsShown(ForecastWindow), opens);
+        QCOMPARE(State.ProjectDateFromForecast, opens);
+    }
+
+    void TheDateTellsHowToPickItWhenTheOthersAreFilled()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Click(Window, u"cmdAddProject"_s);
+        QWidget &date = Find(Window, Date);
+        const auto move = [&] {
+            QMouseEvent moved(QEvent::MouseMove, QPointF(5, 5), date.mapToGlobal(QPointF(5, 5)), Qt::NoButton,
+                              Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&date, &moved);
+        };
+        Type(Window, Project, u"Boat"_s);
+        move();
+        QCOMPARE(date.toolTip(), QString());
+        Type(Window, Amount, u"60"_s);
+        QCOMPARE(date.toolTip(), QString()); // it comes with the mouse
+        move();
+        QCOMPARE(date.toolTip(), u"Double-click to select valid date"_s);
+        Type(Window, Amount, {});
+        move();
+        QCOMPARE(date.toolTip(), u"Double-click to select valid date"_s); // and stays
+    }
+
+    void ADisabledDateDoesNotOpenTheForecast()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        DoubleClickDate();
+        QVERIFY(!IsShown(ForecastWindow));
+    }
+
+    void AnEntryIsRefused_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("focus");
+        const QString amount = u"Please enter a numerical dollar amount in the Project Amount field"_s;
+        const QString project = u"Please enter a project description in the Project field"_s;
+        QTest::newRow("an amount of letters") << u"Boat"_s << u"sixty"_s << amount << Amount;
+        QTest::newRow("the amount comes first") << QString() << u"sixty"_s << amount << Amount;
+        QTest::newRow("no description") << QString() << u"60"_s << project << Project;
+    }
+    void AnEntryIsRefused()
+    {
+        QFETCH(QString, project);
+        QFETCH(QString, amount);
+        QFETCH(QString, text);
+        QFETCH(QString, focus);
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        // A new entry is ready; then a row is looked at, which leaves the button as it is.
+        Add(u"Coat"_s, u"5"_s);
+        PickDate(1);
+        ClickRow(Window, List, 0);
+        QVERIFY(IsEnabled(Window, Commit));
+        Type(Window, Project, project);
+        Type(Window, Amount, amount);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), (Message{text, u"Projects"_s, Icon::Stop, Buttons::OkHelp, 25}));
+        QCOMPARE(FocusOf(Window), focus);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
+    }
+
+    void ARowBeyondTheHundredthIsAnUnknownErrorAndIsNotSaved()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        State.ForecastPeriods = 101;
+        Add(u"Far"_s, u"60"_s);
+        DoubleClickDate();
+        auto &grid = Find<Grid>(ForecastWindow, u"grdSavingsForecast"_s);
+        grid.SetCurrentRow(101);
+        Q_EMIT grid.Click();
+        Settle();
+        QCOMPARE(Forecast.ForecastPickRow, qint16(101));
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(State.NumberOfProjects, qint16(1)); // in memory already
+        QCOMPARE(File(desk), QByteArray("0\r\n"));
+        Click(Window, u"cmdListProjects"_s); // the next reading drops it
+        QCOMPARE(State.NumberOfProjects, qint16(0));
+    }
+
+    void NothingAccumulatedAndNothingWantedIsAnUnknownError()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        State.PaycheckAmount = {};
+        State.NumberOfExtraPayPeriods = 0;
+        Add(u"Nothing"_s, u"0"_s);
+        PickDate(1);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(File(desk), QByteArray("0\r\n"));
+    }
+
+    void DeletingTakesTheRowOutAndClosesThePanel()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Lamp"_s});
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Lamp));
+        QCOMPARE(Texts(Window, Fields), u" |  | "_s);
+        QCOMPARE(Enabled(Window, Controls), u"cmdListProjects cmdAddProject cmdQuit"_s);
+    }
+
+    void DeletingTheOnlyProjectLeavesAnEmptyFile()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(State.NumberOfProjects, qint16(0));
+        QCOMPARE(File(desk), QByteArray("0\r\n"));
+    }
+
+    void DeletingWithoutARowLosesNothing()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdListProjects"_s);
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
+        QVERIFY(!desk.Ended);
+    }
+
+    void ADoubleClickAsksWhetherToPrintAndShowsTheProject_data()
+    {
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<bool>("prints");
+        QTest::newRow("yes") << Answer::Yes << true;
+        QTest::newRow("no") << Answer::No << false;
+    }
+    void ADoubleClickAsksWhetherToPrintAndShowsTheProject()
+    {
+        QFETCH(Answer, answer);
+        QFETCH(bool, prints);
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        State.PrintProjectView = !prints;
+        desk.Answers = {answer};
+        DoubleClickRow(Window, List, 1);
+        QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Lamp"_s));
+        QCOMPARE(desk.Beeps, 1);
+        QCOMPARE(State.PrintProjectView, prints);
+        QCOMPARE(Texts(Window, Fields), u"Lamp | $25.00 | January 15, 2004"_s); // the click comes first
+        QCOMPARE(ActiveWindow(), u"frmViewProject"_s);
+        QCOMPARE(TheWindows.Active()->windowTitle(), u"Lamp"_s);
+        QCOMPARE(desk.Printed.size(), prints ? 1 : 0);
+    }
+
+    void TheKeyboardReachesTheProjectsView()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        desk.Answers = {Answer::No};
+        auto &list = Find<ListBox>(Window, List);
+        TheWindows.Loaded(Window)->FocusOn(&list);
+        QTest::keyClick(&list, Qt::Key_End);
+        QTest::keyClick(&list, Qt::Key_Return, Qt::ControlModifier);
+        Settle();
+        QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Lamp"_s));
+        QCOMPARE(ActiveWindow(), u"frmViewProject"_s);
+    }
+
+    void EnterGoesThroughTheFieldsToTheForecast()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        ClickRow(Window, List, 0);
+        for (const QString &next : {Amount, Date}) {
+            PressEnter(Window, FocusOf(Window));
+            QCOMPARE(FocusOf(Window), next);
+            QCOMPARE(SelectedText(Window, next), TextOf(Window, next));
+        }
+        PressEnter(Window, Date);
+        QCOMPARE(ActiveWindow(), ForecastWindow);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
+    }
+
+    void QuittingUnloads()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        Click(Window, u"cmdQuit"_s);
+        QVERIFY(!TheWindows.Loaded(Window));
+    }
+
+    void TheTutorRestsWhileTheWindowIsLoaded()
+    {
+        CommitmentsDesk desk;
+        desk.StartProgram();
+        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
+        Choose(u"mnuFileProjects"_s);
+        QVERIFY(IsShown(Window));
+        QVERIFY(!timer.isActive());
+        Click(Window, u"cmdQuit"_s);
+        QVERIFY(timer.isActive());
+    }
+};
+
+GUI_TEST_MAIN(gui_frmProjects)
+#include "gui_frmProjects.moc"
