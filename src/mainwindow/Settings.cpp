@@ -97,9 +97,8 @@ const QList<PayFrequencyOption> &PayFrequencyOptions()
 int OptionOfPayFrequency(qint16 frequency)
 {
     const QList<PayFrequencyOption> &options = PayFrequencyOptions();
-    const auto option = std::find_if(options.begin(), options.end(), [&](const PayFrequencyOption &one) {
-        return one.Frequency == frequency;
-    });
+    const auto option = std::find_if(options.begin(), options.end(),
+                                     [&](const PayFrequencyOption &one) { return one.Frequency == frequency; });
     return option == options.end() ? -1 : int(option - options.begin());
 }
 

@@ -94,7 +94,8 @@ bool Meanwhile(const QString &modal, const std::function<void()> &act, const std
 
 bool ChooseFrequencyAndAnswer(int index, const QString &modal, const std::function<void()> &steps = {})
 {
-    return Meanwhile(modal, [&] { Click(Window, u"optPayFrequency%1"_s.arg(index)); }, steps);
+    return Meanwhile(
+        modal, [&] { Click(Window, u"optPayFrequency%1"_s.arg(index)); }, steps);
 }
 
 } // namespace
@@ -196,8 +197,11 @@ private Q_SLOTS:
         TakeHousehold();
         Show(Window);
         QString field = Forecast;
-        for (const auto &[next, text] : {std::pair{Paycheck, u"$1,000.00"_s}, {Tax, u"6.00"_s}, {Net, u"90.00"_s},
-                                         {Forecast, u"26"_s}, {Paycheck, u"$1,000.00"_s}}) {
+        for (const auto &[next, text] : {std::pair{Paycheck, u"$1,000.00"_s},
+                                         {Tax, u"6.00"_s},
+                                         {Net, u"90.00"_s},
+                                         {Forecast, u"26"_s},
+                                         {Paycheck, u"$1,000.00"_s}}) {
             PressEnter(Window, field);
             QCOMPARE(FocusOf(Window), next);
             QCOMPARE(SelectedText(next), text);
@@ -211,7 +215,8 @@ private Q_SLOTS:
         GuiDesk desk;
         TakeHousehold();
         Show(Window);
-        for (const QString &next : {Paycheck, Tax, Net, u"txtStoreFile"_s, u"optPayFrequency1"_s, u"cmdExit"_s, Forecast}) {
+        for (const QString &next :
+             {Paycheck, Tax, Net, u"txtStoreFile"_s, u"optPayFrequency1"_s, u"cmdExit"_s, Forecast}) {
             QTest::keyClick(TheWindows.Loaded(Window)->FocusControl(), Qt::Key_Tab);
             Settle();
             QCOMPARE(FocusOf(Window), next);
@@ -371,8 +376,7 @@ private Q_SLOTS:
         Show(Window);
         Find<QRadioButton>(Window, u"optPayFrequency0"_s).setChecked(true);
         QCOMPARE(State.PayFrequency, Weekly);
-        QVERIFY(Meanwhile(MonthEndWindow,
-                          [] { Find<QRadioButton>(Window, u"optPayFrequency3"_s).setChecked(true); }));
+        QVERIFY(Meanwhile(MonthEndWindow, [] { Find<QRadioButton>(Window, u"optPayFrequency3"_s).setChecked(true); }));
         QCOMPARE(State.PayFrequency, Monthly);
     }
 
@@ -387,8 +391,7 @@ private Q_SLOTS:
         QTest::keyClick(&weekly, Qt::Key_Down);
         QCOMPARE(State.PayFrequency, Biweekly);
         QCOMPARE(FocusOf(Window), u"optPayFrequency1"_s);
-        QVERIFY(Meanwhile(DatesWindow,
-                          [] { QTest::keyClick(&Find(Window, u"optPayFrequency1"_s), Qt::Key_Right); }));
+        QVERIFY(Meanwhile(DatesWindow, [] { QTest::keyClick(&Find(Window, u"optPayFrequency1"_s), Qt::Key_Right); }));
         QCOMPARE(State.PayFrequency, Semimonthly);
         QCOMPARE(FocusOf(Window), Forecast); // the window was activated again
         weekly.setFocus();
@@ -556,8 +559,9 @@ private Q_SLOTS:
         for (const QString &other : {Forecast, Paycheck, Tax, Net})
             Type(Window, other, other == field ? text : u"7"_s);
         Leave(way);
-        QCOMPARE(desk.TakeMessage(),
-                 (Message{UnknownError, way == ExitButton ? u"Environment Settings"_s : u"Creditors"_s, Icon::Warning}));
+        QCOMPARE(
+            desk.TakeMessage(),
+            (Message{UnknownError, way == ExitButton ? u"Environment Settings"_s : u"Creditors"_s, Icon::Warning}));
         // The button's handler ends before it closes the window; the close box goes on closing.
         QCOMPARE(IsShown(Window), way == ExitButton);
         QCOMPARE(State.ForecastPeriods, qint16(stored > 0 ? 7 : 26));

@@ -88,7 +88,8 @@ private Q_SLOTS:
             "Due Date does not contain a valid numeric amount", "txtAverageNetPercentage");
         row("empty is no number", {{}, Good.PaycheckAmount, Good.SalesTax, Good.AverageNetPercentage},
             "Forecast Periods does not contain a valid numeric amount", "txtForecastPeriods");
-        row("a per cent sign is no number", {Good.ForecastPeriods, Good.PaycheckAmount, u"6%"_s, Good.AverageNetPercentage},
+        row("a per cent sign is no number",
+            {Good.ForecastPeriods, Good.PaycheckAmount, u"6%"_s, Good.AverageNetPercentage},
             "Sales Tax does not contain a valid numeric amount", "txtSalesTax");
         row("all: the first is told", {bad, bad, bad, bad}, "Forecast Periods does not contain a valid numeric amount",
             "txtForecastPeriods");

@@ -1,0 +1,172 @@
+// How long a savings forecast takes: the calculation alone, and from the call that shows the window until its rows are
+// painted; for a usual household by the number of periods, and by the number of creditors.
+#include "RecordingDesk.h"
+#include "Windows.h"
+#include "budget/SavingsForecast.h"
+#include "platform/Application.h"
+#include "platform/Grid.h"
+#include "platform/Locale.h"
+#include "platform/WindowRegister.h"
+
+#include <QEvent>
+#include <QPixmap>
+#include <benchmark/benchmark.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int UsualCreditors = 12;
+constexpr int UsualPeriods = 100;
+
+DateText PayDate(int number)
+{
+    return Format(QDate(2004, 1, 1).addDays(14 * number), DateFormat::Dashes);
+}
+
+Currency Dollars(int amount)
+{
+    return Currency::FromTenThousandths(amount * Currency::Unit);
+}
+
+/// Twelve creditors unless told otherwise, eight regular items, six extra pay periods, two projects. The paycheck grows
+/// with the creditors, and every extra pay period ends on a deficit.
+void PutHousehold(int creditors, int periods)
+{
+    ResetState();
+    Forecast = {};
+    State.ForecastPeriods = qint16(periods);
+    State.PaycheckAmount = Dollars(1500 + 100 * creditors);
+    State.PayFrequency = Biweekly;
+    State.CurrentPayPeriod = u"January 1, 2004"_s;
+    State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    State.NumberOfCreditors = qint16(creditors);
+    State.Creditors.Redim(creditors);
+    for (int i = 1; i <= creditors; ++i)
+        State.Creditors(i) = {u"Creditor %1"_s.arg(i), qint16(1 + i % 28), Dollars(100)};
+    State.NumberOfRegulars = 8;
+    State.Regulars.Redim(State.NumberOfRegulars);
+    for (int i = 1; i <= State.NumberOfRegulars; ++i)
+        State.Regulars(i) = {u"Item %1"_s.arg(i), Dollars(60)};
+    State.NumberOfExtraPayPeriods = 6;
+    State.ExtraPayPeriods.Redim(State.NumberOfExtraPayPeriods);
+    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
+        State.ExtraPayPeriods(i).PayPeriodDate = PayDate(3 * i);
+        State.ExtraPayPeriods(i).NumberOfExtraItems = 1;
+        State.ExtraPayPeriods(i).ExtraItems(1) = {u"Extra"_s, State.PaycheckAmount};
+    }
+    State.NumberOfProjects = 2;
+    State.ProjectNames = {u"Boat"_s, u"Roof"_s};
+    State.ProjectAmounts = {Dollars(260), Dollars(1000)};
+    State.ProjectEntryCounts = {26, 100};
+    State.ProjectEntryDates.Redim(2);
+    State.ProjectEntryAmounts.Redim(2);
+    for (int project = 1; project <= 2; ++project) {
+        for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry) {
+            State.ProjectEntryDates(project)(entry) = PayDate(entry - 1);
+            State.ProjectEntryAmounts(project)(entry) = Dollars(10);
+        }
+    }
+}
+
+/// range(0) is the number of periods.
+void Calculation(benchmark::State &benchmark)
+{
+    const RecordingDesk desk;
+    for ([[maybe_unused]] auto pass : benchmark) {
+        benchmark.PauseTiming();
+        PutHousehold(UsualCreditors, int(benchmark.range(0)));
+        State.BudgetPeriodStart = State.CurrentPayPeriod;
+        benchmark.ResumeTiming();
+        ForecastSavings();
+    }
+    benchmark.SetComplexityN(benchmark.range(0));
+}
+BENCHMARK(Calculation)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond)->Complexity(benchmark::oN);
+
+/// range(0) is the number of creditors.
+void CalculationByCreditors(benchmark::State &benchmark)
+{
+    const RecordingDesk desk;
+    for ([[maybe_unused]] auto pass : benchmark) {
+        benchmark.PauseTiming();
+        PutHousehold(int(benchmark.range(0)), UsualPeriods);
+        State.BudgetPeriodStart = State.CurrentPayPeriod;
+        benchmark.ResumeTiming();
+        ForecastSavings();
+    }
+    benchmark.SetComplexityN(benchmark.range(0));
+}
+BENCHMARK(CalculationByCreditors)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity(benchmark::oN);
+
+/// From the showing of the window until its rows are painted.
+void ShowAndPaint(benchmark::State &benchmark, int creditors, int periods, bool again)
+{
+    const RecordingDesk desk;
+    DeclareWindows();
+    const QString window = u"frmSavingsForecast"_s;
+    const auto showAndPaint = [&] {
+        TheWindows.Show(window);
+        QCoreApplication::processEvents(); // the view hears of the new rows
+        TheWindows.Loaded(window)->grab();
+    };
+    for ([[maybe_unused]] auto pass : benchmark) {
+        benchmark.PauseTiming();
+        PutHousehold(creditors, periods);
+        if (again) {
+            TheWindows.Show(u"frmScanPayPeriods"_s);
+            showAndPaint();
+            TheWindows.Show(u"frmScanPayPeriods"_s);
+            QCoreApplication::processEvents();
+        }
+        benchmark.ResumeTiming();
+        showAndPaint();
+        benchmark.PauseTiming();
+        const auto &grid = TheWindows.ControlOf<Grid>(window, u"grdSavingsForecast"_s);
+        if (grid.Text(periods, 0).toInt() != periods)
+            benchmark.SkipWithError("the rows are not there");
+        TheWindows.Unload(window);
+        TheWindows.Unload(u"frmSetCurrentPayPeriod"_s);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        benchmark.ResumeTiming();
+    }
+    TheWindows.Reset();
+}
+
+void Window(benchmark::State &benchmark)
+{
+    ShowAndPaint(benchmark, UsualCreditors, int(benchmark.range(0)), false);
+}
+BENCHMARK(Window)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+/// The window comes back to the front: it fills again, above the rows of before.
+void WindowAgain(benchmark::State &benchmark)
+{
+    ShowAndPaint(benchmark, UsualCreditors, int(benchmark.range(0)), true);
+}
+BENCHMARK(WindowAgain)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void WindowByCreditors(benchmark::State &benchmark)
+{
+    ShowAndPaint(benchmark, int(benchmark.range(0)), UsualPeriods, false);
+}
+BENCHMARK(WindowByCreditors)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
