@@ -5,11 +5,11 @@
 
 #include <optional>
 
-/// The statement's own state: a pay frequency that is none leaves both at their last value. A test puts it back with one
-/// assignment.
+/// The statement's own state: a pay frequency that is none leaves both at their last value. A test puts it back with
+/// one assignment.
 struct OverheadState {
-    Currency MonthlyNetIncome;      ///< the paycheck converted to a month
-    Currency RegularMonthlyAmount;  ///< the regular item under work, converted to a month
+    Currency MonthlyNetIncome;     ///< the paycheck converted to a month
+    Currency RegularMonthlyAmount; ///< the regular item under work, converted to a month
 };
 inline OverheadState Overhead;
 

@@ -11,11 +11,11 @@ frmCreditors::frmCreditors() : ui(std::make_unique<Ui::frmCreditors>())
 {
     ui->setupUi(this);
     TakeControls({.Title = QStringLiteral("Creditors"),
-             .HelpContext = CreditorsHelp,
-             .List = ui->lstCreditors,
-             .Delete = ui->cmdDeleteCreditor,
-             .Commit = ui->cmdAddChangeCreditor,
-             .Fields = {ui->txtCreditorDueDate, ui->txtCreditorAmount, ui->txtCreditor}});
+                  .HelpContext = CreditorsHelp,
+                  .List = ui->lstCreditors,
+                  .Delete = ui->cmdDeleteCreditor,
+                  .Commit = ui->cmdAddChangeCreditor,
+                  .Fields = {ui->txtCreditorDueDate, ui->txtCreditorAmount, ui->txtCreditor}});
     connect(ui->cmdListCreditors, &QPushButton::clicked, this, &frmCreditors::cmdListCreditors_Click);
     connect(ui->cmdAddCreditor, &QPushButton::clicked, this, &frmCreditors::cmdAddCreditor_Click);
     connect(ui->lstCreditors, &ListBox::Click, this, &frmCreditors::lstCreditors_Click);

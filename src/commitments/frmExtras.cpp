@@ -12,11 +12,11 @@ frmExtras::frmExtras() : ui(std::make_unique<Ui::frmExtras>())
 {
     ui->setupUi(this);
     TakeControls({.Title = QStringLiteral("Extras"),
-             .HelpContext = ExtrasHelp,
-             .List = ui->lstExtraItems,
-             .Delete = ui->cmdDeleteExtraItem,
-             .Commit = ui->cmdAddChangeExtraItem,
-             .Fields = {ui->txtExtraItemAmount, ui->txtExtraItem}});
+                  .HelpContext = ExtrasHelp,
+                  .List = ui->lstExtraItems,
+                  .Delete = ui->cmdDeleteExtraItem,
+                  .Commit = ui->cmdAddChangeExtraItem,
+                  .Fields = {ui->txtExtraItemAmount, ui->txtExtraItem}});
     connect(ui->cmdListPayPeriods, &QPushButton::clicked, this, &frmExtras::cmdListPayPeriods_Click);
     connect(ui->cmdAddPayPeriod, &QPushButton::clicked, this, &frmExtras::cmdAddPayPeriod_Click);
     connect(ui->lstExtraItems, &ListBox::Click, this, &frmExtras::lstExtraItems_Click);

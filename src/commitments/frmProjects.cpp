@@ -32,11 +32,11 @@ frmProjects::frmProjects() : ui(std::make_unique<Ui::frmProjects>())
 {
     ui->setupUi(this);
     TakeControls({.Title = QStringLiteral("Projects"),
-             .HelpContext = ProjectsHelp,
-             .List = ui->lstProjects,
-             .Delete = ui->cmdDeleteProject,
-             .Commit = ui->cmdNew,
-             .Fields = {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate}});
+                  .HelpContext = ProjectsHelp,
+                  .List = ui->lstProjects,
+                  .Delete = ui->cmdDeleteProject,
+                  .Commit = ui->cmdNew,
+                  .Fields = {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate}});
     connect(ui->cmdListProjects, &QPushButton::clicked, this, &frmProjects::cmdListProjects_Click);
     connect(ui->cmdAddProject, &QPushButton::clicked, this, &frmProjects::cmdAddProject_Click);
     for (QLineEdit *field : {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate})
@@ -153,7 +153,8 @@ void frmProjects::lstProjects_Click()
     Projects.SelectedProject = ToInteger(SelectedRecord());
     const int project = Projects.SelectedProject;
     const DateText completionDate = State.ProjectEntryDates(project)(State.ProjectEntryCounts(project));
-    SetFields({State.ProjectNames(project), FormatCurrency(State.ProjectAmounts(project)), FormatLongDate(completionDate)});
+    SetFields(
+        {State.ProjectNames(project), FormatCurrency(State.ProjectAmounts(project)), FormatLongDate(completionDate)});
     ui->cmdDeleteProject->setEnabled(true);
     EnableFields(true);
     FocusOn(ui->txtProject);

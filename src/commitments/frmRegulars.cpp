@@ -11,11 +11,11 @@ frmRegulars::frmRegulars() : ui(std::make_unique<Ui::frmRegulars>())
 {
     ui->setupUi(this);
     TakeControls({.Title = QStringLiteral("Regulars"),
-             .HelpContext = RegularsHelp,
-             .List = ui->lstRegulars,
-             .Delete = ui->cmdDeleteRegularItem,
-             .Commit = ui->cmdAddChangeRegularItem,
-             .Fields = {ui->txtRegularAmount, ui->txtRegularItem}});
+                  .HelpContext = RegularsHelp,
+                  .List = ui->lstRegulars,
+                  .Delete = ui->cmdDeleteRegularItem,
+                  .Commit = ui->cmdAddChangeRegularItem,
+                  .Fields = {ui->txtRegularAmount, ui->txtRegularItem}});
     connect(ui->cmdListRegularItems, &QPushButton::clicked, this, &frmRegulars::cmdListRegularItems_Click);
     connect(ui->cmdAddRegularItem, &QPushButton::clicked, this, &frmRegulars::cmdAddRegularItem_Click);
     connect(ui->lstRegulars, &ListBox::Click, this, &frmRegulars::lstRegulars_Click);

@@ -5,7 +5,7 @@
 #include "ui_frmViewProject.h"
 
 namespace {
-constexpr int StartRows = MostProjectEntries + 2; // the heading, every entry, and one below the last
+constexpr int StartRows = 2; // the heading and one row; every installment brings its own
 constexpr int DateTwips = 1750;
 constexpr int AmountTwips = 1447;
 

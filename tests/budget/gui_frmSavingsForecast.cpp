@@ -58,20 +58,9 @@ class Other : public Form
 {
 };
 
-/// Stands in for the projects window: the field that the pick fills.
-class Projects : public Form
-{
-public:
-    Projects() : m_date(new QLineEdit(this)) { m_date->setObjectName(u"txtProjectCompletionDate"_s); }
-
-private:
-    QLineEdit *m_date;
-};
-
-/// The projects window asks for a date: it is shown, its flag is up, and the forecast is open above it.
+/// The projects window has asked for a date: its flag is up, and the forecast is open above it.
 void OpenForPick()
 {
-    TheWindows.Declare(u"frmProjects"_s, [] { return new Projects; });
     Show(u"frmProjects"_s);
     State.ProjectDateFromForecast = true;
     Show(Window);
@@ -130,7 +119,8 @@ private Q_SLOTS:
         GuiDesk desk;
         TakeHousehold(3, {500, 1100});
         Show(Window);
-        QCOMPARE(Rows(), (QStringList{u"1 | January 1, 2004 | $200.00 | $200.00"_s, u"2 | January 15, 2004 | $200.00 | $400.00"_s,
+        QCOMPARE(Rows(), (QStringList{u"1 | January 1, 2004 | $200.00 | $200.00"_s,
+                                      u"2 | January 15, 2004 | $200.00 | $400.00"_s,
                                       u"3 | January 29, 2004 | $1,000.00 | $1,400.00"_s}));
         QCOMPARE(State.BudgetPeriodStart.Text(), u"2/12/2004"_s);
         QVERIFY(!State.ForecastMode);
@@ -151,10 +141,10 @@ private Q_SLOTS:
         GuiDesk desk;
         TakeHousehold(4, {0, 0, 3500});
         Show(Window);
-        QCOMPARE(Rows(),
-                 (QStringList{u"1 | January 1, 2004 | $1,000.00 | $1,000.00"_s, u"2 | January 15, 2004 | ($750.00) | $250.00"_s,
-                              u"3 | January 29, 2004 | ($750.00) | ($500.00)"_s,
-                              u"4 | February 12, 2004 | $1,000.00 | $500.00"_s}));
+        QCOMPARE(Rows(), (QStringList{u"1 | January 1, 2004 | $1,000.00 | $1,000.00"_s,
+                                      u"2 | January 15, 2004 | ($750.00) | $250.00"_s,
+                                      u"3 | January 29, 2004 | ($750.00) | ($500.00)"_s,
+                                      u"4 | February 12, 2004 | $1,000.00 | $500.00"_s}));
         const Grid &grid = TheGrid();
         for (int row = 0; row <= 5; ++row) {
             QCOMPARE(grid.Colour(row, 0), GridColour::Text);
@@ -298,7 +288,8 @@ private Q_SLOTS:
         TakeHousehold(2);
         OpenForPick();
         ClickGridRow(0);
-        QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '9':\n\nSubscript out of range"_s, AppTitle, Icon::Stop}));
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Run-time error '9':\n\nSubscript out of range"_s, AppTitle, Icon::Stop}));
         QVERIFY(desk.Ended);
     }
 
@@ -417,7 +408,8 @@ private Q_SLOTS:
         desk.Answers = {Answer::No};
         Click(u"frmMain"_s, u"Toolbar1Button7"_s);
         desk.TakeMessage();
-        QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '9':\n\nSubscript out of range"_s, AppTitle, Icon::Stop}));
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Run-time error '9':\n\nSubscript out of range"_s, AppTitle, Icon::Stop}));
         QVERIFY(desk.Ended);
     }
 

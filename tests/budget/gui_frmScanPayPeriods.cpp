@@ -22,23 +22,9 @@ class Other : public Form
 {
 };
 
-/// Stands in for the extras window: counts how often its list of pay periods is filled.
-class ExtrasWindow : public Form
-{
-public:
-    static inline int Fills = 0;
-    void Load() override
-    {
-        FillPayPeriodList = [] { ++Fills; };
-    }
-    void Unload() override { FillPayPeriodList = nullptr; }
-};
-
 /// The extras window adds a pay period: it is shown, its flag is up, and the scan is open above it.
 void OpenForExtras()
 {
-    ExtrasWindow::Fills = 0;
-    TheWindows.Declare(u"frmExtras"_s, [] { return new ExtrasWindow; });
     Show(u"frmExtras"_s);
     State.ScanCalledFromExtras = true;
     Show(Window);
@@ -117,11 +103,12 @@ private Q_SLOTS:
         OpenForExtras();
         ClickRow(Window, List, 2);
         QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("2\r\n\"01-29-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"
-                                                          "\"02-12-2004\"\r\n1\r\n\"Tires\"\r\n80.5\r\n"));
+                                                           "\"02-12-2004\"\r\n1\r\n\"Tires\"\r\n80.5\r\n"));
         QCOMPARE(State.NumberOfExtraPayPeriods, qint16(2));
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItem, u"New Item"_s);
         QVERIFY(!State.ScanCalledFromExtras);
-        QCOMPARE(ExtrasWindow::Fills, 1);
+        QCOMPARE(RowsOf(u"frmExtras"_s, u"lstExtraItems"_s),
+                 (QStringList{u"January 29, 2004"_s, u"February 12, 2004"_s}));
         QVERIFY(TheWindows.Loaded(Window)); // hidden and not unloaded
         QVERIFY(!IsShown(Window));
         QCOMPARE(ActiveWindow(), u"frmExtras"_s);
@@ -154,7 +141,7 @@ private Q_SLOTS:
         OpenForExtras();
         ClickRow(Window, List, 1);
         QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("2\r\n\"01-15-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n"
-                                                          "\"01-15-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n"));
+                                                           "\"01-15-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n"));
     }
 
     void TheArrowsOnlyMoveAndEnterOrSpacePicks_data()
@@ -191,7 +178,7 @@ private Q_SLOTS:
         TheWindows.Unload(u"frmExtras"_s);
         ClickRow(Window, List, 1);
         QCOMPARE(State.NumberOfExtraPayPeriods, qint16(1));
-        QCOMPARE(ExtrasWindow::Fills, 1);
+        QCOMPARE(RowsOf(u"frmExtras"_s, u"lstExtraItems"_s), QStringList{u"January 15, 2004"_s});
         QVERIFY(TheWindows.Loaded(u"frmExtras"_s));
         QVERIFY(!IsShown(u"frmExtras"_s));
     }

@@ -37,8 +37,8 @@ QStringList Rows()
 {
     QStringList told;
     for (const DatedRow &row : ForecastRows())
-        told += row.Date + u" | "_s + row.Amount + (row.AmountIsRed ? u" red"_s : QString()) + u" | "_s + row.Accumulated +
-                (row.AccumulatedIsRed ? u" red"_s : QString());
+        told += row.Date + u" | "_s + row.Amount + (row.AmountIsRed ? u" red"_s : QString()) + u" | "_s +
+                row.Accumulated + (row.AccumulatedIsRed ? u" red"_s : QString());
     return told;
 }
 
@@ -70,13 +70,13 @@ private Q_SLOTS:
                            u"January 15, 2004 | $50.00 | ($150.00) red"_s, u"January 29, 2004 | $1,000.00 | $850.00"_s};
         QTest::newRow("red savings above a total that is still positive")
             << 4 << QList<double>{0, 0, 3500}
-            << QStringList{u"January 1, 2004 | $1,000.00 | $1,000.00"_s, u"January 15, 2004 | ($750.00) red | $250.00"_s,
-                           u"January 29, 2004 | ($750.00) red | ($500.00) red"_s,
-                           u"February 12, 2004 | $1,000.00 | $500.00"_s};
+            << QStringList{
+                   u"January 1, 2004 | $1,000.00 | $1,000.00"_s, u"January 15, 2004 | ($750.00) red | $250.00"_s,
+                   u"January 29, 2004 | ($750.00) red | ($500.00) red"_s, u"February 12, 2004 | $1,000.00 | $500.00"_s};
         QTest::newRow("below half a cent is no red: the text decides")
             << 1 << QList<double>{1000.0049} << QStringList{u"January 1, 2004 | $0.00 | $0.00"_s};
-        QTest::newRow("half a cent is red") << 1 << QList<double>{1000.005}
-                                            << QStringList{u"January 1, 2004 | ($0.01) red | ($0.01) red"_s};
+        QTest::newRow("half a cent is red")
+            << 1 << QList<double>{1000.005} << QStringList{u"January 1, 2004 | ($0.01) red | ($0.01) red"_s};
         QTest::newRow("no period, no row") << 0 << QList<double>{} << QStringList{};
         QTest::newRow("a negative number of periods, no row") << -1 << QList<double>{} << QStringList{};
     }

@@ -30,7 +30,8 @@ QStringList PayPeriods()
 {
     QStringList told;
     for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i)
-        told += State.ExtraPayPeriods(i).PayPeriodDate.Text() + u" | "_s + State.ExtraPayPeriods(i).ExtraItems(1).ExtraItem;
+        told +=
+            State.ExtraPayPeriods(i).PayPeriodDate.Text() + u" | "_s + State.ExtraPayPeriods(i).ExtraItems(1).ExtraItem;
     return told;
 }
 
@@ -53,17 +54,18 @@ private Q_SLOTS:
                                 << QStringList{u"12-24-2003"_s, u"12/31/2003"_s, u"1/7/2004"_s, u"1/14/2004"_s};
         QTest::newRow("biweekly") << u"December 24, 2003"_s << 14 << 0 << 0 << 0
                                   << QStringList{u"December 24, 2003"_s, u"1/7/2004"_s, u"1/21/2004"_s, u"2/4/2004"_s};
-        QTest::newRow("semimonthly, two a month") << u"12-15-2003"_s << 15 << 1 << 15 << 0
-                                                  << QStringList{u"12-15-2003"_s, u"1/1/2004"_s, u"1/15/2004"_s, u"2/1/2004"_s};
-        QTest::newRow("semimonthly to the month's end") << u"01-15-2004"_s << 15 << 15 << 0 << 0
-                                                        << QStringList{u"01-15-2004"_s, u"1/31/2004"_s, u"2/15/2004"_s,
-                                                                       u"2/29/2004"_s};
-        QTest::newRow("monthly, clamped for good") << u"01-31-2004"_s << 30 << 0 << 0 << 0
-                                                   << QStringList{u"01-31-2004"_s, u"2/29/2004"_s, u"3/29/2004"_s,
-                                                                  u"4/29/2004"_s};
-        QTest::newRow("monthly on the last day") << u"01-15-2004"_s << 30 << 0 << 0 << -1
-                                                 << QStringList{u"01-15-2004"_s, u"2/29/2004"_s, u"3/31/2004"_s,
-                                                                u"4/30/2004"_s};
+        QTest::newRow("semimonthly, two a month")
+            << u"12-15-2003"_s << 15 << 1 << 15 << 0
+            << QStringList{u"12-15-2003"_s, u"1/1/2004"_s, u"1/15/2004"_s, u"2/1/2004"_s};
+        QTest::newRow("semimonthly to the month's end")
+            << u"01-15-2004"_s << 15 << 15 << 0 << 0
+            << QStringList{u"01-15-2004"_s, u"1/31/2004"_s, u"2/15/2004"_s, u"2/29/2004"_s};
+        QTest::newRow("monthly, clamped for good")
+            << u"01-31-2004"_s << 30 << 0 << 0 << 0
+            << QStringList{u"01-31-2004"_s, u"2/29/2004"_s, u"3/29/2004"_s, u"4/29/2004"_s};
+        QTest::newRow("monthly on the last day")
+            << u"01-15-2004"_s << 30 << 0 << 0 << -1
+            << QStringList{u"01-15-2004"_s, u"2/29/2004"_s, u"3/31/2004"_s, u"4/30/2004"_s};
         QTest::newRow("a frequency that is none has no dates ahead")
             << u"01-15-2004"_s << 21 << 0 << 0 << 0 << QStringList{u"01-15-2004"_s, QString(), QString(), QString()};
     }
@@ -156,11 +158,12 @@ private Q_SLOTS:
             << QStringList{u"10/1/2004"_s, u"9/1/2004"_s, u"December 31, 2003"_s}
             << QStringList{u"December 31, 2003 | Item 3"_s, u"9/1/2004 | Item 2"_s, u"10/1/2004 | Item 1"_s};
         QTest::newRow("of two with the same date the first stands twice")
-            << QStringList{u"2/1/2004"_s, u"02-01-2004"_s} << QStringList{u"2/1/2004 | Item 1"_s, u"2/1/2004 | Item 1"_s};
+            << QStringList{u"2/1/2004"_s, u"02-01-2004"_s}
+            << QStringList{u"2/1/2004 | Item 1"_s, u"2/1/2004 | Item 1"_s};
         QTest::newRow("of three with the same date the first stands three times")
             << QStringList{u"3/1/2004"_s, u"2/1/2004"_s, u"1/1/2004"_s, u"2/1/2004"_s, u"2/1/2004"_s}
-            << QStringList{u"1/1/2004 | Item 3"_s, u"2/1/2004 | Item 2"_s, u"2/1/2004 | Item 2"_s, u"2/1/2004 | Item 2"_s,
-                           u"3/1/2004 | Item 1"_s};
+            << QStringList{u"1/1/2004 | Item 3"_s, u"2/1/2004 | Item 2"_s, u"2/1/2004 | Item 2"_s,
+                           u"2/1/2004 | Item 2"_s, u"3/1/2004 | Item 1"_s};
     }
     void Sort()
     {

@@ -4,8 +4,8 @@
 
 #include "GuiDesk.h"
 
-#include "budget/ScanPayPeriods.h"
 #include "budget/SavingsForecast.h"
+#include "budget/ScanPayPeriods.h"
 #include "commitments/Extras.h"
 #include "commitments/Projects.h"
 

@@ -10,8 +10,8 @@ const QString Window = u"frmCreditors"_s;
 const QString List = u"lstCreditors"_s;
 const QString Commit = u"cmdAddChangeCreditor"_s;
 const QStringList Fields{u"txtCreditorDueDate"_s, u"txtCreditorAmount"_s, u"txtCreditor"_s};
-const QStringList Buttons_{u"cmdListCreditors"_s, u"cmdAddCreditor"_s, u"cmdDeleteCreditor"_s, u"cmdQuit"_s};
-const QStringList Controls = Buttons_ + Fields + QStringList{Commit};
+const QStringList ListButtons{u"cmdListCreditors"_s, u"cmdAddCreditor"_s, u"cmdDeleteCreditor"_s, u"cmdQuit"_s};
+const QStringList Controls = ListButtons + Fields + QStringList{Commit};
 
 const QByteArray TwoCreditors = "2\r\n5\r\n\"Rent\"\r\n700\r\n20\r\n\"Phone\"\r\n40.5\r\n";
 
@@ -49,7 +49,7 @@ private Q_SLOTS:
         CommitmentsDesk desk;
         Show(Window);
         QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Creditors"_s);
-        QCOMPARE(Texts(Window, Buttons_), u"&List Creditors | &Add Creditor | &Delete Creditor | &Quit"_s);
+        QCOMPARE(Texts(Window, ListButtons), u"&List Creditors | &Add Creditor | &Delete Creditor | &Quit"_s);
         QCOMPARE(TextOf(Window, u"Frame1"_s), u"Creditor Information"_s);
         QCOMPARE(BuddyText(Window, Fields[0]), u"Due Date"_s);
         QCOMPARE(BuddyText(Window, Fields[1]), u"Amount"_s);
@@ -149,7 +149,8 @@ private Q_SLOTS:
         Enter(u"12"_s, u"1,250.5"_s, u"Car"_s);
         Click(Window, Commit);
         QCOMPARE(RowsOf(Window, List), (QStringList{u"Rent"_s, u"Car"_s, u"Phone"_s}));
-        QCOMPARE(File(desk), QByteArray("3\r\n5\r\n\"Rent\"\r\n700\r\n12\r\n\"Car\"\r\n1250.5\r\n20\r\n\"Phone\"\r\n40.5\r\n"));
+        QCOMPARE(File(desk),
+                 QByteArray("3\r\n5\r\n\"Rent\"\r\n700\r\n12\r\n\"Car\"\r\n1250.5\r\n20\r\n\"Phone\"\r\n40.5\r\n"));
         QCOMPARE(State.Creditors(2), (CreditorRecord{u"Car"_s, 12, Dollars(1250.5)}));
         QCOMPARE(SelectedRow(Window, List), -1);
     }
@@ -220,10 +221,11 @@ private Q_SLOTS:
         CommitmentsDesk desk;
         Open(desk);
         Click(Window, u"cmdAddCreditor"_s);
-        Enter(u"7"_s, u"70"_s, u"Water"_s);
+        Enter(u"7.0"_s, u"70"_s, u"Water"_s);
         Find<QAbstractButton>(Window, Commit).setText(u"New"_s); // without its access key it is no mode
         Click(Window, Commit);
         QCOMPARE(File(desk), TwoCreditors);
+        // What was typed is put in its normal form all the same.
         QCOMPARE(Texts(Window, Fields), u"7 | $70.00 | Water"_s);
     }
 

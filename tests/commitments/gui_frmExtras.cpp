@@ -1,5 +1,5 @@
-// The window of the extra items, event by event: the two levels of its list, the credit box, the pick of a pay period in
-// the scan, messages, focus, and what stands in extra.txt afterwards.
+// The window of the extra items, event by event: the two levels of its list, the credit box, the pick of a pay period
+// in the scan, messages, focus, and what stands in extra.txt afterwards.
 #include "CommitmentsDesk.h"
 #include "GuiMain.h"
 
@@ -15,9 +15,9 @@ const QString Amount = u"txtExtraItemAmount"_s;
 const QString Item = u"txtExtraItem"_s;
 const QString Credit = u"chkCredit"_s;
 const QStringList Fields{Amount, Item};
-const QStringList Buttons_{u"cmdListPayPeriods"_s, u"cmdAddPayPeriod"_s,    u"cmdDeletePayPeriod"_s,
-                           u"cmdAddExtraItem"_s,   u"cmdDeleteExtraItem"_s, u"cmdQuit"_s};
-const QStringList Controls = Buttons_ + Fields + QStringList{Credit, Commit};
+const QStringList ListButtons{u"cmdListPayPeriods"_s, u"cmdAddPayPeriod"_s,    u"cmdDeletePayPeriod"_s,
+                              u"cmdAddExtraItem"_s,   u"cmdDeleteExtraItem"_s, u"cmdQuit"_s};
+const QStringList Controls = ListButtons + Fields + QStringList{Credit, Commit};
 
 const QByteArray Gift = "\"01-05-2004\"\r\n2\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n";
 const QByteArray Trip = "\"01-19-2004\"\r\n1\r\n\"Trip\"\r\n200\r\n";
@@ -78,8 +78,9 @@ private Q_SLOTS:
         CommitmentsDesk desk;
         Show(Window);
         QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Extras"_s);
-        QCOMPARE(Texts(Window, Buttons_), u"&List Pay Periods | &Add Pay Period | &Delete Pay Period | &Add Extra Item | "
-                                          "&Delete Extra Item | &Quit"_s);
+        QCOMPARE(Texts(Window, ListButtons),
+                 u"&List Pay Periods | &Add Pay Period | &Delete Pay Period | &Add Extra Item | "
+                 "&Delete Extra Item | &Quit"_s);
         QCOMPARE(TextOf(Window, u"Frame1"_s), u"Extra Items Information"_s);
         QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);
         QCOMPARE(BuddyText(Window, Item), u"Item"_s);
@@ -180,12 +181,16 @@ private Q_SLOTS:
         QCOMPARE(Texts(Window, Fields), u" | "_s);
         QCOMPARE(TextOf(Window, Commit), u"&New"_s);
         QCOMPARE(FocusOf(Window), Amount);
-        QCOMPARE(Enabled(Window, Fields + QStringList{Credit, Commit}), (Fields + QStringList{Credit, Commit}).join(u' '));
+        QCOMPARE(Enabled(Window, Fields + QStringList{Credit, Commit}),
+                 (Fields + QStringList{Credit, Commit}).join(u' '));
         Enter(u"0"_s, u"Flowers"_s); // an amount of 0 is an ordinary item
         Click(Window, Commit);
         QCOMPARE(RowsOf(Window, List), (QStringList{u"Gift"_s, u"Refund"_s, u"Flowers"_s}));
         QCOMPARE(TextOf(Window, Amount), u"$0.00"_s);
-        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n3\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n\"Flowers\"\r\n0\r\n" + Trip));
+        QCOMPARE(
+            File(desk),
+            QByteArray("2\r\n\"01-05-2004\"\r\n3\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n\"Flowers\"\r\n0\r\n" +
+                       Trip));
         QCOMPARE(TextOf(Window, Heading), u"January 5, 2004"_s);
         QVERIFY(IsEnabled(Window, Commit));
         QCOMPARE(SelectedRow(Window, List), -1);
@@ -199,7 +204,8 @@ private Q_SLOTS:
         Enter(u"31.25"_s, u"Present"_s);
         Click(Window, Commit);
         QCOMPARE(RowsOf(Window, List), (QStringList{u"Present"_s, u"Refund"_s}));
-        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n2\r\n\"Present\"\r\n31.25\r\n\"Refund\"\r\n-12.5\r\n" + Trip));
+        QCOMPARE(File(desk),
+                 QByteArray("2\r\n\"01-05-2004\"\r\n2\r\n\"Present\"\r\n31.25\r\n\"Refund\"\r\n-12.5\r\n" + Trip));
     }
 
     void TheCreditBoxTurnsTheAmountAround()
@@ -214,7 +220,10 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, Amount), u"$12.50"_s);
         Click(Window, Credit);
         Click(Window, Commit);
-        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n3\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n\"Sale\"\r\n-12.5\r\n" + Trip));
+        QCOMPARE(
+            File(desk),
+            QByteArray("2\r\n\"01-05-2004\"\r\n3\r\n\"Gift\"\r\n30\r\n\"Refund\"\r\n-12.5\r\n\"Sale\"\r\n-12.5\r\n" +
+                       Trip));
     }
 
     void TheCreditBoxLeavesWhatIsNoAmountAlone_data()
@@ -381,7 +390,8 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, Heading), QString());
         QCOMPARE(Texts(Window, Fields), u" | "_s);
         QVERIFY(!IsCredit());
-        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdAddPayPeriod cmdQuit txtExtraItemAmount txtExtraItem"_s);
+        QCOMPARE(Enabled(Window, Controls),
+                 u"cmdListPayPeriods cmdAddPayPeriod cmdQuit txtExtraItemAmount txtExtraItem"_s);
     }
 
     void APayPeriodIsPickedInTheScan()
@@ -395,7 +405,8 @@ private Q_SLOTS:
         QVERIFY(!State.ScanCalledFromExtras);
         QVERIFY(!IsShown(u"frmScanPayPeriods"_s));
         QCOMPARE(ActiveWindow(), Window);
-        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s, u"February 2, 2004"_s}));
+        QCOMPARE(RowsOf(Window, List),
+                 (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s, u"February 2, 2004"_s}));
         QCOMPARE(File(desk), QByteArray("3\r\n" + Gift + Trip + "\"02-02-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"));
 
         ClickRow(Window, List, 2); // its one item cannot be deleted
@@ -411,7 +422,8 @@ private Q_SLOTS:
         Open(desk);
         Click(Window, u"cmdAddPayPeriod"_s);
         ClickRow(u"frmScanPayPeriods"_s, u"lstScanPayPeriods"_s, 1);
-        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(RowsOf(Window, List),
+                 (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s, u"January 19, 2004"_s}));
         QCOMPARE(File(desk), QByteArray("3\r\n" + Gift + Trip + Trip));
     }
 

@@ -17,8 +17,8 @@ const QString Project = u"txtProject"_s;
 const QString Amount = u"txtProjectAmount"_s;
 const QString Date = u"txtProjectCompletionDate"_s;
 const QStringList Fields{Project, Amount, Date};
-const QStringList Buttons_{u"cmdListProjects"_s, u"cmdAddProject"_s, u"cmdDeleteProject"_s, u"cmdQuit"_s};
-const QStringList Controls = Buttons_ + Fields + QStringList{Commit};
+const QStringList ListButtons{u"cmdListProjects"_s, u"cmdAddProject"_s, u"cmdDeleteProject"_s, u"cmdQuit"_s};
+const QStringList Controls = ListButtons + Fields + QStringList{Commit};
 
 const QByteArray Boat = "\"Boat\"\r\n60\r\n2\r\n\"January 1, 2004\"\r\n40\r\n\"January 8, 2004\"\r\n20\r\n";
 const QByteArray Lamp = "\"Lamp\"\r\n25\r\n1\r\n\"January 15, 2004\"\r\n25\r\n";
@@ -103,7 +103,7 @@ private Q_SLOTS:
         CommitmentsDesk desk;
         Show(Window);
         QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Projects"_s);
-        QCOMPARE(Texts(Window, Buttons_), u"&List Projects | &Add Project | &Delete Project | &Quit"_s);
+        QCOMPARE(Texts(Window, ListButtons), u"&List Projects | &Add Project | &Delete Project | &Quit"_s);
         QCOMPARE(TextOf(Window, u"Frame1"_s), u"Project Information"_s);
         QCOMPARE(BuddyText(Window, Project), u"Project"_s);
         QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);

@@ -1,4 +1,5 @@
-// The window of the regular items, event by event: controls, messages, focus, and what stands in regulars.txt afterwards.
+// The window of the regular items, event by event: controls, messages, focus, and what stands in regulars.txt
+// afterwards.
 #include "CommitmentsDesk.h"
 #include "GuiMain.h"
 
@@ -12,8 +13,9 @@ const QString Commit = u"cmdAddChangeRegularItem"_s;
 const QString Amount = u"txtRegularAmount"_s;
 const QString Item = u"txtRegularItem"_s;
 const QStringList Fields{Amount, Item};
-const QStringList Buttons_{u"cmdListRegularItems"_s, u"cmdAddRegularItem"_s, u"cmdDeleteRegularItem"_s, u"cmdQuit"_s};
-const QStringList Controls = Buttons_ + Fields + QStringList{Commit};
+const QStringList ListButtons{u"cmdListRegularItems"_s, u"cmdAddRegularItem"_s, u"cmdDeleteRegularItem"_s,
+                              u"cmdQuit"_s};
+const QStringList Controls = ListButtons + Fields + QStringList{Commit};
 
 const QByteArray TwoItems = "2\r\n\"Groceries\"\r\n120\r\n\"Bus\"\r\n15.25\r\n";
 
@@ -49,7 +51,8 @@ private Q_SLOTS:
         CommitmentsDesk desk;
         Show(Window);
         QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Regulars"_s);
-        QCOMPARE(Texts(Window, Buttons_), u"&List Regular Items | &Add Regular Items | &Delete Regular Items | &Quit"_s);
+        QCOMPARE(Texts(Window, ListButtons),
+                 u"&List Regular Items | &Add Regular Items | &Delete Regular Items | &Quit"_s);
         QCOMPARE(TextOf(Window, u"Frame1"_s), u"Regular Items Information"_s);
         QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);
         QCOMPARE(BuddyText(Window, Item), u"Item"_s);

@@ -63,9 +63,9 @@ private Q_SLOTS:
         TakeProject(u"Boat"_s, {40, 20});
         Show(Window);
         QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Boat"_s);
-        QCOMPARE(GridRows(Window, GridName), (QStringList{u"Pay Period | Installment | Accumulated"_s,
-                                                          u"January 1, 2004 | $40.00 | $40.00"_s,
-                                                          u"January 2, 2004 | $20.00 | $60.00"_s}));
+        QCOMPARE(GridRows(Window, GridName),
+                 (QStringList{u"Pay Period | Installment | Accumulated"_s, u"January 1, 2004 | $40.00 | $40.00"_s,
+                              u"January 2, 2004 | $20.00 | $60.00"_s}));
         const Grid &grid = TheGrid();
         QCOMPARE(grid.Columns(), 3);
         QCOMPARE(grid.ColumnWidth(0), 1750);
@@ -164,7 +164,7 @@ private Q_SLOTS:
                               u"    January 2, 2004                   ($20.00)                      $20.00"_s}));
         QVERIFY(State.PrintProjectView);
         LeaveAndComeBack();
-        QCOMPARE(desk.Printed.size(), 2); // another copy
+        QCOMPARE(desk.Printed.size(), 2);                       // another copy
         QCOMPARE(desk.Printed[1].Lines, desk.Printed[0].Lines); // the total starts again at 0
         State.PrintProjectView = false;
         LeaveAndComeBack();

@@ -112,11 +112,14 @@ private Q_SLOTS:
         QTest::addColumn<QList<double>>("savings");
         QTest::addColumn<double>("amount");
         QTest::addColumn<QList<double>>("installments");
-        QTest::newRow("in proportion") << QList<double>{100, 200, 300, 600} << 600.0 << QList<double>{50, 100, 150, 300};
-        QTest::newRow("twice the savings, twice the installment") << QList<double>{100, 50} << 60.0 << QList<double>{40, 20};
+        QTest::newRow("in proportion") << QList<double>{100, 200, 300, 600} << 600.0
+                                       << QList<double>{50, 100, 150, 300};
+        QTest::newRow("twice the savings, twice the installment")
+            << QList<double>{100, 50} << 60.0 << QList<double>{40, 20};
         QTest::newRow("one row is the whole amount") << QList<double>{130} << 99.99 << QList<double>{99.99};
         QTest::newRow("a row of deficit") << QList<double>{100, -50, 150} << 100.0 << QList<double>{50, -25, 75};
-        QTest::newRow("rounded to the ten-thousandth") << QList<double>{1, 1, 1} << 1.0 << QList<double>{0.3333, 0.3333, 0.3333};
+        QTest::newRow("rounded to the ten-thousandth")
+            << QList<double>{1, 1, 1} << 1.0 << QList<double>{0.3333, 0.3333, 0.3333};
         QTest::newRow("from amounts of two decimals") << QList<double>{0.004, 1} << 1.0 << QList<double>{0, 1};
     }
     void Installments()
