@@ -29,11 +29,13 @@ lay_program() {
 
 # The help texts and pictures that FOLDER lacks; what is there stays, as users may have their own tips.
 lay_help() {
-    local folder=$1 file
-    mkdir -p "$folder/help"
+    local folder=$1 file help
+    help=$(find "$folder" -maxdepth 1 -type d -iname help -print -quit)
+    help=${help:-$folder/help}
+    mkdir -p "$help"
     is_there "$folder" TIPOFDAY.TXT || cp household/TIPOFDAY.TXT "$folder/"
     for file in household/help/*; do
-        is_there "$folder/help" "$(basename "$file")" || cp -r "$file" "$folder/help/"
+        is_there "$help" "$(basename "$file")" || cp -r "$file" "$help/"
     done
 }
 
@@ -47,9 +49,14 @@ lay_household() {
     fi
     mkdir -p "$folder/stores"
     is_there "$folder/stores" untitled.lst || cp household/stores/untitled.lst "$folder/stores/"
+    # All of it first lies in a folder beside; what is interrupted before the moves counts as nothing.
+    rm -rf "$folder/.household.new"
+    mkdir "$folder/.household.new"
     for file in "${data_files[@]}"; do
-        cp "household/$file" "$folder/"
+        cp "household/$file" "$folder/.household.new/"
     done
+    mv "$folder/.household.new"/* "$folder/"
+    rmdir "$folder/.household.new"
     say "A fresh household is in $folder"
 }
 

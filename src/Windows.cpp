@@ -9,6 +9,7 @@
 #include "commitments/frmProjects.h"
 #include "commitments/frmRegulars.h"
 #include "commitments/frmViewProject.h"
+#include "foundation/Options.h"
 #include "foundation/frmSplash.h"
 #include "mainwindow/frmEnvironmentSettings.h"
 #include "mainwindow/frmMain.h"
@@ -44,4 +45,10 @@ void DeclareWindows()
     Declare<frmExtras>("frmExtras");
     Declare<frmProjects>("frmProjects");
     Declare<frmViewProject>("frmViewProject");
+}
+
+QString FirstWindow()
+{
+    const QString welcome = QStringLiteral("frmWelcome");
+    return OptionValue(ShowWelcome) == 1 && TheWindows.Knows(welcome) ? welcome : QStringLiteral("frmSplash");
 }

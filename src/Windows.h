@@ -1,4 +1,9 @@
-// The list of all windows: what the program declares to the register, in one place.
+// The list of all windows: what the program declares to the register, in one place, and which of them comes first.
 #pragma once
 
+#include <QString>
+
 void DeclareWindows();
+
+/// The welcome window while its option is 1, else the splash; the splash as long as there is no welcome window.
+QString FirstWindow();

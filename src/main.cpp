@@ -1,9 +1,10 @@
 #include "Windows.h"
-#include "foundation/Options.h"
 #include "platform/Application.h"
 #include "platform/Icons.h"
 #include "platform/RealDesk.h"
 #include "platform/WindowRegister.h"
+
+#include <QTimer>
 
 int main(int argc, char **argv)
 {
@@ -11,7 +12,9 @@ int main(int argc, char **argv)
     application.setWindowIcon(ThemedIcon(QStringLiteral("tallymere")));
     InstallRealDesk(QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
     DeclareWindows();
-    const QString welcome = QStringLiteral("frmWelcome");
-    TheWindows.Show(OptionValue(ShowWelcome) == 1 && TheWindows.Knows(welcome) ? welcome : QStringLiteral("frmSplash"));
+    // Within the loop, where an error that nobody traps has its one place.
+    QTimer::singleShot(0, &application, [] {
+        TheWindows.Show(FirstWindow());
+    });
     return application.exec();
 }

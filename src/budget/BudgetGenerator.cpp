@@ -62,7 +62,7 @@ void SubtractExtras(Run &run, qint64 day)
         const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
         if (payPeriod.PayPeriodDate.JulianDay() != day)
             continue;
-        for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item) {
+        for (int item = 1; item <= ItemsOf(payPeriod); ++item) {
             const ExtraItemRecord &extra = payPeriod.ExtraItems(item);
             if (extra.ExtraItemAmount < Currency())
                 run.Subtract(extra.ExtraItemAmount, BudgetLine::Credit,
@@ -79,7 +79,7 @@ void SubtractProjects(Run &run, qint64 day)
     for (int i = 1; i <= State.NumberOfProjects; ++i) {
         const auto &dates = std::as_const(State.ProjectEntryDates)(i);
         const auto &amounts = std::as_const(State.ProjectEntryAmounts)(i);
-        const int entries = State.ProjectEntryCounts(i);
+        const int entries = EntriesOf(i);
         for (int entry = 1; entry <= entries; ++entry)
             if (dates(entry).JulianDay() == day)
                 run.Subtract(amounts(entry), BudgetLine::Ordinary, [&] { return State.ProjectNames(i); });

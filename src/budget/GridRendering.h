@@ -4,21 +4,27 @@
 #include "foundation/Report.h"
 #include "platform/Grid.h"
 
-/// Walks down a grid of labels and amounts. Row 1 stays empty as a gap below the heading.
+/// Walks down a grid of labels and amounts. Row 1 stays empty as a gap below the heading. Lines that follow each other
+/// are inserted in one go, when a line is written in place or the writer goes.
 class LineWriter
 {
 public:
     explicit LineWriter(Grid &grid) : m_grid(grid) {}
+    ~LineWriter() { InsertWaiting(); }
+    LineWriter(const LineWriter &) = delete;
+    LineWriter &operator=(const LineWriter &) = delete;
 
     /// The counter goes up by one, and the line is inserted there; what lies below is pushed down.
     void Insert(const QString &label, const QString &amount)
     {
-        m_grid.AddItem(label + QLatin1Char('\t') + amount, ++m_row);
+        m_waiting += QStringList{label, amount};
+        ++m_row;
     }
-    void InsertEmpty() { m_grid.AddItem(QString(), ++m_row); }
+    void InsertEmpty() { Insert({}, {}); }
     /// The counter goes up by one, and the row is written in place, its amount in a colour that does not run on.
     void Write(const QString &label, const QString &amount, GridColour colour = GridColour::Text)
     {
+        InsertWaiting();
         ++m_row;
         m_grid.SetText(m_row, 0, label);
         m_grid.SetColour(m_row, 1, colour);
@@ -28,7 +34,15 @@ public:
     }
 
 private:
+    void InsertWaiting()
+    {
+        if (!m_waiting.isEmpty())
+            m_grid.AddRows(m_waiting, m_row - int(m_waiting.size()) + 1);
+        m_waiting.clear();
+    }
+
     Grid &m_grid;
+    QList<QStringList> m_waiting;
     int m_row = 1;
 };
 
@@ -48,7 +62,7 @@ inline void WriteDatedRow(Grid &grid, int row, const DatedRow &dated, const QStr
     QStringList cells = before;
     cells << dated.Date << dated.Amount << dated.Accumulated;
     if (!dated.AmountIsRed && !dated.AccumulatedIsRed) {
-        grid.AddItem(cells.join(QLatin1Char('\t')), row);
+        grid.AddRows({cells}, row);
         return;
     }
     const int amount = int(before.size()) + 1;

@@ -1,9 +1,9 @@
 #include "budget/frmSavingsForecast.h"
 
+#include "budget/GridRendering.h"
 #include "budget/SavingsForecast.h"
 #include "foundation/State.h"
 #include "platform/Desk.h"
-#include "platform/Grid.h"
 #include "platform/Numbers.h"
 #include "platform/WindowRegister.h"
 #include "ui_frmSavingsForecast.h"
@@ -17,15 +17,6 @@ constexpr int RowsInView = 16;
 constexpr int NumberTwips = 500;
 constexpr int TextTwips = 2045;
 enum Column { Number, PayPeriod, Savings, Accumulated, Columns };
-
-/// Writes an amount in place, red below 0; the colour does not run on into the row below.
-void WriteAmount(Grid &grid, int row, int column, const QString &text, bool red)
-{
-    grid.SetColour(row, column, red ? GridColour::LightRed : GridColour::Text);
-    grid.SetText(row, column, text);
-    if (red)
-        grid.SetColour(row + 1, column, GridColour::Text);
-}
 
 } // namespace
 
@@ -96,16 +87,7 @@ void frmSavingsForecast::FillGrid()
     int number = 0;
     for (const DatedRow &row : ForecastRows()) {
         ++number;
-        if (!row.AmountIsRed && !row.AccumulatedIsRed) {
-            grid.AddItem(QString::number(number) + QLatin1Char('\t') + row.Date + QLatin1Char('\t') + row.Amount +
-                             QLatin1Char('\t') + row.Accumulated,
-                         number);
-            continue;
-        }
-        grid.SetText(number, Number, QString::number(number));
-        grid.SetText(number, PayPeriod, row.Date);
-        WriteAmount(grid, number, Savings, row.Amount, row.AmountIsRed);
-        WriteAmount(grid, number, Accumulated, row.Accumulated, row.AccumulatedIsRed);
+        WriteDatedRow(grid, number, row, {QString::number(number)});
     }
     grid.SetCurrentRow(0);
 }

@@ -84,7 +84,7 @@ std::vector<DatedRow> ProjectRows(int project)
 {
     std::vector<DatedRow> rows;
     Currency total;
-    for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry) {
+    for (int entry = 1; entry <= EntriesOf(project); ++entry) {
         const Currency amount = std::as_const(State.ProjectEntryAmounts)(project)(entry);
         total += amount;
         rows.push_back({FormatLongDate(std::as_const(State.ProjectEntryDates)(project)(entry)), FormatCurrency(amount),

@@ -56,7 +56,7 @@ void frmExtras::FillExtraItemList()
     const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(Extras.SelectedExtraPayPeriod);
     ui->lblPayPeriod->setText(FormatLongDate(payPeriod.PayPeriodDate));
     ui->lstExtraItems->Clear();
-    for (int i = 1; i <= payPeriod.NumberOfExtraItems; ++i)
+    for (int i = 1; i <= ItemsOf(payPeriod); ++i)
         ui->lstExtraItems->AddItem(payPeriod.ExtraItems(i).ExtraItem);
     Extras.ExtrasListMode = false;
     ui->cmdAddPayPeriod->setEnabled(false);

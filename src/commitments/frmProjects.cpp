@@ -152,7 +152,7 @@ void frmProjects::lstProjects_Click()
     AddingProject = false;
     Projects.SelectedProject = ToInteger(SelectedRecord());
     const int project = Projects.SelectedProject;
-    const DateText completionDate = State.ProjectEntryDates(project)(State.ProjectEntryCounts(project));
+    const DateText completionDate = State.ProjectEntryDates(project)(EntriesOf(project));
     SetFields(
         {State.ProjectNames(project), FormatCurrency(State.ProjectAmounts(project)), FormatLongDate(completionDate)});
     ui->cmdDeleteProject->setEnabled(true);

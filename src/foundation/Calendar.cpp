@@ -20,13 +20,13 @@ QDate NextSemimonthly(QDate date)
 }
 
 /// Invalid for a MonthEndPay that is neither yes nor no.
-QDate NextMonthly(QDate date)
+QDate NextMonthly(const DateText &date)
 {
     if (State.MonthEndPay == 0)
-        return AddMonths(date, 1); // once clamped to the 28th or 29th, the chain stays there
+        return AddMonths(date.Date(), 1); // once clamped to the 28th or 29th, the chain stays there
     if (State.MonthEndPay != -1)
         return {};
-    const QDate afterNext = AddMonths(date, 2);
+    const QDate afterNext = AddMonths(date.Date(), 2);
     return DateSerial(afterNext.year(), afterNext.month(), 0);
 }
 
@@ -39,7 +39,7 @@ DateText NextPayPeriod(const DateText &date, qint16 frequency)
     case Weekly: next = AddDays(date.Date(), 7); break;
     case Biweekly: next = AddDays(date.Date(), 14); break;
     case Semimonthly: next = NextSemimonthly(date.Date()); break;
-    case Monthly: next = NextMonthly(date.Date()); break;
+    case Monthly: next = NextMonthly(date); break;
     default: break;
     }
     return next.isValid() ? DateText(next) : DateText();

@@ -68,7 +68,7 @@ void Loader::ReadByText(Currency &target)
 
 void Loader::ReadByText(float &target)
 {
-    Step([&](InputFile &file) { target = ToSingle(file.InputString(), Dialect::File); });
+    Step([&](InputFile &file) { target = ToSingle(ToDouble(file.InputString(), Dialect::File)); });
 }
 
 void RunFileSteps(const QString &title, const std::function<void()> &steps)

@@ -3,16 +3,18 @@
 
 #include "platform/Desk.h"
 #include "platform/Numbers.h"
+#include "platform/RuntimeError.h"
 
 inline const QString ShowWelcome = QStringLiteral("Show Welcome At Startup");
 inline const QString ShowTips = QStringLiteral("Show Tips at Startup");
 inline const QString ShowTutor = QStringLiteral("Show Tallymere Tutor");
 
-/// The option as a number: 1 on, 0 off. Text that is no number counts as missing.
+/// The option as a number: 1 on, 0 off. Text that no number can be made of counts as missing.
 inline double OptionValue(const QString &option)
 {
-    const QString text = TheDesk.GetSetting(option, QStringLiteral("1"));
-    return IsNumeric(text) ? ToDouble(text) : 1;
+    double value = 1;
+    IgnoreErrors([&] { value = ToDouble(TheDesk.GetSetting(option, QStringLiteral("1"))); });
+    return value;
 }
 
 inline void SaveOption(const QString &option, bool on)

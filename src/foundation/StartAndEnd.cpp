@@ -65,8 +65,11 @@ void LoadTutorInstructions()
     const QString footer = QStringLiteral("For more information press F1\n"
                                           "Use the browse (<< and >>) buttons at the top to move \n"
                                           "forward and backward through the instructions");
+    const QString path = State.ApplicationPath + QStringLiteral("\\help\\Instruction.txt");
+    if (!FileExists(path)) // also where the whole folder is missing: the start goes on without the pages
+        RaiseError(RuntimeError::FileNotFound);
     InputFile file;
-    file.Open(State.ApplicationPath + QStringLiteral("\\help\\Instruction.txt"));
+    file.Open(path);
     State.TutorInstructions.Redim(MostTutorPages);
     int page = 0;
     while (!file.AtEnd()) {

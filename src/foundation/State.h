@@ -8,6 +8,7 @@
 
 #include <QString>
 #include <QTime>
+#include <algorithm>
 #include <array>
 
 struct CreditorRecord {
@@ -59,6 +60,12 @@ struct CurrentItemRecord {
     Currency FullPrice; ///< a cache: computed again whenever the list is shown or printed
     bool operator==(const CurrentItemRecord &) const = default;
 };
+
+/// How many items of a record are there: a damaged file may count more than a record holds.
+inline int ItemsOf(const ExtraPayPeriodRecord &payPeriod)
+{
+    return std::min<int>(payPeriod.NumberOfExtraItems, MostExtraItems);
+}
 
 /// PayFrequency
 constexpr qint16 Weekly = 7;
@@ -145,6 +152,12 @@ struct SharedState {
     Currency BudgetCredit;        ///< what the last budget run passed forward, to be received by the next
 };
 inline SharedState State;
+
+/// How many entries of a project are there, likewise.
+inline int EntriesOf(int project)
+{
+    return std::min<int>(State.ProjectEntryCounts(project), MostProjectEntries);
+}
 
 inline void ResetState()
 {

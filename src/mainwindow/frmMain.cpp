@@ -21,6 +21,13 @@ namespace {
 constexpr int LastTimedTutorPage = 24;
 constexpr int StateLinePadding = 16;  // pixels, above and below a line together
 constexpr int StateLineCharacters = 44; // what the list has room for in its width
+
+void ShowStateLine(QListWidgetItem &line, const StateEntry &entry)
+{
+    line.setText(entry.Line());
+    line.setToolTip(line.text()); // a long name may not fit
+}
+
 } // namespace
 
 frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
@@ -113,6 +120,8 @@ void frmMain::BuildToolbar()
         button->setMouseTracking(true);
         button->installEventFilter(this);
         m_hints.insert(button, entry.Hint);
+        // Who works with the keyboard sees the hint on the way through the menu.
+        connect(Entry(entry.ActsAs), &QAction::hovered, this, [this, hint = entry.Hint] { ui->lblToolbar->setText(hint); });
     }
 }
 
@@ -212,13 +221,16 @@ void frmMain::ReadOptions()
 
 void frmMain::FillBudgetState()
 {
+    const int marked = ui->lstBudgetState->currentRow();
     ui->lstBudgetState->Clear();
     for (const StateEntry &entry : BudgetStateLines()) {
-        ui->lstBudgetState->AddItem(entry.Line());
+        ui->lstBudgetState->AddItem({});
         QListWidgetItem *line = ui->lstBudgetState->item(ui->lstBudgetState->count() - 1);
         if (!TheWindows.Knows(entry.Window))
             line->setFlags(line->flags() & ~Qt::ItemIsEnabled);
+        ShowStateLine(*line, entry);
     }
+    ui->lstBudgetState->Mark(marked); // the keyboard goes on where it was
     ReserveSpace();
 }
 
@@ -314,7 +326,7 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
         const QString settings = u"frmEnvironmentSettings"_s;
         if (TheWindows.Knows(settings))
             TheWindows.ControlOf<QLineEdit>(settings, u"txtStoreFile"_s).setText(State.CurrentStoreFile);
-        ui->lstBudgetState->item(CurrentListLine)->setText(BudgetStateLines()[CurrentListLine].Line());
+        ShowStateLine(*ui->lstBudgetState->item(CurrentListLine), BudgetStateLines()[CurrentListLine]);
         InputCurrentShoppingList();
     };
     ResumeNext(open, [](const RuntimeError &error) { ShowMessage(error.Text(), u"Open Store File"_s, Icon::Stop); });

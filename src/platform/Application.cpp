@@ -30,6 +30,7 @@ void ReportFatalError(const RuntimeError &error)
     if (reporting)
         return;
     const QScopedValueRollback once(reporting, true);
+    TheDesk.Hourglass(false);
     ShowMessage(QStringLiteral("Run-time error '%1':\n\n%2").arg(int(error.Number)).arg(error.Description()), AppTitle,
                 Icon::Stop);
     TheDesk.EndProgram();

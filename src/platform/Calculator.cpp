@@ -191,6 +191,8 @@ void BringCalculatorForward()
         ActivateDesktopWindow(window);
     else if (Started.KeepsToOneInstance)
         Launch(Started.Path);
+    else if (!DesktopWindowsReachable())
+        RaiseError(RuntimeError::InvalidProcedureCall); // nothing here can raise it; a new one comes to the front
 }
 
 void CloseCalculator()

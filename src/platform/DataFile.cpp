@@ -173,6 +173,8 @@ QByteArrayView InputFile::NextValue(bool numeric)
     }
     if (m_position < size && m_bytes[m_position] == ',')
         ++m_position;
+    if (end - start > GreatestValue)
+        RaiseError(RuntimeError::OutOfMemory);
     return QByteArrayView(m_bytes).sliced(start, end - start);
 }
 
@@ -242,7 +244,11 @@ void OutputFile::Collect()
 void OutputFile::Open(const QString &givenPath)
 {
     m_file.close();
-    const QString path = ExistingPath(givenPath);
+    // A folder in another letter case is found; the file itself is made in the spelling that is asked for, or a second
+    // list whose name differs in case alone would be overwritten.
+    const QFileInfo given(WithPlatformSeparators(givenPath));
+    const QString path =
+        given.fileName().isEmpty() ? QString() : ExistingPath(given.path()) + QLatin1Char('/') + given.fileName();
     const QFileInfo info(path);
     if (path.isEmpty() || info.isDir() || IsWriteProtected(info))
         RaiseError(RuntimeError::PathFileAccess);

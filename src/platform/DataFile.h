@@ -33,6 +33,8 @@ public:
 
     /// The greatest file that is taken; the greatest lawful household is well below it.
     static constexpr qint64 GreatestSize = qint64(512) << 20;
+    /// The longest value in bytes; a longer one is passed over with error 7.
+    static constexpr qsizetype GreatestValue = 64 * 1024;
 
     /// Error 53 or 76 where there is none, 75 where it is no plain file or cannot be read, 7 beyond GreatestSize.
     void Open(const QString &path);

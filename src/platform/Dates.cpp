@@ -80,7 +80,7 @@ std::optional<QDate> Parse(const QString &source)
     if (const auto m = numbers.match(text); m.hasMatch())
         return FromNumbers(m.captured(1).toInt(), m.captured(3).toInt(), FullYear(m.captured(4)));
     if (const auto m = yearFirst.match(text); m.hasMatch())
-        return Checked(m.captured(1).toInt(), m.captured(3).toInt(), m.captured(4).toInt());
+        return FromNumbers(m.captured(3).toInt(), m.captured(4).toInt(), m.captured(1).toInt());
     if (const auto m = twoNumbers.match(text); m.hasMatch())
         return FromNumbers(m.captured(1).toInt(), m.captured(2).toInt(), PresentYear());
     if (const auto m = monthYear.match(text); m.hasMatch())

@@ -35,7 +35,7 @@ struct FileQuestion {
     bool operator==(const FileQuestion &) const = default;
 };
 
-/// What the help is asked for: a context number, or 0 for the contents.
+/// What the help is asked for: a context number, or 0 for the contents. An empty file is the program's own help file.
 struct HelpQuestion {
     QString File;
     int Context = 0;

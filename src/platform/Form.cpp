@@ -7,6 +7,27 @@
 #include <QLineEdit>
 #include <QMenuBar>
 
+namespace {
+
+/// What the lines of a label need in its width. The label's own answer never falls below its least height, so one like
+/// it without any is asked.
+int HeightOfLines(const QLabel &label)
+{
+    QLabel lines(label.text());
+    lines.setWordWrap(true);
+    lines.setTextFormat(label.textFormat());
+    lines.setFont(label.font());
+    lines.setAlignment(label.alignment());
+    lines.setMargin(label.margin());
+    lines.setIndent(label.indent());
+    lines.setFrameStyle(label.frameStyle());
+    lines.setLineWidth(label.lineWidth());
+    lines.setMidLineWidth(label.midLineWidth());
+    return lines.heightForWidth(label.width());
+}
+
+} // namespace
+
 Form::Form() : QWidget(nullptr, Qt::Window) {}
 
 void Form::GotFocus(QWidget *control)
@@ -93,12 +114,22 @@ bool Form::event(QEvent *event)
 }
 
 /// Layouts let a label of several lines be squeezed when the window is small or its letters are large; here it keeps
-/// the height that its lines need in its width.
+/// the height that its lines need in its width, and gives it back when they need less again.
 void Form::GiveLinesTheirHeight()
 {
-    for (QLabel *label : findChildren<QLabel *>())
-        if (label->wordWrap() && label->isVisible() && label->heightForWidth(label->width()) > label->height())
-            label->setMinimumHeight(label->heightForWidth(label->width()));
+    for (QLabel *label : findChildren<QLabel *>()) {
+        if (!label->wordWrap() || !label->isVisible())
+            continue;
+        LinesHeight &height = m_linesHeights[label];
+        if (label->minimumHeight() != height.Given) { // set elsewhere: it never gets less than that
+            height.Reserved = label->minimumHeight();
+            height.Given = 0;
+        }
+        if (height.Given > 0 || label->heightForWidth(label->width()) > label->height()) {
+            height.Given = qMax(height.Reserved, HeightOfLines(*label));
+            label->setMinimumHeight(height.Given);
+        }
+    }
 }
 
 void Form::closeEvent(QCloseEvent *event)

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <functional>
 
+class QLabel;
 class QLineEdit;
 
 class Form : public QWidget
@@ -30,6 +31,8 @@ public:
     /// text of a field and calls the handler of OnGotFocus.
     virtual void GotFocus(QWidget *control);
     virtual void LostFocus(QWidget *control);
+    /// Where the help opens on F1 in this window; 0 for its contents.
+    virtual int HelpContext() const { return 0; }
     /// A window that is only looked at, such as the tutor's, takes no activation when it is shown.
     virtual bool TakesActivation() const { return true; }
 
@@ -57,10 +60,17 @@ private:
     bool CanHaveFocus(const QWidget *control) const;
     bool HandleEnter(QObject *control);
 
+    /// The least height of a label of several lines: what the window wants for it, and what its lines were given.
+    struct LinesHeight {
+        int Reserved = 0;
+        int Given = 0;
+    };
+
     QPointer<QWidget> m_focus;
     QList<CloseMode> m_asked; // the closings whose QueryUnload runs
     bool m_unloading = false; // Unload runs
     QHash<const QObject *, std::function<void()>> m_enter;
     QHash<const QObject *, std::function<void()>> m_gotFocus;
     QHash<const QObject *, std::function<void()>> m_lostFocus;
+    QHash<const QLabel *, LinesHeight> m_linesHeights;
 };

@@ -63,6 +63,12 @@ Rounded RoundedToCents(QString digits)
 QString WithSeparators(const QString &whole)
 {
     const QString separator = UserLocale().groupSeparator();
+    // The locale knows where its separators stand, in threes or not; its digits count only if they are read back.
+    bool fits = false;
+    const qulonglong value = whole.toULongLong(&fits);
+    const QString grouped = UserLocale().toString(value);
+    if (fits && QString(grouped).remove(separator) == whole)
+        return grouped;
     QString text = whole;
     for (qsizetype i = text.size() - 3; i > 0; i -= 3)
         text.insert(i, separator);

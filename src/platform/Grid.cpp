@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
+#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -38,7 +39,7 @@ public:
     {
         m_columns = columns;
         m_right.assign(std::size_t(columns), false);
-        m_rows.assign(std::size_t(rows), Row(std::size_t(columns)));
+        m_rows.assign(std::size_t(rows), Row());
         Touch();
     }
     int Rows() const { return int(m_rows.size()); }
@@ -50,31 +51,47 @@ public:
         if (row < 0)
             RaiseError(RuntimeError::SubscriptOutOfRange);
         if (row >= Rows())
-            m_rows.resize(std::size_t(row) + 1, Row(std::size_t(m_columns)));
+            m_rows.resize(std::size_t(row) + 1);
+        Row &cells = m_rows[std::size_t(row)];
+        if (cells.empty())
+            cells.resize(std::size_t(m_columns));
         Touch();
-        return m_rows[std::size_t(row)][std::size_t(column)];
+        return cells[std::size_t(column)];
     }
     const Cell &Read(int row, int column) const
     {
         if (row < 0 || row >= Rows() || column < 0 || column >= m_columns)
             RaiseError(RuntimeError::SubscriptOutOfRange);
-        return m_rows[std::size_t(row)][std::size_t(column)];
+        static const Cell untouched;
+        const Row &cells = m_rows[std::size_t(row)];
+        return cells.empty() ? untouched : cells[std::size_t(column)];
     }
-    void Insert(int row, const QStringList &texts)
+    void Insert(int row, const QList<QStringList> &lines)
     {
-        if (row < 0 || row > Rows() || texts.size() > m_columns)
+        if (row < 0 || row > Rows())
             RaiseError(RuntimeError::SubscriptOutOfRange);
-        Row cells{std::size_t(m_columns)};
-        for (qsizetype i = 0; i < texts.size(); ++i)
-            cells[std::size_t(i)].Text = texts[i];
-        m_rows.insert(m_rows.begin() + row, std::move(cells));
+        std::vector<Row> rows;
+        rows.reserve(std::size_t(lines.size()));
+        for (const QStringList &texts : lines) {
+            if (texts.size() > m_columns)
+                RaiseError(RuntimeError::SubscriptOutOfRange);
+            Row &cells = rows.emplace_back(std::size_t(m_columns));
+            for (qsizetype i = 0; i < texts.size(); ++i)
+                cells[std::size_t(i)].Text = texts[i];
+        }
+        m_rows.insert(m_rows.begin() + row, std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
         Touch();
     }
     void ClearBelowHeading()
     {
-        for (std::size_t row = 1; row < m_rows.size(); ++row)
+        for (std::size_t row = 1; row < m_rows.size(); ++row) {
             for (Cell &cell : m_rows[row])
                 cell.Text.clear();
+            // A row that looks like a new one costs like a new one: they pile up while a budget is stepped through.
+            const auto plain = [](const Cell &cell) { return cell.Colour == GridColour::Text && !cell.Bold; };
+            if (std::all_of(m_rows[row].begin(), m_rows[row].end(), plain))
+                Row().swap(m_rows[row]);
+        }
         Touch();
     }
     void SetRight(int column, bool right)
@@ -103,13 +120,13 @@ public:
     }
 
 private:
-    using Row = std::vector<Cell>;
+    using Row = std::vector<Cell>; // empty: nothing was ever written there
 
     QVariant Value(int row, int column, int role) const
     {
         if (row >= Rows() || column < 0 || column >= m_columns)
             return {};
-        const Cell &cell = m_rows[std::size_t(row)][std::size_t(column)];
+        const Cell &cell = Read(row, column);
         switch (role) {
         case Qt::DisplayRole: return cell.Text;
         case Qt::ToolTipRole: return cell.Text.isEmpty() ? QVariant() : cell.Text;
@@ -245,7 +262,12 @@ int Grid::Columns() const
 
 void Grid::AddItem(const QString &text, int row)
 {
-    m_model->Insert(row, text.split(QLatin1Char('\t')));
+    AddRows({text.split(QLatin1Char('\t'))}, row);
+}
+
+void Grid::AddRows(const QList<QStringList> &rows, int row)
+{
+    m_model->Insert(row, rows);
 }
 
 void Grid::SetText(int row, int column, const QString &text)

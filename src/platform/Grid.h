@@ -24,6 +24,8 @@ public:
     /// Inserts a row before `row`, cells parted by tabs, and pushes the rest down. At the row count it appends;
     /// beyond it, or with more cells than columns, error 9.
     void AddItem(const QString &text, int row);
+    /// Inserts several rows at once, each a list of cells; a tab in a cell parts nothing here.
+    void AddRows(const QList<QStringList> &rows, int row);
     /// Writes in place; below the last row the missing rows are made. A column outside is error 9.
     void SetText(int row, int column, const QString &text);
     QString Text(int row, int column) const;

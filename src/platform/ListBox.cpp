@@ -67,6 +67,11 @@ void ListBox::AddItem(const QString &text)
     addItem(new Item(text));
 }
 
+void ListBox::Mark(int row)
+{
+    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
 QStringList ListBox::Items() const
 {
     QStringList items;
@@ -84,10 +89,15 @@ QSize ListBox::sizeHint() const
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
-    if (event && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease ||
-                  event->type() == QEvent::MouseMove))
-        return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
-    return QItemSelectionModel::NoUpdate;
+    // Only the left button clicks; any other would leave a row selected that nobody was told of.
+    const auto isLeft = [event] {
+        const auto *mouse = static_cast<const QMouseEvent *>(event);
+        return event->type() == QEvent::MouseMove ? bool(mouse->buttons() & Qt::LeftButton)
+                                                  : mouse->button() == Qt::LeftButton;
+    };
+    const bool ofMouse = event && (event->type() == QEvent::MouseButtonPress ||
+                                   event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseMove);
+    return ofMouse && index.isValid() && isLeft() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
 void ListBox::keyPressEvent(QKeyEvent *event)
@@ -108,6 +118,12 @@ void ListBox::mousePressEvent(QMouseEvent *event)
 {
     QListWidget::mousePressEvent(event);
     m_pressed = event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mouseDoubleClickEvent(event);
 }
 
 void ListBox::mouseReleaseEvent(QMouseEvent *event)

@@ -19,6 +19,8 @@ public:
     void Clear();
     void AddItem(const QString &text);
     QStringList Items() const;
+    /// Puts the mark of the arrow keys on a row and selects nothing.
+    void Mark(int row);
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -30,6 +32,7 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:

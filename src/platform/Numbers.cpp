@@ -136,14 +136,15 @@ std::optional<Decimal> ReadDigits(Scanner &text, const Signs &signs, bool separa
 {
     Decimal number;
     bool any = false;
-    // Some locales part thousands with a no-break space; people type a plain blank or an apostrophe for it.
+    // Some locales part thousands with a no-break space or a curly apostrophe; people type the plain ones for them.
     const bool blankParts = !signs.Thousands.isEmpty() && IsBlank(signs.Thousands.front());
+    const bool apostropheParts = signs.Thousands == QStringView(u"\u2019");
     for (;;) {
         if (const auto digit = text.TakeDigit()) {
             number.Digits += *digit;
             any = true;
         } else if (!(any && separatorsAllowed &&
-                     (text.Take(signs.Thousands) ||
+                     (text.Take(signs.Thousands) || (apostropheParts && text.Take(u"'")) ||
                       (blankParts && text.Rest().size() > 1 && text.Rest()[1].isDigit() && text.Take(u" "))))) {
             break;
         }

@@ -1,4 +1,4 @@
-// Arrays as the design counts them: from 1, redimensioned as a whole, and an index outside raises error 9.
+// Arrays that count from 1, are redimensioned as a whole, and raise error 9 for an index outside.
 #pragma once
 
 #include "platform/RuntimeError.h"

@@ -4,6 +4,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -12,6 +13,7 @@
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 namespace {
 
@@ -33,6 +35,17 @@ QFont PageFont(const PrintFont &font, QPagedPaintDevice &device)
     if (needed > width)
         result.setPointSizeF(result.pointSizeF() * width / needed);
     return result;
+}
+
+/// The folder, made where it is missing; where that cannot be, as on a read-only disk, the user's documents.
+QString WritableFolder(const QString &folder)
+{
+    if (QDir().mkpath(folder) && QFileInfo(folder).isWritable())
+        return folder;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QDir().mkpath(documents))
+        RaiseError(RuntimeError::PathFileAccess);
+    return documents;
 }
 
 QString FreePdfPath(const QString &folder)
@@ -96,12 +109,11 @@ QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
         QPrinter printer(info, QPrinter::HighResolution);
         printer.setDocName(job.Lines.value(2).trimmed());
         printer.setPageMargins(margins, QPageLayout::Millimeter);
-        DrawDocument(job, printer);
-        return {};
+        // A printer that fails does not take the pages with it: they become PDF like without one.
+        if (ResumeNext([&] { DrawDocument(job, printer); }, [](const RuntimeError &) {}))
+            return {};
     }
-    if (!QDir().mkpath(folder))
-        RaiseError(RuntimeError::PathFileAccess);
-    const QString path = FreePdfPath(folder);
+    const QString path = FreePdfPath(WritableFolder(folder));
     QSaveFile file(path); // a disk that fills up leaves no half document behind
     if (!file.open(QIODevice::WriteOnly))
         RaiseError(RuntimeError::DeviceError);

@@ -1,12 +1,14 @@
 #include "platform/RealDesk.h"
 
 #include "platform/Calculator.h"
+#include "platform/DataFile.h"
 #include "platform/Desk.h"
 #include "platform/Options.h"
 #include "platform/PagePrinter.h"
 #include "platform/WindowRegister.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -57,8 +59,12 @@ Answer ShowBox(const Message &message)
             TheDesk.ShowHelp({QString(), message.HelpContext});
         });
     }
+    const bool busy = QApplication::overrideCursor();
+    TheDesk.Hourglass(false); // nobody answers a box under a busy pointer
     int answer = 0;
     TheWindows.WhileAway([&] { answer = box.exec(); });
+    if (busy)
+        TheDesk.Hourglass(true);
     switch (answer) {
     case QMessageBox::Yes: return Answer::Yes;
     case QMessageBox::No: return Answer::No;
@@ -78,9 +84,22 @@ QString DialogFilter(const QString &filter)
     return filters.join(QStringLiteral(";;"));
 }
 
+} // namespace
+
+QString DialogStart(const FileQuestion &question)
+{
+    // Without the separator at its end, where no name would be left to look for on the disk.
+    QString folder = question.Directory;
+    while (folder.endsWith(QLatin1Char('\\')) || folder.endsWith(QLatin1Char('/')))
+        folder.chop(1);
+    return QDir::cleanPath(ExistingPath(folder)) + QLatin1Char('/') + question.FileName;
+}
+
+namespace {
+
 QString AskFile(const FileQuestion &question)
 {
-    const QString start = question.Directory + QLatin1Char('/') + question.FileName;
+    const QString start = DialogStart(question);
     QString answer;
     TheWindows.WhileAway([&] {
         answer = question.TheKind == FileQuestion::Open
@@ -102,7 +121,7 @@ void InstallRealDesk(const QString &printedFolder)
     TheDesk.PrintDocument = [printedFolder](const PrintJob &job) {
         const QString pdf = PrintToPaperOrPdf(job, printedFolder);
         if (!pdf.isEmpty())
-            ShowMessage(QStringLiteral("No printer is installed. The printed pages are in the file\n%1").arg(pdf), AppTitle,
+            ShowMessage(QStringLiteral("No printer could be used. The printed pages are in the file\n%1").arg(pdf), AppTitle,
                         Icon::Information);
     };
     TheDesk.Now = [] { return QDateTime::currentDateTime(); };

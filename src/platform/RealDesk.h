@@ -5,3 +5,8 @@
 
 /// Fills TheDesk. printedFolder: where documents go as PDF on a machine without a printer.
 void InstallRealDesk(const QString &printedFolder);
+
+struct FileQuestion;
+
+/// Where a file dialog opens: the folder as the platform spells it, with the offered name if there is one.
+QString DialogStart(const FileQuestion &question);

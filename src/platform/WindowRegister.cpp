@@ -473,7 +473,13 @@ bool WindowRegister::AccessKey(QObject *watched, const QShortcutEvent &event)
 bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
 {
     Form *form = FormOf(qobject_cast<QWidget *>(watched));
-    if (!form || (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter))
+    if (!form)
+        return false;
+    if (event.key() == Qt::Key_F1) {
+        TheDesk.ShowHelp({QString(), form->HelpContext()});
+        return true;
+    }
+    if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
         return false;
     if (form->HandleEnter(watched) || qobject_cast<QLineEdit *>(watched)) // in a field it never presses a button
         return true;

@@ -14,15 +14,27 @@ namespace {
 
 constexpr int SamplePeriods = 12;
 
-/// What brings a window's content in the filled household: buttons clicked one after the other.
-const QHash<QString, QStringList> &FirstButtons()
+/// What brings a window's content in the filled household: buttons, or the first rows of lists, clicked one after the
+/// other.
+const QHash<QString, QStringList> &FirstClicks()
 {
-    static const QHash<QString, QStringList> buttons{
-        {u"frmBudget"_s, {u"cmdBudget"_s, u"cmdBudget"_s}}, {u"frmCreditors"_s, {u"cmdListCreditors"_s}},
-        {u"frmExtras"_s, {u"cmdListPayPeriods"_s}},         {u"frmProjects"_s, {u"cmdListProjects"_s}},
-        {u"frmRegulars"_s, {u"cmdListRegularItems"_s}},
+    static const QHash<QString, QStringList> clicks{
+        {u"frmBudget"_s, {u"cmdBudget"_s, u"cmdBudget"_s}},
+        {u"frmCreditors"_s, {u"cmdListCreditors"_s, u"lstCreditors"_s}},
+        {u"frmExtras"_s, {u"cmdListPayPeriods"_s, u"lstExtraItems"_s, u"lstExtraItems"_s}}, // a period, then an item
+        {u"frmProjects"_s, {u"cmdListProjects"_s, u"lstProjects"_s}},
+        {u"frmRegulars"_s, {u"cmdListRegularItems"_s, u"lstRegulars"_s}},
     };
-    return buttons;
+    return clicks;
+}
+
+void ClickAllOf(const QString &window)
+{
+    for (const QString &control : FirstClicks().value(window))
+        if (control.startsWith(u"lst"_s))
+            ClickRow(window, control, 0);
+        else
+            Click(window, control);
 }
 
 QByteArray Contents(const QString &path)
@@ -75,6 +87,10 @@ bool ShowAtWork(const QString &window, Household household)
         TheWindows.Show(u"frmMain"_s);
     if (window == u"frmSetCurrentPayPeriod"_s) // the main window tells it the day
         TheWindows.ControlOf<QLabel>(window, u"lblDate"_s).setText(Format(TheDesk.Now().date(), DateFormat::Weekday));
+    if (window == u"frmViewProject"_s && household == Household::Filled) { // it shows the project chosen there
+        Show(u"frmProjects"_s);
+        ClickAllOf(u"frmProjects"_s);
+    }
     Show(window);
     for (const QString &clock : {u"frmMain"_s, u"frmSetCurrentPayPeriod"_s})
         if (Form *form = TheWindows.Loaded(clock))
@@ -84,8 +100,7 @@ bool ShowAtWork(const QString &window, Household household)
         QCoreApplication::sendEvent(&Find<QToolButton>(window, u"Toolbar1Button6"_s), &pointed);
     }
     if (household == Household::Filled)
-        for (const QString &button : FirstButtons().value(window))
-            Click(window, button);
+        ClickAllOf(window);
     Settle();
     return IsShown(window);
 }

@@ -9,7 +9,7 @@ enum class Household { Empty, Filled };
 void LayHouseholdOf(const RecordingDesk &desk, Household household);
 
 /// Shows a window as the user sees it at work: opened from the main window and, in the filled household, with what its
-/// first buttons bring. The main window itself is shown with its hint. Returns whether the window stands there.
+/// first clicks bring. The main window itself is shown with its hint. Returns whether the window stands there.
 bool ShowAtWork(const QString &window, Household household);
 
 /// The desktops on which every window is looked at.

@@ -231,6 +231,35 @@ class gui_layout : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Else the filled household would be looked at in windows that are empty all the same.
+    void TheFilledHouseholdFillsTheWindows_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QStringList>("fields");
+        QTest::newRow("creditors") << u"frmCreditors"_s
+                                   << QStringList{u"txtCreditorDueDate"_s, u"txtCreditorAmount"_s, u"txtCreditor"_s};
+        QTest::newRow("regular items") << u"frmRegulars"_s << QStringList{u"txtRegularItem"_s, u"txtRegularAmount"_s};
+        QTest::newRow("extra items") << u"frmExtras"_s
+                                     << QStringList{u"lblPayPeriod"_s, u"txtExtraItemAmount"_s, u"txtExtraItem"_s};
+        QTest::newRow("projects") << u"frmProjects"_s
+                                  << QStringList{u"txtProject"_s, u"txtProjectAmount"_s,
+                                                 u"txtProjectCompletionDate"_s};
+        QTest::newRow("a project") << u"frmViewProject"_s << QStringList();
+    }
+    void TheFilledHouseholdFillsTheWindows()
+    {
+        QFETCH(QString, window);
+        QFETCH(QStringList, fields);
+        GuiDesk desk;
+        LayHouseholdOf(desk, Household::Filled);
+        QVERIFY(ShowAtWork(window, Household::Filled));
+        QCOMPARE(ActiveWindow(), window);
+        for (const QString &field : fields)
+            QVERIFY2(!TextOf(window, field).isEmpty(), qPrintable(field));
+        if (fields.isEmpty())
+            QCOMPARE(GridRows(window, u"grdViewProject"_s).size(), 7); // the heading and six installments
+    }
+
     void EveryWindowHasRoomForWhatItShows_data()
     {
         QTest::addColumn<QString>("window");

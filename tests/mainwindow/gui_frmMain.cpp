@@ -446,6 +446,28 @@ private Q_SLOTS:
         QCOMPARE(hint.text(), Text(ToolbarRows[2].Hint));
     }
 
+    void HintsComeOnTheWayThroughTheMenuAndStay()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        desk.StartProgram();
+        for (const ToolbarRow &row : ToolbarRows) {
+            Entry(Text(row.Entry)).hover();
+            QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(row.Hint));
+        }
+        // With the keys: creditors, regular and extra items have no button and leave the hint, the projects have one.
+        QMenu *menu = Entry(u"mnuFile"_s).menu();
+        menu->popup(QPoint());
+        for (int entry = 1; entry <= 4; ++entry) {
+            QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[15].Hint));
+            QTest::keyClick(menu, Qt::Key_Down);
+        }
+        QCOMPARE(menu->activeAction(), &Entry(u"mnuFileProjects"_s));
+        QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[0].Hint));
+        menu->hide();
+        QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[0].Hint));
+    }
+
     void TheStateOfTheBudgetHasNineLines()
     {
         GuiDesk desk;
@@ -480,6 +502,49 @@ private Q_SLOTS:
                               u"Projects: 5"_s, u"Average Net Percentage: 81.25%"_s, u"Paycheck Amount: $1,234.51"_s,
                               u"Current Shopping List: weekly.lst"_s, u"Savings Forecast: 1000 Pay Periods"_s,
                               u"Current Sales Tax: 7.25%"_s}));
+    }
+
+    void EveryLineIsToldInFullUnderThePointer()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        const QString name = u"the weekly shopping list of the whole family.lst"_s;
+        desk.WriteFile(u"stores\\"_s + name, "0\r\n");
+        desk.StartProgram();
+        const auto tips = [] {
+            const auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+            QStringList texts;
+            for (int row = 0; row < list.count(); ++row)
+                texts += list.item(row)->toolTip();
+            return texts;
+        };
+        QCOMPARE(tips()[0], u"Creditors: 0"_s);
+        QCOMPARE(tips(), RowsOf(Window, u"lstBudgetState"_s));
+        desk.FileAnswers += name;
+        Choose(u"mnuShopperOpenStoreList"_s);
+        QCOMPARE(tips()[6], u"Current Shopping List: "_s + name);
+        QCOMPARE(tips(), RowsOf(Window, u"lstBudgetState"_s));
+    }
+
+    void TheMarkOfTheKeysSurvivesAnActivation()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        desk.StartProgram();
+        auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+        list.setFocus();
+        for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down})
+            QTest::keyClick(&list, key);
+        QCOMPARE(list.currentRow(), 2);
+        LeaveAndReturn();
+        QCOMPARE(list.currentRow(), 2);
+        QCOMPARE(list.ListIndex(), -1);
+        QCOMPARE(ActiveWindow(), Window);
+        QTest::keyClick(&list, Qt::Key_Return); // the keys go on from there
+        QCOMPARE(ActiveWindow(), u"frmExtras"_s);
+        Show(Window);
+        QCOMPARE(list.currentRow(), 2);
+        QCOMPARE(list.ListIndex(), -1);
     }
 
     void AClickOnALineOpensItsWindowWithoutTheTutor()
@@ -559,7 +624,41 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"staMain2"_s), u"Tuesday  January 6, 2004"_s);
     }
 
+    void TheClockGoesOnUnderTheQuestion()
+    {
+        GuiDesk desk;
+        bool went = false;
+        bool stood = false;
+        QTimer::singleShot(0, [&] {
+            stood = IsShown(Question) && TheWindows.Loaded(Question)->isModal();
+            desk.Now = QDateTime(QDate(2004, 1, 5), QTime(14, 5, 9));
+            went = QTest::qWaitFor([] { return TextOf(Window, u"staMain3"_s) == u"02:05:09 PM"_s; }, 3000);
+            stood = stood && IsShown(Question);
+            PressEnter(Question, u"txtCurrentPayPeriod"_s);
+        });
+        Show(Window);
+        QVERIFY(stood);
+        QVERIFY(went);
+        QVERIFY(!IsShown(Question));
+    }
+
     // Options
+
+    void AnOptionOf5AtTheStartIsNeitherOnNorOff()
+    {
+        GuiDesk desk;
+        for (const OptionRow &row : OptionRows)
+            desk.Options[Text(row.Key)] = u"5"_s;
+        desk.StartProgram();
+        for (const OptionRow &row : OptionRows)
+            QVERIFY(!Entry(Text(row.Entry)).isChecked());
+        QVERIFY(!TheTutorTimer().isActive());
+        // What nobody has marked yet is marked by choosing it.
+        Choose(u"mnuTallymereTutor"_s);
+        QCOMPARE(desk.TakeMessage().Text, Text(OptionRows[1].TurnedOn));
+        QCOMPARE(desk.Options.value(u"show tallymere tutor"_s), u"1"_s);
+        QVERIFY(TheTutorTimer().isActive());
+    }
 
     void AnActivationReadsTheOptions_data()
     {
@@ -838,6 +937,38 @@ private Q_SLOTS:
         QVERIFY(!IsShown(u"frmEnvironmentSettings"_s)); // loaded unseen
         QCOMPARE(tutor.Pages, QList<int>{11});
         QCOMPARE(ActiveWindow(), Window);
+    }
+
+    // The settings window rests the tutor's timer like every window that is loaded, seen or not.
+    void OpeningAStoreListLoadsTheSettingsUnseen_data()
+    {
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("chosen") << u"weekly.lst"_s << u"weekly.lst"_s;
+        QTest::newRow("cancelled") << QString() << u"untitled.lst"_s;
+    }
+    void OpeningAStoreListLoadsTheSettingsUnseen()
+    {
+        QFETCH(QString, chosen);
+        QFETCH(QString, name);
+        const QString settings = u"frmEnvironmentSettings"_s;
+        GuiDesk desk;
+        desk.WriteFile(u"stores\\weekly.lst"_s, "0\r\n");
+        desk.StartProgram();
+        QVERIFY(TheTutorTimer().isActive());
+        QVERIFY(!TheWindows.Loaded(settings));
+        desk.FileAnswers += chosen;
+        Choose(u"mnuShopperOpenStoreList"_s);
+        QVERIFY(TheWindows.Loaded(settings));
+        QVERIFY(!IsShown(settings));
+        QCOMPARE(TextOf(settings, u"txtStoreFile"_s), name);
+        QCOMPARE(ActiveWindow(), Window);
+        QVERIFY(!TheTutorTimer().isActive());
+        LeaveAndReturn();
+        QVERIFY(TheTutorTimer().isActive());
+        QVERIFY(TheWindows.Loaded(settings));
+        Show(settings); // the instance that was loaded
+        QCOMPARE(TextOf(settings, u"txtStoreFile"_s), name);
     }
 
     void AnErrorWhileAStoreListIsOpenedIsTold()

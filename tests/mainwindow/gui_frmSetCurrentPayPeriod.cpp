@@ -2,6 +2,8 @@
 #include "GuiDesk.h"
 #include "GuiMain.h"
 
+#include "foundation/Calendar.h"
+
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -9,6 +11,30 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 const QString Window = u"frmSetCurrentPayPeriod"_s;
 const Message NoDate{u"You have not entered a valid date"_s, u"Set Current Pay Period"_s, Icon::Warning};
+
+/// Stands in for the main window with the tutor's timer, which nothing but the question touches here.
+class MainToy : public Form
+{
+public:
+    MainToy()
+    {
+        auto *timer = new QTimer(this);
+        timer->setObjectName(u"tmrAutoTutor"_s);
+        timer->setInterval(10000);
+    }
+};
+
+/// Enter, the button or the close box.
+constexpr int WaysOut = 3;
+void LeaveBy(int way)
+{
+    if (way == 0)
+        PressEnter(Window, u"txtCurrentPayPeriod"_s);
+    else if (way == 1)
+        Click(Window, u"cmdExit"_s);
+    else
+        CloseByFrame(Window);
+}
 } // namespace
 
 class gui_frmSetCurrentPayPeriod : public QObject
@@ -86,7 +112,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("way");
         const QStringList texts{QString(), u"abc"_s, u"2/30/2004"_s, u"15"_s};
         for (const QString &text : texts)
-            for (int way = 0; way < 3; ++way)
+            for (int way = 0; way < WaysOut; ++way)
                 QTest::addRow("\"%s\" by way %d", qPrintable(text), way) << text << way;
     }
     void WhatIsNoDateIsRefusedByEveryWayOut()
@@ -97,12 +123,7 @@ private Q_SLOTS:
         State.CurrentPayPeriod = u"01-05-2004"_s;
         Show(Window);
         Type(Window, u"txtCurrentPayPeriod"_s, text);
-        if (way == 0)
-            PressEnter(Window, u"txtCurrentPayPeriod"_s);
-        else if (way == 1)
-            Click(Window, u"cmdExit"_s);
-        else
-            CloseByFrame(Window);
+        LeaveBy(way);
         QCOMPARE(desk.TakeMessage(), NoDate);
         QVERIFY(IsShown(Window));
         QCOMPARE(FocusOf(Window), u"txtCurrentPayPeriod"_s);
@@ -118,6 +139,91 @@ private Q_SLOTS:
         Type(Window, u"txtCurrentPayPeriod"_s, u"1/1/9000"_s);
         PressEnter(Window, u"txtCurrentPayPeriod"_s);
         QCOMPARE(State.CurrentPayPeriod, u"1/1/9000"_s);
+    }
+
+    void ADateThatIsNoPayDateIsSteppedOnFrom_data()
+    {
+        QTest::addColumn<qint16>("frequency");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("second");
+        QTest::addColumn<int>("monthEnd");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("next");
+        QTest::addColumn<QString>("heading");
+        QTest::newRow("weekly") << Weekly << 0 << 0 << 0 << u"12/27/2003"_s << u"1/3/2004"_s << u"January 3, 2004"_s;
+        QTest::newRow("biweekly") << Biweekly << 0 << 0 << 0 << u"1-7-04"_s << u"1/21/2004"_s << u"January 21, 2004"_s;
+        QTest::newRow("between the 1st and the 15th")
+            << Semimonthly << 1 << 15 << 0 << u"January 7, 2004"_s << u"1/15/2004"_s << u"January 15, 2004"_s;
+        QTest::newRow("before the 5th, which is passed over")
+            << Semimonthly << 5 << 20 << 0 << u"1/3/2004"_s << u"1/20/2004"_s << u"January 20, 2004"_s;
+        QTest::newRow("past the 20th")
+            << Semimonthly << 5 << 20 << 0 << u"1/25/2004"_s << u"2/5/2004"_s << u"February 5, 2004"_s;
+        QTest::newRow("the 28th counts as the month's end")
+            << Semimonthly << 15 << 0 << 0 << u"1/28/2004"_s << u"2/15/2004"_s << u"February 15, 2004"_s;
+        QTest::newRow("monthly")
+            << Monthly << 0 << 0 << 0 << u"1/7/2004"_s << u"2/7/2004"_s << u"February 7, 2004"_s;
+        QTest::newRow("in the middle of a month that ends with pay")
+            << Monthly << 0 << 0 << -1 << u"1/15/2004"_s << u"2/29/2004"_s << u"February 29, 2004"_s;
+    }
+    void ADateThatIsNoPayDateIsSteppedOnFrom()
+    {
+        QFETCH(qint16, frequency);
+        QFETCH(int, first);
+        QFETCH(int, second);
+        QFETCH(int, monthEnd);
+        QFETCH(QString, typed);
+        QFETCH(QString, next);
+        QFETCH(QString, heading);
+        GuiDesk desk;
+        desk.StartProgram();
+        State.PayFrequency = frequency;
+        State.FirstPayDate = qint16(first);
+        State.SecondPayDate = qint16(second);
+        State.MonthEndPay = qint16(monthEnd);
+        Show(Window);
+        Type(Window, u"txtCurrentPayPeriod"_s, typed);
+        PressEnter(Window, u"txtCurrentPayPeriod"_s);
+        QCOMPARE(State.CurrentPayPeriod, typed);
+        QCOMPARE(NextPayPeriod(State.CurrentPayPeriod, State.PayFrequency).Text(), next);
+        Show(u"frmBudget"_s);
+        Click(u"frmBudget"_s, u"cmdBudget"_s);
+        QCOMPARE(TheWindows.Loaded(u"frmBudget"_s)->windowTitle(), u"Looking Ahead - "_s + heading);
+    }
+
+    // The tutor
+
+    void TheTutorRestsFromLoadToUnload_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::addColumn<bool>("runs");
+        for (int way = 0; way < WaysOut; ++way) {
+            QTest::addRow("way %d, the timer runs", way) << way << true;
+            QTest::addRow("way %d, the timer is off and stays off", way) << way << false;
+        }
+    }
+    void TheTutorRestsFromLoadToUnload()
+    {
+        QFETCH(int, way);
+        QFETCH(bool, runs);
+        GuiDesk desk;
+        TheWindows.Declare(u"frmMain"_s, [] { return new MainToy; });
+        Show(u"frmMain"_s);
+        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
+        if (runs)
+            timer.start();
+        State.CurrentPayPeriod = u"01-05-2004"_s;
+        TheWindows.Touch(Window);
+        QVERIFY(!timer.isActive()); // with the load, before anything is seen
+        Show(Window);
+        QVERIFY(!timer.isActive());
+        Type(Window, u"txtCurrentPayPeriod"_s, u"abc"_s);
+        LeaveBy(way);
+        QCOMPARE(desk.TakeMessage(), NoDate);
+        QVERIFY(!timer.isActive()); // a refused way out is none
+        Type(Window, u"txtCurrentPayPeriod"_s, u"1/7/2004"_s);
+        LeaveBy(way);
+        QVERIFY(!TheWindows.Loaded(Window));
+        QCOMPARE(timer.isActive(), runs);
     }
 
     void TheClockGoesOnAndTheDateIsNotRefreshed()

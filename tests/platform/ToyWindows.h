@@ -83,11 +83,13 @@ public:
         Tell(objectName() + QStringLiteral(" LostFocus ") + control->objectName());
     }
     bool TakesActivation() const override { return m_takesActivation; }
+    int HelpContext() const override { return TheHelpContext; }
     using Form::OnEnter;
 
     QLineEdit *const First;
     QLineEdit *const Second;
     QPushButton *const Button;
+    int TheHelpContext = 0;
     inline static int FirstFieldEntered = 0; ///< how often the handler of a first field's got-focus has run
 
 private:
@@ -105,6 +107,7 @@ public:
         for (const char *name : {"A", "B", "C", "D"})
             TheWindows.Declare(QString::fromLatin1(name), [] { return new ToyWindow; });
         TheWindows.Declare(QStringLiteral("T"), [] { return new ToyWindow(false); });
+        TheDesk.Hourglass = [](bool) {};
         TheDesk.EndProgram = [] { Tell(QStringLiteral("the program ends")); };
     }
     ~ToyBox()

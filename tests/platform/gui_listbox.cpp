@@ -30,6 +30,17 @@ struct Stage {
     {
         QTest::mouseClick(List->viewport(), button, {}, At(row));
     }
+    void DoubleClick(int row, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mouseDClick(List->viewport(), button, {}, At(row));
+    }
+    /// With the button held down.
+    void MoveTo(int row, Qt::MouseButton button) const
+    {
+        QMouseEvent move(QEvent::MouseMove, At(row), List->viewport()->mapToGlobal(At(row)), Qt::NoButton, button,
+                         Qt::NoModifier);
+        QApplication::sendEvent(List->viewport(), &move);
+    }
     void Press(Qt::Key key) const { QTest::keyClick(List, key); }
 
     QWidget Window;
@@ -93,11 +104,28 @@ private Q_SLOTS:
         QCOMPARE(stage.List->ListIndex(), 0);
     }
 
-    void TheRightButtonIsNoClick()
+    void OnlyTheLeftButtonClicks_data()
     {
+        QTest::addColumn<Qt::MouseButton>("button");
+        QTest::newRow("right") << Qt::RightButton;
+        QTest::newRow("middle") << Qt::MiddleButton;
+    }
+    void OnlyTheLeftButtonClicks()
+    {
+        QFETCH(Qt::MouseButton, button);
         Stage stage;
-        stage.Click(1, Qt::RightButton);
-        QCOMPARE(stage.Clicks.count(), 0);
+        stage.Click(1, button);
+        stage.DoubleClick(1, button);
+        QCOMPARE(stage.List->ListIndex(), -1);
+        stage.Click(0);
+        stage.Click(1, button);
+        stage.DoubleClick(2, button);
+        QTest::mousePress(stage.List->viewport(), button, {}, stage.At(1));
+        stage.MoveTo(2, button);
+        QTest::mouseRelease(stage.List->viewport(), button, {}, stage.At(2));
+        QCOMPARE(stage.List->ListIndex(), 0);
+        QCOMPARE(stage.Clicks.count(), 1);
+        QCOMPARE(stage.DoubleClicks.count(), 0);
     }
 
     // What is selected has always been told: the row where the mouse is let go counts.
@@ -105,9 +133,7 @@ private Q_SLOTS:
     {
         Stage stage;
         QTest::mousePress(stage.List->viewport(), Qt::LeftButton, {}, stage.At(0));
-        QMouseEvent move(QEvent::MouseMove, stage.At(2), stage.List->viewport()->mapToGlobal(stage.At(2)), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(stage.List->viewport(), &move);
+        stage.MoveTo(2, Qt::LeftButton);
         QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(2));
         QCOMPARE(stage.Clicks.count(), 1);
         QCOMPARE(stage.List->ListIndex(), 2);
@@ -117,7 +143,7 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.Click(1);
-        QTest::mouseDClick(stage.List->viewport(), Qt::LeftButton, {}, stage.At(1));
+        stage.DoubleClick(1);
         QCOMPARE(stage.DoubleClicks.count(), 1);
         QCOMPARE(stage.List->ListIndex(), 1);
     }
@@ -136,6 +162,25 @@ private Q_SLOTS:
         stage.Press(Qt::Key_Up);
         stage.Press(Qt::Key_T); // typing ahead moves the mark, too
         QCOMPARE(stage.List->currentRow(), 2);
+        QCOMPARE(stage.List->ListIndex(), 0);
+        QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void TheMarkThatCodePutsSelectsNothing()
+    {
+        Stage stage;
+        stage.List->setFocus();
+        stage.List->Mark(1);
+        QCOMPARE(stage.List->currentRow(), 1);
+        QCOMPARE(stage.List->ListIndex(), -1);
+        stage.Press(Qt::Key_Down); // the keys go on from it
+        QCOMPARE(stage.List->currentRow(), 2);
+        stage.Click(0);
+        stage.List->Mark(2);
+        QCOMPARE(stage.List->currentRow(), 2);
+        QCOMPARE(stage.List->ListIndex(), 0);
+        stage.List->Mark(-1);
+        QCOMPARE(stage.List->currentRow(), -1);
         QCOMPARE(stage.List->ListIndex(), 0);
         QCOMPARE(stage.Clicks.count(), 1);
     }

@@ -1,4 +1,4 @@
-// The real message boxes: what stands in them and what their buttons do.
+// The real message boxes: what stands in them and what their buttons do; and where the file dialogs open.
 #include "GuiMain.h"
 #include "ToyWindows.h"
 #include "platform/RealDesk.h"
@@ -185,6 +185,36 @@ private Q_SLOTS:
         QCOMPARE(TheDesk.ShowMessage({"outer", "title", Icon::Question, Buttons::YesNo}), Answer::Yes);
         answered += "outer";
         QCOMPARE(answered, (QStringList{"inner", "outer"}));
+    }
+
+    // The file dialogs
+
+    void AFileDialogOpensInTheFolderOnTheDisk_data()
+    {
+        QTest::addColumn<QString>("onDisk");
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("without a name") << "stores" << "\\stores\\" << "" << "/stores/";
+        QTest::newRow("with a name") << "stores" << "\\stores\\" << "weekly.lst" << "/stores/weekly.lst";
+        QTest::newRow("spelled otherwise") << "STORES" << "\\stores\\" << "" << "/STORES/";
+        QTest::newRow("spelled otherwise, with a name") << "STORES" << "\\stores\\" << "weekly.lst" << "/STORES/weekly.lst";
+        QTest::newRow("without a separator at its end") << "STORES" << "\\stores" << "" << "/STORES/";
+        QTest::newRow("with the platform's separators") << "STORES" << "/stores/" << "weekly.lst" << "/STORES/weekly.lst";
+        QTest::newRow("a folder in a folder") << "Lists/STORES" << "\\lists\\stores\\" << "" << "/Lists/STORES/";
+        QTest::newRow("no such folder") << "elsewhere" << "\\stores\\" << "" << "/stores/";
+    }
+    void AFileDialogOpensInTheFolderOnTheDisk()
+    {
+        QFETCH(QString, onDisk);
+        QFETCH(QString, given);
+        QFETCH(QString, name);
+        QFETCH(QString, start);
+        const QTemporaryDir household;
+        QVERIFY(QDir(household.path()).mkpath(onDisk));
+        for (const FileQuestion::Kind kind : {FileQuestion::Open, FileQuestion::Save})
+            QCOMPARE(DialogStart({kind, "Store List Files (*.lst)|*.lst", household.path() + given, name}),
+                     household.path() + start);
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "platform/Desk.h"
 #include "platform/PagePrinter.h"
 
+#include <QStandardPaths>
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QProcess>
@@ -244,14 +245,21 @@ private Q_SLOTS:
         QVERIFY(pages.last().contains("Line 200"));
     }
 
-    void AFolderThatCannotBeMadeIsAnError()
+    void WhereTheFolderCannotBeMadeThePagesGoToTheDocuments()
     {
         if (!QPrinterInfo::availablePrinters().isEmpty())
             QSKIP("this machine has a printer, and a test prints nothing on it");
         QFile file(m_folder.filePath("file"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         const PrintJob job{Courier(8), Numbered(2)};
-        QCOMPARE(ErrorOf([&] { PrintToPaperOrPdf(job, m_folder.filePath("file/printed")); }), 75);
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(m_folder.path()));
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        const QString path = PrintToPaperOrPdf(job, m_folder.filePath("file/printed"));
+        qputenv("HOME", home);
+        QVERIFY(documents.startsWith(m_folder.path()));
+        QCOMPARE(QFileInfo(path).path(), documents);
+        QVERIFY(PagesOf(path).value(0).contains("Line 1\n"));
     }
 
     void AFullDiskIsAnErrorAndLeavesNoHalfDocument()

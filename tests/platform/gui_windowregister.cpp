@@ -1160,6 +1160,75 @@ private Q_SLOTS:
         QCOMPARE(TakeLog(), (QStringList{"A LostFocus First", "box closed", "A GotFocus Button", "A Click"}));
     }
 
+    // The help
+
+    void F1OpensTheWindowsHelpAndNothingElse_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::newRow("in a field") << "First";
+        QTest::newRow("on a button") << "Button";
+        QTest::newRow("without any control") << QString();
+    }
+    void F1OpensTheWindowsHelpAndNothingElse()
+    {
+        QFETCH(QString, control);
+        ToyBox toys;
+        const QList<HelpQuestion> &asked = RecordHelp();
+        Show("B");
+        toys["B"].TheHelpContext = 7;
+        Show("A");
+        toys["A"].TheHelpContext = 22;
+        toys["A"].First->setText("12.50");
+        auto *watched = control.isEmpty() ? &toys["A"] : toys["A"].findChild<QWidget *>(control);
+        if (!control.isEmpty())
+            toys["A"].FocusOn(watched);
+        Settle();
+        TakeLog();
+        QTest::keyClick(watched, Qt::Key_F1);
+        Settle();
+        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 22}}));
+        QCOMPARE(TakeLog(), QStringList());
+        QCOMPARE(toys["A"].First->text(), "12.50");
+        QCOMPARE(Active(), "A");
+        toys["A"].TheHelpContext = 0; // the contents
+        QTest::keyClick(watched, Qt::Key_F1);
+        QCOMPARE(asked.last(), (HelpQuestion{QString(), 0}));
+        QCOMPARE(asked.size(), 2);
+    }
+
+    void F1InAModalWindowOpensItsHelp()
+    {
+        ToyBox toys;
+        const QList<HelpQuestion> &asked = RecordHelp();
+        Show("A");
+        toys["A"].TheHelpContext = 22;
+        QStringList heard{"not asked"};
+        bool stayed = false;
+        Soon([&] {
+            toys["B"].TheHelpContext = 7;
+            TakeLog();
+            QTest::keyClick(toys["B"].Second, Qt::Key_F1);
+            Settle();
+            heard = TakeLog();
+            stayed = toys["B"].isVisible();
+            Unload("B");
+        });
+        ShowModal("B");
+        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 7}}));
+        QCOMPARE(heard, QStringList());
+        QVERIFY(stayed);
+    }
+
+    void AnotherKeyAsksForNoHelp()
+    {
+        ToyBox toys;
+        const QList<HelpQuestion> &asked = RecordHelp();
+        Show("A");
+        for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Help, Qt::Key_H})
+            QTest::keyClick(toys["A"].First, key);
+        QCOMPARE(asked.size(), 0);
+    }
+
     // The end of the program
 
     void TheProgramEndsWithItsLastWindow_data()
@@ -1283,6 +1352,49 @@ private Q_SLOTS:
         QCOMPARE(TakeLog().count("the program ends"), 1);
     }
 
+    void AnUntrappedErrorPutsThePointerBackBeforeItIsReported()
+    {
+        ToyBox toys;
+        QStringList order;
+        TheDesk.Hourglass = [&](bool on) { order += on ? "hourglass" : "normal"; };
+        TheDesk.ShowMessage = [&](const Message &) {
+            order += "box";
+            return Answer::Ok;
+        };
+        TheDesk.EndProgram = [&] { order += "end"; };
+        Show("A");
+        When("A Click", [] {
+            TheDesk.Hourglass(true);
+            RaiseError(RuntimeError::DivisionByZero);
+        });
+        QTest::mouseClick(toys["A"].Button, Qt::LeftButton);
+        QCOMPARE(order, (QStringList{"hourglass", "normal", "box", "end"}));
+    }
+
+    void ThePointerOverTheReportIsTheNormalOne()
+    {
+        ToyBox toys;
+        UseRealBoxes();
+        Show("A");
+        bool wasBusy = false;
+        bool isBusy = true;
+        When("A Click", [&] {
+            TheDesk.Hourglass(true);
+            TheDesk.Hourglass(true); // two that wanted it
+            wasBusy = QApplication::overrideCursor();
+            Soon([&] {
+                isBusy = QApplication::overrideCursor();
+                AnswerBoxSoon();
+            });
+            RaiseError(RuntimeError::DivisionByZero);
+        });
+        QTest::mouseClick(toys["A"].Button, Qt::LeftButton);
+        QVERIFY(wasBusy);
+        QVERIFY(!isBusy);
+        QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(TakeLog().count("the program ends"), 1);
+    }
+
     void AnErrorOfATimerUnderTheReportIsNotReported()
     {
         ToyBox toys;
@@ -1306,6 +1418,15 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_folder;
+    QList<HelpQuestion> m_asked;
+
+    /// What the help is asked for from here on.
+    const QList<HelpQuestion> &RecordHelp()
+    {
+        m_asked.clear();
+        TheDesk.ShowHelp = [this](const HelpQuestion &question) { m_asked += question; };
+        return m_asked;
+    }
 
     void UseRealBoxes()
     {

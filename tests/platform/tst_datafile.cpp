@@ -324,10 +324,13 @@ private Q_SLOTS:
 
     void ALongValueIsReadInOneGo()
     {
-        const QByteArray digits(1000000, '7');
+        const QByteArray digits(InputFile::GreatestValue, '7');
         QCOMPARE(ReadKinds(digits + ",5", "ii"), (QStringList{QStringLiteral("error 6"), QStringLiteral("5")}));
+        // One sign more is too long, and the next value is read as if nothing had been.
+        QCOMPARE(ReadKinds(digits + "7,5", "ii"), (QStringList{QStringLiteral("error 7"), QStringLiteral("5")}));
+        QCOMPARE(ReadKinds(digits + "7,5", "si"), (QStringList{QStringLiteral("error 7"), QStringLiteral("5")}));
         QCOMPARE(ReadKinds(QByteArray(1000000, ' ') + "5", "i"), QStringList{QStringLiteral("5")});
-        QCOMPARE(ReadKinds('"' + digits, "s").first().size(), 1000000);
+        QCOMPARE(ReadKinds('"' + digits, "s").first().size(), InputFile::GreatestValue);
     }
 
     // ---- Opening, and its errors
@@ -436,14 +439,21 @@ private Q_SLOTS:
         InputFile input;
         input.Open(Path(asked));
         QCOMPARE(int(input.InputInteger()), 5);
-        // It is the same file for a writer and for a deletion.
-        OutputFile output;
-        output.Open(Path(asked));
-        output.Write(qint16(6));
-        output.Close();
-        QCOMPARE(Get(onDisk), QByteArray("6\r\n"));
+        // It is the same file for a deletion.
         DeleteFile(Path(asked));
         QVERIFY(!FileExists(Path(onDisk)));
+    }
+
+    void AWriterKeepsToItsSpellingAndFindsTheFolder()
+    {
+        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("STORES")));
+        Put(QStringLiteral("STORES/Weekly.lst"), "5\r\n");
+        OutputFile output;
+        output.Open(Path(QStringLiteral("stores\\weekly.lst")));
+        output.Write(qint16(6));
+        output.Close();
+        QCOMPARE(Get(QStringLiteral("STORES/weekly.lst")), QByteArray("6\r\n"));
+        QCOMPARE(Get(QStringLiteral("STORES/Weekly.lst")), QByteArray("5\r\n"));
     }
 
     void TheSpellingOfTheQuestionComesFirst()
