@@ -34,7 +34,7 @@ press() {
 }
 
 type_text() {
-    xdotool type --delay 15 "$1"
+    xdotool type --delay 15 -- "$1"
     sleep 0.2
 }
 

@@ -242,8 +242,7 @@ private Q_SLOTS:
         QTest::newRow("extra items") << u"frmExtras"_s
                                      << QStringList{u"lblPayPeriod"_s, u"txtExtraItemAmount"_s, u"txtExtraItem"_s};
         QTest::newRow("projects") << u"frmProjects"_s
-                                  << QStringList{u"txtProject"_s, u"txtProjectAmount"_s,
-                                                 u"txtProjectCompletionDate"_s};
+                                  << QStringList{u"txtProject"_s, u"txtProjectAmount"_s, u"txtProjectCompletionDate"_s};
         QTest::newRow("a project") << u"frmViewProject"_s << QStringList();
     }
     void TheFilledHouseholdFillsTheWindows()

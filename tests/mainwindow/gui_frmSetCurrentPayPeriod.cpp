@@ -156,12 +156,11 @@ private Q_SLOTS:
             << Semimonthly << 1 << 15 << 0 << u"January 7, 2004"_s << u"1/15/2004"_s << u"January 15, 2004"_s;
         QTest::newRow("before the 5th, which is passed over")
             << Semimonthly << 5 << 20 << 0 << u"1/3/2004"_s << u"1/20/2004"_s << u"January 20, 2004"_s;
-        QTest::newRow("past the 20th")
-            << Semimonthly << 5 << 20 << 0 << u"1/25/2004"_s << u"2/5/2004"_s << u"February 5, 2004"_s;
+        QTest::newRow("past the 20th") << Semimonthly << 5 << 20 << 0 << u"1/25/2004"_s << u"2/5/2004"_s
+                                       << u"February 5, 2004"_s;
         QTest::newRow("the 28th counts as the month's end")
             << Semimonthly << 15 << 0 << 0 << u"1/28/2004"_s << u"2/15/2004"_s << u"February 15, 2004"_s;
-        QTest::newRow("monthly")
-            << Monthly << 0 << 0 << 0 << u"1/7/2004"_s << u"2/7/2004"_s << u"February 7, 2004"_s;
+        QTest::newRow("monthly") << Monthly << 0 << 0 << 0 << u"1/7/2004"_s << u"2/7/2004"_s << u"February 7, 2004"_s;
         QTest::newRow("in the middle of a month that ends with pay")
             << Monthly << 0 << 0 << -1 << u"1/15/2004"_s << u"2/29/2004"_s << u"February 29, 2004"_s;
     }

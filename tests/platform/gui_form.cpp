@@ -19,8 +19,9 @@ public:
     {
         auto *layout = new QVBoxLayout(this);
         Text->setWordWrap(true);
-        Text->setText(QStringLiteral("After obtaining information, this feature proceeds to display a plan that pays off "
-                                     "your bills in the shortest time possible considering the money you have to work with"));
+        Text->setText(
+            QStringLiteral("After obtaining information, this feature proceeds to display a plan that pays off "
+                           "your bills in the shortest time possible considering the money you have to work with"));
         List->setMinimumSize(Narrow / 2, 100);
         layout->addWidget(Text);
         layout->addWidget(List, 1);

@@ -191,18 +191,29 @@ private Q_SLOTS:
 
     void AFileDialogOpensInTheFolderOnTheDisk_data()
     {
+        struct Case {
+            const char *Name;
+            const char *OnDisk;
+            const char *Given;
+            const char *File;
+            const char *Start;
+        };
+        static const Case cases[] = {
+            {"without a name", "stores", "\\stores\\", "", "/stores/"},
+            {"with a name", "stores", "\\stores\\", "weekly.lst", "/stores/weekly.lst"},
+            {"spelled otherwise", "STORES", "\\stores\\", "", "/STORES/"},
+            {"spelled otherwise, with a name", "STORES", "\\stores\\", "weekly.lst", "/STORES/weekly.lst"},
+            {"without a separator at its end", "STORES", "\\stores", "", "/STORES/"},
+            {"with the platform's separators", "STORES", "/stores/", "weekly.lst", "/STORES/weekly.lst"},
+            {"a folder in a folder", "Lists/STORES", "\\lists\\stores\\", "", "/Lists/STORES/"},
+            {"no such folder", "elsewhere", "\\stores\\", "", "/stores/"},
+        };
         QTest::addColumn<QString>("onDisk");
         QTest::addColumn<QString>("given");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("start");
-        QTest::newRow("without a name") << "stores" << "\\stores\\" << "" << "/stores/";
-        QTest::newRow("with a name") << "stores" << "\\stores\\" << "weekly.lst" << "/stores/weekly.lst";
-        QTest::newRow("spelled otherwise") << "STORES" << "\\stores\\" << "" << "/STORES/";
-        QTest::newRow("spelled otherwise, with a name") << "STORES" << "\\stores\\" << "weekly.lst" << "/STORES/weekly.lst";
-        QTest::newRow("without a separator at its end") << "STORES" << "\\stores" << "" << "/STORES/";
-        QTest::newRow("with the platform's separators") << "STORES" << "/stores/" << "weekly.lst" << "/STORES/weekly.lst";
-        QTest::newRow("a folder in a folder") << "Lists/STORES" << "\\lists\\stores\\" << "" << "/Lists/STORES/";
-        QTest::newRow("no such folder") << "elsewhere" << "\\stores\\" << "" << "/stores/";
+        for (const Case &one : cases)
+            QTest::newRow(one.Name) << one.OnDisk << one.Given << one.File << one.Start;
     }
     void AFileDialogOpensInTheFolderOnTheDisk()
     {
