@@ -1,7 +1,5 @@
 #include "platform/Form.h"
 
-#include "platform/WindowRegister.h"
-
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,7 +44,7 @@ void Form::LostFocus(QWidget *control)
 
 void Form::FocusOn(QWidget *control)
 {
-    TheWindows.MoveFocus(this, control);
+    TheKeeper->MoveFocus(this, control);
 }
 
 QWidget *Form::FocusControl() const
@@ -134,8 +132,8 @@ void Form::GiveLinesTheirHeight()
 
 void Form::closeEvent(QCloseEvent *event)
 {
-    if (TheWindows.Loaded(objectName()) != this) // ended already
+    if (!TheKeeper->Keeps(this)) // ended already
         return;
     event->ignore(); // the register hides and ends the window itself
-    TheWindows.Unload(objectName(), CloseMode::CloseBox);
+    TheKeeper->CloseByFrame(this);
 }

@@ -10,6 +10,19 @@
 class QLabel;
 class QLineEdit;
 
+class Form;
+
+/// Who keeps the windows: what a window asks of the register, which knows windows and is not known to them.
+class FormKeeper
+{
+public:
+    virtual ~FormKeeper() = default;
+    virtual bool Keeps(const Form *form) const = 0; ///< false once the window has ended
+    virtual void MoveFocus(Form *form, QWidget *control) = 0;
+    virtual void CloseByFrame(Form *form) = 0;
+};
+inline FormKeeper *TheKeeper = nullptr;
+
 class Form : public QWidget
 {
     Q_OBJECT

@@ -17,10 +17,12 @@ class QEventLoop;
 class QKeyEvent;
 class QShortcutEvent;
 
-class WindowRegister : public QObject
+class WindowRegister : public QObject, public FormKeeper
 {
     Q_OBJECT
 public:
+    WindowRegister() { TheKeeper = this; }
+
     using Factory = std::function<Form *()>;
 
     /// Makes a window known. It comes into being at its first need.
@@ -62,7 +64,9 @@ public:
     /// Ends all instances without a word and forgets all windows; for tests.
     void Reset();
 
-    void MoveFocus(Form *form, QWidget *control);
+    bool Keeps(const Form *form) const override { return Loaded(form->objectName()) == form; }
+    void MoveFocus(Form *form, QWidget *control) override;
+    void CloseByFrame(Form *form) override { Unload(form->objectName(), Form::CloseMode::CloseBox); }
     /// Watches the application. Called once, when the application object exists.
     void Start();
 

@@ -4,6 +4,8 @@
 
 #include "budget/BudgetGenerator.h"
 
+#include <QSignalSpy>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -149,6 +151,71 @@ private Q_SLOTS:
         QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).Text(3, 0), u"SAVINGS"_s);
     }
 
+    void ATabInANameStaysInItsCell()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfCreditors = State.NumberOfRegulars = State.NumberOfProjects = 1;
+        State.Creditors = {{u"Rent\thouse"_s, 20, Currency::FromDouble(10)}};
+        State.Regulars = {{u"Food\tbought"_s, Currency::FromDouble(20)}};
+        State.ExtraPayPeriods(1).ExtraItems(2).ExtraItem = u"Refund\tof tax"_s;
+        State.ExtraPayPeriods(2).ExtraItems(1).ExtraItem = u"Then\tlater"_s;
+        State.ProjectNames = {u"Roof\ttiles"_s};
+        State.ProjectAmounts = {Currency::FromDouble(30)};
+        State.ProjectEntryCounts = {qint16(1)};
+        State.ProjectEntryDates.Redim(1);
+        State.ProjectEntryAmounts.Redim(1);
+        State.ProjectEntryDates(1)(1) = DateText(u"1/15/2004"_s);
+        State.ProjectEntryAmounts(1)(1) = Currency::FromDouble(30);
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Rent\thouse - 20th | $10.00"_s,
+                                      u"Food\tbought | $20.00"_s, u"Then\tlater | $1,100.00"_s,
+                                      u"Roof\ttiles | $30.00"_s, u"DEFICIT | ($160.00)"_s}));
+        QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).Rows(), 133); // four lines and the empty row were inserted
+        Click(Window, u"cmdBudget"_s);
+        // 1,000 - 20 - 520 + 20 = 480, of which (480 - 160) / 2 = 160 stay.
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Food\tbought | $20.00"_s, u"Now | $520.00"_s,
+                                      u"CREDIT - Refund\tof tax | ($20.00)"_s, u"Budget - January 15, 2004 | $320.00"_s,
+                                      u"SAVINGS | $160.00"_s}));
+        QVERIFY(!desk.Ended);
+    }
+
+    void TheGreatestNumberOfRegularItemsIsSteppedThrough()
+    {
+        constexpr int most = 32767;
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfExtraPayPeriods = 0;
+        State.NumberOfRegulars = most;
+        State.Regulars.Redim(most);
+        for (int i = 1; i <= most; ++i)
+            State.Regulars(i) = {u"Item %1"_s.arg(i), Currency::FromTenThousandths(100)};
+        Show(Window);
+        const auto &grid = Find<Grid>(Window, u"grdBudget"_s);
+        const QSignalSpy refreshed(grid.model(), &QAbstractItemModel::modelReset);
+        // Each run inserts its lines, the empty row and the savings of 1,000 - 327.67; the rows of before are emptied
+        // and pushed down.
+        for (int run = 1; run <= 3; ++run) {
+            Click(Window, u"cmdBudget"_s);
+            QCOMPARE(grid.Rows(), 128 + run * (most + 2));
+            QCOMPARE(grid.model()->rowCount(), grid.Rows() - 1);
+            QCOMPARE(refreshed.size(), run); // the view is told once a run
+            QCOMPARE(grid.Text(1, 0), QString());
+            QCOMPARE(grid.Text(2, 0), u"Item 1"_s);
+            QCOMPARE(grid.Text(2, 1), u"$0.01"_s);
+            QCOMPARE(grid.Text(most + 1, 0), u"Item 32767"_s);
+            QCOMPARE(grid.Text(most + 1, 1), u"$0.01"_s);
+            QCOMPARE(grid.Text(most + 2, 0), QString());
+            QCOMPARE(grid.Text(most + 3, 0), u"SAVINGS"_s);
+            QCOMPARE(grid.Text(most + 3, 1), u"$672.33"_s);
+            for (int row = most + 4; row < grid.Rows(); ++row)
+                if (!grid.Text(row, 0).isEmpty() || !grid.Text(row, 1).isEmpty())
+                    QFAIL(qPrintable(u"row %1 is not empty in run %2"_s.arg(row).arg(run)));
+        }
+        QCOMPARE(Caption(), u"Looking Ahead - January 29, 2004"_s);
+    }
+
     void GoingToAnotherWindowAndBackLooksAheadAgainFromWhereItWas()
     {
         GuiDesk desk;
@@ -282,6 +349,22 @@ private Q_SLOTS:
         Click(Window, u"cmdCancel"_s);
         QCOMPARE(desk.Printed.size(), 1);
         QVERIFY(!State.PrintBudget);
+    }
+
+    void PagesAreNotLostWhenTheFrameClosesTheWindow()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Choose(u"mnuBudgetViewBudget"_s);
+        Click(Window, u"pbPrintOn"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(desk.Printed.size(), 0);
+        CloseByFrame(Window);
+        QVERIFY(!TheWindows.Loaded(Window));
+        QCOMPARE(desk.Printed.size(), 1);
+        QCOMPARE(desk.Printed[0].Lines.value(2).trimmed(), u"Looking Ahead - January 19, 2004"_s);
+        QVERIFY(!State.PrintBudget);
+        QVERIFY(!desk.Ended);
     }
 
     void ADamagedDateEndsTheProgramWithTheDefaultReport()

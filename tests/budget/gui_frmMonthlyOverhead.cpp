@@ -84,6 +84,20 @@ private Q_SLOTS:
             QCOMPARE(Find<Grid>(Window, u"grdOverhead"_s).Colour(row, 1), GridColour::Text);
     }
 
+    void ATabInANameStaysInItsCell()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.Creditors(1).CreditorName = u"Rent\thouse"_s;
+        State.Regulars(1).RegularItem = u"Food\tbought"_s;
+        Show(Window);
+        QStringList expected = SoundMonth;
+        expected[2] = u"Rent\thouse - 1st | $500.00"_s;
+        expected[3] = u"Food\tbought | $260.00"_s;
+        QCOMPARE(Rows(), expected);
+        QVERIFY(!desk.Ended);
+    }
+
     void ADeficitStandsApartInRed()
     {
         GuiDesk desk;

@@ -577,10 +577,10 @@ private Q_SLOTS:
         QCOMPARE(Told(household.Run()), QStringLiteral("x - 29th 1; x - 30th 1; x - 1st 1; x - 12th 1"));
     }
 
-    void AFrequencyOfFourWeeksOverACommonFebruaryPaysNobody()
+    void SemimonthlyPayWithAFirstPayDayOf0PaysNobodyAndStands()
     {
-        // February 1 to March 1 of a common year with monthly pay on equal days: everybody. With any other frequency
-        // equal days can only come from settings that a file damaged: semimonthly pay with a first pay day of 0.
+        // Only a damaged file can say so: the day 0 of February is January 31 itself. The period starts and ends on one
+        // day, nobody falls due, and the next one starts there again.
         Household household;
         State.PayFrequency = Semimonthly;
         State.FirstPayDate = 0;
@@ -626,6 +626,41 @@ private Q_SLOTS:
         const BudgetPage page = household.RunPair();
         QCOMPARE(Told(page), QStringLiteral("Rent - 1st 6500001/10000; Rent - 1st -30"));
         QCOMPARE(page.Result, Count(10000000 - 6500001 + 300000));
+    }
+
+    void MoreItemsThanARecordHoldsAreWalkedAsFarAsItGoes()
+    {
+        Household household;
+        household.AddPayPeriod("1/1/2004");
+        for (int item = 1; item <= 200; ++item)
+            household.AddExtra("Gift", Dollars(1));
+        State.ExtraPayPeriods(1).NumberOfExtraItems = 300;
+        household.AddProject("Roof");
+        for (int entry = 1; entry <= 100; ++entry)
+            household.AddEntry("1/1/2004", Dollars(2));
+        State.ProjectEntryCounts(1) = 150;
+        household.AddProject("Trip"); // what stands behind the damaged ones counts as ever
+        household.AddEntry("1/1/2004", Dollars(7));
+        const BudgetPage page = household.RunPair();
+        QCOMPARE(page.Lines.size(), std::size_t(200 + 100 + 1));
+        QCOMPARE(page.Lines[199].Label, QStringLiteral("Gift"));
+        QCOMPARE(page.Lines[200].Label, QStringLiteral("Roof"));
+        QCOMPARE(page.Lines[300].Label, QStringLiteral("Trip"));
+        QCOMPARE(page.Result, Dollars(1000 - 200 - 200 - 7));
+        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/15/2004"));
+        QCOMPARE(Told(household.Run()), QString());
+    }
+
+    void CountsBelow0AreNoItems()
+    {
+        Household household;
+        household.AddPayPeriod("1/1/2004");
+        household.AddExtra("Gift", Dollars(1));
+        State.ExtraPayPeriods(1).NumberOfExtraItems = -3;
+        household.AddProject("Roof");
+        household.AddEntry("1/1/2004", Dollars(2));
+        State.ProjectEntryCounts(1) = -1;
+        QCOMPARE(Told(household.RunPair()), QString());
     }
 
     void StaleEntriesBehindACountOf0AreNotLookedAt()

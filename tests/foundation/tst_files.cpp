@@ -2,10 +2,14 @@
 #include "ErrorOf.h"
 #include "FakeDesk.h"
 #include "foundation/BudgetFiles.h"
+#include "foundation/ShoppingFiles.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
 #include "platform/DataFile.h"
 #include "platform/Locale.h"
+
+#include <csignal>
+#include <sys/resource.h>
 
 namespace {
 
@@ -104,6 +108,29 @@ void ExpectOnly(FakeDesk &desk, int count, const Message &message)
         QCOMPARE(told, message);
     desk.Messages.clear();
 }
+
+/// As long as it lives no file can grow beyond `bytes`, as on a device that fails in the middle of a write.
+class SmallFiles
+{
+public:
+    explicit SmallFiles(rlim_t bytes) : m_handler(::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const struct rlimit small = {bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallFiles()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        ::signal(SIGXFSZ, m_handler);
+    }
+    SmallFiles(const SmallFiles &) = delete;
+    SmallFiles &operator=(const SmallFiles &) = delete;
+
+private:
+    void (*m_handler)(int);
+    struct rlimit m_before = {};
+};
 
 /// Another locale for one test.
 class InLocale
@@ -905,23 +932,77 @@ private Q_SLOTS:
         QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")), QByteArray("1\r\n1\r\n\"Rent\"\r\n650\r\n"));
     }
 
+    void MoreThanARecordHoldsIsNotSaved_data()
+    {
+        QTest::addColumn<int>("list");
+        QTest::newRow("300 items") << 2;
+        QTest::newRow("150 entries") << 3;
+    }
+    void MoreThanARecordHoldsIsNotSaved()
+    {
+        FakeDesk desk;
+        const DataList &list = FetchedList();
+        PutOneOfEach();
+        State.ExtraPayPeriods(1).NumberOfExtraItems = 300;
+        State.ProjectEntryCounts(1) = 150;
+        desk.WriteFile(QLatin1String(list.File), "as it was");
+        list.Save();
+        QCOMPARE(desk.TakeMessage(), Told(OutOfRange, SaveTitle(list)));
+        QCOMPARE(desk.ReadFile(QLatin1String(list.File)), QByteArray("as it was"));
+        QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(300)); // and the user may still mend it
+        QCOMPARE(State.ProjectEntryCounts(1), qint16(150));
+        State.ExtraPayPeriods(1).NumberOfExtraItems = 200;
+        State.ProjectEntryCounts(1) = 100;
+        list.Save();
+        QVERIFY(desk.ReadFile(QLatin1String(list.File)).startsWith("1\r\n"));
+    }
+
+    void AFailureBehindTheDeleteIsToldAndTheMemoryStands()
+    {
+        FakeDesk desk;
+        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n1\r\n");
+        State.NumberOfCreditors = 2;
+        State.Creditors = {{QString(10000, QLatin1Char('x')), 1, Count(6500000)},
+                           {QStringLiteral("Car"), 15, Count(37500)}};
+        const auto inMemory = State.Creditors;
+        qsizetype written = 0;
+        {
+            const SmallFiles limit(4096);
+            SaveCreditors();
+            written = desk.ReadFile(QStringLiteral("creditor.txt")).size();
+        }
+        QCOMPARE(desk.TakeMessage(), Told("Error 57: Device I/O error", QStringLiteral("Save Creditors")));
+        QVERIFY(written <= 4096);
+        QVERIFY(!desk.ReadFile(QStringLiteral("creditor.txt")).contains("Rent")); // the old file was gone by then
+        QCOMPARE(State.NumberOfCreditors, qint16(2));
+        QVERIFY(State.Creditors == inMemory);
+        SaveCreditors(); // once there is room, the memory is saved whole
+        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")),
+                 "2\r\n1\r\n\"" + QByteArray(10000, 'x') + "\"\r\n650\r\n15\r\n\"Car\"\r\n3.75\r\n");
+    }
+
     void AFullDiskIsTold()
     {
         if (!QFile::exists(QStringLiteral("/dev/full")))
             QSKIP("this system has no device that is always full");
-        OutputFile file;
-        file.Open(QStringLiteral("/dev/full"));
-        QCOMPARE(ErrorOf([&] {
-                     file.Write(QString(100000, QLatin1Char('x')));
-                     file.Close();
-                 }),
-                 61);
+        FakeDesk desk;
+        QVERIFY(QDir().mkpath(desk.Path(QStringLiteral("stores"))));
+        // No plain file, so nothing is deleted before the device is written to.
+        QVERIFY(QFile::link(QStringLiteral("/dev/full"), desk.Path(QStringLiteral("stores/full.lst"))));
+        State.CurrentStoreFile = QStringLiteral("full.lst");
+        State.NumberOfCurrentItems = 1;
+        State.CurrentShoppingList.Redim(1);
+        State.CurrentShoppingList(1).Item = QStringLiteral("Milk");
+        SaveCurrentShoppingList();
+        QCOMPARE(desk.TakeMessage(), Told("Error 61: Disk full", QStringLiteral("Save Current Shopping List")));
+        QCOMPARE(State.NumberOfCurrentItems, qint16(1));
+        QCOMPARE(State.CurrentShoppingList(1).Item, QStringLiteral("Milk"));
     }
 
     // ------------------------------------------------------------ names and locales
 
-    void UpperCaseNamesAreFoundAndKept_data() { ListRows(); }
-    void UpperCaseNamesAreFoundAndKept()
+    void UpperCaseNamesAreFoundAndRewrittenInTheProgramsOwnSpelling_data() { ListRows(); }
+    void UpperCaseNamesAreFoundAndRewrittenInTheProgramsOwnSpelling()
     {
         FakeDesk desk;
         const DataList &list = FetchedList();
@@ -932,9 +1013,35 @@ private Q_SLOTS:
         State.*list.Count = 0;
         list.Save();
         // No second file beside the old one: a later load would not know which of the two to take.
-        QCOMPARE(QDir(desk.Folder()).entryList(QDir::Files).size(), 1);
-        const QString left = QDir(desk.Folder()).entryList(QDir::Files).first();
-        QCOMPARE(desk.ReadFile(left), QByteArray("0\r\n"));
+        QCOMPARE(QDir(desk.Folder()).entryList(QDir::Files), QStringList(QLatin1String(list.File)));
+        QCOMPARE(desk.ReadFile(QLatin1String(list.File)), QByteArray("0\r\n"));
+    }
+
+    void StoreListsWhoseNamesDifferInCaseAloneAreTwo_data()
+    {
+        QTest::addColumn<QString>("saved");
+        QTest::addColumn<QString>("other");
+        QTest::newRow("the small one is saved") << QStringLiteral("aldo.lst") << QStringLiteral("ALDO.LST");
+        QTest::newRow("the capital one is saved") << QStringLiteral("ALDO.LST") << QStringLiteral("aldo.lst");
+    }
+    void StoreListsWhoseNamesDifferInCaseAloneAreTwo()
+    {
+        FakeDesk desk;
+        QFETCH(QString, saved);
+        QFETCH(QString, other);
+        const auto list = [](const QByteArray &item) {
+            return "1\r\n\"" + item + "\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n2\r\n";
+        };
+        desk.WriteFile(QStringLiteral("stores/") + saved, list("Milk"));
+        desk.WriteFile(QStringLiteral("stores/") + other, list("Eggs"));
+        State.CurrentStoreFile = saved;
+        InputCurrentShoppingList();
+        QCOMPARE(State.CurrentShoppingList(1).Item, QStringLiteral("Milk"));
+        State.CurrentShoppingList(1).Item = QStringLiteral("Bread");
+        SaveCurrentShoppingList();
+        QCOMPARE(desk.ReadFile(QStringLiteral("stores/") + saved), list("Bread"));
+        QCOMPARE(desk.ReadFile(QStringLiteral("stores/") + other), list("Eggs"));
+        QCOMPARE(QDir(desk.Path(QStringLiteral("stores"))).entryList(QDir::Files).size(), 2);
     }
 
     void AHouseholdFromAnOldDiskStarts()

@@ -316,6 +316,20 @@ private Q_SLOTS:
         QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
     }
 
+    void AMissingHelpFolderIsAsAMissingTutorFile()
+    {
+        FakeDesk desk;
+        desk.LayHousehold();
+        QVERIFY(QDir(desk.Path(QStringLiteral("help"))).removeRecursively());
+        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
+        InitializeVariables();
+        QVERIFY(State.MathCalculatorMissing);
+        QVERIFY(!State.InitializingVariables);
+        QCOMPARE(State.NumberOfCreditors, qint16(1));
+        QCOMPARE(State.TutorInstructions(1), QString());
+        QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
+    }
+
     void EachPageEndsWithTheFooter()
     {
         FakeDesk desk;

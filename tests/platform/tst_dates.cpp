@@ -52,6 +52,7 @@ private Q_SLOTS:
         row("month and year: the first of the month", "May 1997", 1997, 5, 1);
         row("the first number cannot be a month and the second can", "24/5/97", 1997, 5, 24);
         row("they change places without a year, too", "24/5", 2004, 5, 24);
+        row("they change places behind a year, too", "1997/24/5", 1997, 5, 24);
         row("both can be months: the first one is", "5/6/1997", 1997, 5, 6);
         row("a time of day is dropped", "5/24/1997 10:30", 1997, 5, 24);
         row("a time of day with seconds and half of the day", "May 24, 1997 10:30:15 PM", 1997, 5, 24);

@@ -141,6 +141,29 @@ private Q_SLOTS:
             QCOMPARE(ErrorOf([&] { Format(QStringLiteral("1e400"), format); }), 6);
     }
 
+    void SeparatorsStandWhereTheLocalePutsThem()
+    {
+        SetUserLocale(QLocale(QLocale::English, QLocale::India));
+        const QString text = FormatCurrency(Count(12345670000));
+        QCOMPARE(text, QStringLiteral("\u20B912,34,567.00"));
+        QVERIFY(IsNumeric(text));
+        QCOMPARE(ToCurrency(text).TenThousandths(), qint64(12345670000));
+        QCOMPARE(Format(Count(12345670000), NumberFormat::Standard), QStringLiteral("12,34,567.00"));
+        QCOMPARE(Format(Count(9990000), NumberFormat::Standard), QStringLiteral("999.00"));
+    }
+
+    void APlainApostropheStandsForTheCurlyOne()
+    {
+        const QString typed = QStringLiteral("1'234'567.50");
+        SetUserLocale(Swiss);
+        QVERIFY(IsNumeric(typed));
+        QCOMPARE(ToCurrency(typed).TenThousandths(), qint64(12345675000));
+        QVERIFY(!IsNumeric(QStringLiteral("'1234"))); // it parts digits and does not lead them
+        QVERIFY(!IsNumeric(QStringLiteral("1.5'0"))); // nor stands behind the point
+        SetUserLocale(American);
+        QVERIFY(!IsNumeric(typed));
+    }
+
     void SignsFollowTheUsersLocale_data()
     {
         QTest::addColumn<QLocale>("locale");

@@ -121,6 +121,7 @@ private Q_SLOTS:
         row("an exponent that takes zeros back", QStringLiteral("15000e-3"), 150000);
         row("leading zeros", QStringLiteral("000000000000000000000000000005"), 50000);
         row("hexadecimal", QStringLiteral("&H1F"), 310000);
+        row("hexadecimal without a sign", QStringLiteral("&HFFFF"), 655350000);
         row("octal", QStringLiteral("&O17"), 150000);
         row("nothing to any power", QStringLiteral("0e99999999999"), 0);
     }
