@@ -5,14 +5,11 @@
 #include "platform/Grid.h"
 
 /// Walks down a grid of labels and amounts. Row 1 stays empty as a gap below the heading. Lines that follow each other
-/// are inserted in one go, when a line is written in place or the writer goes.
+/// are inserted in one go, when a line is written in place or at Finish, which every statement ends with.
 class LineWriter
 {
 public:
     explicit LineWriter(Grid &grid) : m_grid(grid) {}
-    ~LineWriter() { InsertWaiting(); }
-    LineWriter(const LineWriter &) = delete;
-    LineWriter &operator=(const LineWriter &) = delete;
 
     /// The counter goes up by one, and the line is inserted there; what lies below is pushed down.
     void Insert(const QString &label, const QString &amount)
@@ -24,7 +21,7 @@ public:
     /// The counter goes up by one, and the row is written in place, its amount in a colour that does not run on.
     void Write(const QString &label, const QString &amount, GridColour colour = GridColour::Text)
     {
-        InsertWaiting();
+        Finish();
         ++m_row;
         m_grid.SetText(m_row, 0, label);
         m_grid.SetColour(m_row, 1, colour);
@@ -33,13 +30,14 @@ public:
             m_grid.SetColour(m_row + 1, 1, GridColour::Text);
     }
 
-private:
-    void InsertWaiting()
+    void Finish()
     {
         if (!m_waiting.isEmpty())
             m_grid.AddRows(m_waiting, m_row - int(m_waiting.size()) + 1);
         m_waiting.clear();
     }
+
+private:
 
     Grid &m_grid;
     QList<QStringList> m_waiting;

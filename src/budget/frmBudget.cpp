@@ -97,6 +97,7 @@ void frmBudget::ShowPage(const BudgetPage &page)
         lines.Write(page.ResultLabel, FormatCurrency(page.Result), GridColour::LightRed);
     else
         lines.Insert(page.ResultLabel, FormatCurrency(page.Result));
+    lines.Finish();
 }
 
 void frmBudget::cmdBudget_Click()

@@ -69,6 +69,7 @@ void frmMonthlyOverhead::ShowOverhead()
     } else {
         lines.Insert(statement.ResultLabel, FormatCurrency(statement.Result));
     }
+    lines.Finish();
 }
 
 void frmMonthlyOverhead::cmdPrint_Click()

@@ -69,6 +69,7 @@ void frmSavingsForecast::Deactivate()
 void frmSavingsForecast::Unload()
 {
     WorkWindow::Unload();
+    State.ProjectDateFromForecast = false; // closed without a pick: a later look at the forecast picks nothing
     Deactivate();
 }
 
@@ -104,7 +105,7 @@ void frmSavingsForecast::PickCompletionDate()
     Forecast.ForecastPickRow = ToInteger(row);
     // The heading addresses a date before the first: error 9, which nobody traps.
     TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmProjects"), QStringLiteral("txtProjectCompletionDate"))
-        .setText(Forecast.ForecastDates(row));
+        .setText(row > MostForecastPeriods ? QString() : Forecast.ForecastDates(row));
     // A row below the last forecast row takes an empty date, and where nothing is accumulated there is no amount.
     const QString accumulated = ui->grdSavingsForecast->Text(row, Accumulated);
     Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency() : ToCurrency(accumulated);

@@ -38,3 +38,9 @@ void frmScanPayPeriods::lstScanPayPeriods_Click()
     FillPayPeriodList();
     TheWindows.Hide(objectName());
 }
+
+void frmScanPayPeriods::Unload()
+{
+    WorkWindow::Unload();
+    State.ScanCalledFromExtras = false; // closed without a pick: a later look at the list adds nothing
+}

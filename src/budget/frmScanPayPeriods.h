@@ -15,6 +15,7 @@ class frmScanPayPeriods : public WorkWindow
 public:
     frmScanPayPeriods();
     ~frmScanPayPeriods() override;
+    void Unload() override;
 
 private:
     void lstScanPayPeriods_GotFocus();

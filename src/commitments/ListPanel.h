@@ -17,6 +17,9 @@ inline const QString ChangeCaption = QStringLiteral("&Change");
 class ListPanel : public WorkWindow
 {
     Q_OBJECT
+public:
+    int HelpContext() const override { return m_controls.HelpContext; }
+
 protected:
     struct Controls {
         QString Title; ///< of the window's messages

@@ -38,15 +38,18 @@ std::optional<QString> ValidateProjectFunds(Currency amount)
 
 void AddProject(const QString &name, Currency amount)
 {
+    const int picked = Forecast.ForecastPickRow;
+    if (picked > 0 && ToCurrency(Forecast.ForecastAccumulated(picked)) == Currency())
+        RaiseError(RuntimeError::DivisionByZero); // before anything is added: there is nothing to be proportional to
     const qint16 count = ToInteger(State.NumberOfProjects + 1);
     RedimProjects(count, true);
     State.NumberOfProjects = count;
     State.ProjectNames(count) = name;
     State.ProjectAmounts(count) = amount;
     State.ProjectEntryCounts(count) = Forecast.ForecastPickRow;
-    for (int entry = 1; entry <= Forecast.ForecastPickRow; ++entry) {
+    for (int entry = 1; entry <= picked; ++entry) {
         const double savings = ToCurrency(Forecast.ForecastSavingsAmounts(entry)).ToDouble();
-        const double accumulated = ToCurrency(Forecast.ForecastAccumulated(Forecast.ForecastPickRow)).ToDouble();
+        const double accumulated = ToCurrency(Forecast.ForecastAccumulated(picked)).ToDouble();
         State.ProjectEntryDates(count)(entry) = Forecast.ForecastDates(entry);
         State.ProjectEntryAmounts(count)(entry) = Currency::FromDouble(savings / accumulated * amount.ToDouble());
     }

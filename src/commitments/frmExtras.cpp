@@ -35,7 +35,7 @@ frmExtras::~frmExtras() = default;
 void frmExtras::Load()
 {
     WorkWindow::Load();
-    ::FillPayPeriodList = [this] { FillPayPeriodList(); };
+    ::FillPayPeriodList = [this] { TakePickedPayPeriod(); };
 }
 
 void frmExtras::Unload()
@@ -67,8 +67,25 @@ void frmExtras::FillExtraItemList()
 /// Reads the file and goes back to the level of the pay periods.
 void frmExtras::ShowPayPeriods()
 {
-    ui->lblPayPeriod->clear();
     InputPayPeriods();
+    ListPayPeriods();
+}
+
+/// After a pick in the scan. A pay period that was opened meanwhile is closed again, or its items would be written into
+/// another one: the records have moved.
+void frmExtras::TakePickedPayPeriod()
+{
+    if (Extras.ExtrasListMode) {
+        FillPayPeriodList();
+        return;
+    }
+    ListPayPeriods();
+    EmptyPanel();
+}
+
+void frmExtras::ListPayPeriods()
+{
+    ui->lblPayPeriod->clear();
     FillPayPeriodList();
     ui->cmdAddPayPeriod->setEnabled(true);
     Extras.ExtrasListMode = true;
@@ -88,9 +105,21 @@ void frmExtras::SaveAndReload()
 void frmExtras::cmdListPayPeriods_Click()
 {
     ShowPayPeriods();
+    EmptyPanel();
+}
+
+void frmExtras::EmptyPanel()
+{
     ui->chkCredit->setChecked(false);
     ui->chkCredit->setEnabled(false);
     EmptyFields();
+}
+
+/// What an entry has left in memory and not in the file, because it failed half-way, is dropped before the next one.
+void frmExtras::DropUnsaved()
+{
+    if (std::exchange(m_unsaved, false))
+        InputPayPeriods();
 }
 
 void frmExtras::cmdAddPayPeriod_Click()
@@ -115,10 +144,11 @@ void frmExtras::ShowExtraItem()
     SetFields({FormatCurrency(item.ExtraItemAmount), item.ExtraItem});
     ui->cmdAddExtraItem->setEnabled(true);
     ui->cmdDeleteExtraItem->setEnabled(ui->lstExtraItems->count() != 1); // a pay period keeps at least one item
-    OpenPanel(ChangeCaption, ui->txtExtraItemAmount);
     ui->chkCredit->setEnabled(true);
-    // Its click follows the amount, which has its sign already and stays as it is.
+    // Its click follows the amount, which has its sign already and stays as it is. The panel opens after it: the amount
+    // is written again and would lose its selection.
     ui->chkCredit->setChecked(item.ExtraItemAmount < Currency());
+    OpenPanel(ChangeCaption, ui->txtExtraItemAmount);
 }
 
 void frmExtras::cmdAddExtraItem_Click()
@@ -141,6 +171,8 @@ void frmExtras::CommitEntry()
     const ExtraItemRecord item{ui->txtExtraItem->text(), ToCurrency(ui->txtExtraItemAmount->text())};
     ui->txtExtraItemAmount->setText(FormatCurrency(item.ExtraItemAmount));
 
+    DropUnsaved();
+    m_unsaved = true;
     if (ui->cmdAddChangeExtraItem->text() == NewCaption)
         AddExtraItem(item);
     else if (ui->cmdAddChangeExtraItem->text() == ChangeCaption)
@@ -148,6 +180,7 @@ void frmExtras::CommitEntry()
     else
         return;
     SaveAndReload();
+    m_unsaved = false;
 }
 
 void frmExtras::cmdAddChangeExtraItem_Click()
@@ -158,6 +191,7 @@ void frmExtras::cmdAddChangeExtraItem_Click()
 void frmExtras::cmdDeleteExtraItem_Click()
 {
     Trap([this] {
+        DropUnsaved();
         DeleteExtraItem(SelectedRecord());
         SaveAndReload();
         ClosePanel();

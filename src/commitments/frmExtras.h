@@ -22,6 +22,10 @@ private:
     void FillPayPeriodList();
     void FillExtraItemList();
     void ShowPayPeriods();
+    void ListPayPeriods();
+    void TakePickedPayPeriod();
+    void EmptyPanel();
+    void DropUnsaved();
     void ShowExtraItem();
     void SaveAndReload();
     void CommitEntry();
@@ -35,5 +39,6 @@ private:
     void cmdDeletePayPeriod_Click();
     void cmdQuit_Click();
 
+    bool m_unsaved = false; ///< an entry was taken into the arrays and not yet into the file
     std::unique_ptr<Ui::frmExtras> ui;
 };

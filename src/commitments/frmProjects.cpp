@@ -118,6 +118,7 @@ void frmProjects::cmdAddProject_Click()
     EnableFields(true);
     FocusOn(ui->txtProject);
     AddingProject = true;
+    UpdateNewButton(); // the fields were emptied while nothing was added
 }
 
 void frmProjects::txtProjectCompletionDate_MouseMove()
@@ -136,8 +137,12 @@ void frmProjects::CommitEntry()
         ShowMessage(*shortage, QStringLiteral("Projects"), Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp);
         return;
     }
+    // What an entry before has left in memory and not in the file, because it failed half-way, is dropped first.
+    if (std::exchange(m_unsaved, true))
+        InputProjects();
     AddProject(ui->txtProject->text(), amount);
     SaveAndReload();
+    m_unsaved = false;
     AddingProject = false;
     ui->cmdNew->setEnabled(false);
 }

@@ -35,5 +35,6 @@ private:
     void cmdQuit_Click();
 
     std::unique_ptr<Ui::frmProjects> ui;
+    bool m_unsaved = false;     ///< an entry was taken into the arrays and not yet into the file
     bool AddingProject = false; ///< from the add button to the commit
 };

@@ -349,7 +349,8 @@ void Grid::SetCurrentRow(int row)
 int Grid::NaturalWidth() const
 {
     const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
-    return total * qMax(MeasuredLetter, fontMetrics().averageCharWidth()) / MeasuredLetter / TwipsPerPixel;
+    return total * qMax(MeasuredLetter, fontMetrics().averageCharWidth()) / MeasuredLetter / TwipsPerPixel +
+           2 * RowLook::Margin * Columns();
 }
 
 void Grid::ShareWidth()
@@ -361,7 +362,10 @@ void Grid::ShareWidth()
     int used = 0;
     for (int column = 0; column < Columns(); ++column) {
         const bool last = column == Columns() - 1;
-        const int share = last ? width - used : width * m_twips[std::size_t(column)] / total;
+        // The margins of a row's cells are the same in a narrow column and a wide one.
+        const int letters = width - 2 * RowLook::Margin * Columns();
+        const int share =
+            last ? width - used : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total;
         horizontalHeader()->resizeSection(column, share);
         used += share;
     }

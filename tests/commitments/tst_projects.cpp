@@ -158,7 +158,9 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         TakeForecast({0});
-        QCOMPARE(ErrorOf([] { AddProject(u"Nothing"_s, {}); }), int(RuntimeError::Overflow));
+        QCOMPARE(ErrorOf([] { AddProject(u"Nothing"_s, {}); }), int(RuntimeError::DivisionByZero));
+        QCOMPARE(State.NumberOfProjects, qint16(0)); // nothing was added half-way
+        QCOMPARE(State.ProjectNames.Size(), 0);
     }
 
     void EarlierProjectsKeepWhatTheyHave()
