@@ -13,8 +13,6 @@ int main(int argc, char **argv)
     InstallRealDesk(QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
     DeclareWindows();
     // Within the loop, where an error that nobody traps has its one place.
-    QTimer::singleShot(0, &application, [] {
-        TheWindows.Show(FirstWindow());
-    });
+    QTimer::singleShot(0, &application, [] { TheWindows.Show(FirstWindow()); });
     return application.exec();
 }

@@ -39,8 +39,8 @@ inline std::function<void(const BudgetPage &)> ShowBudgetPage;
 
 /// The window of days in which a commitment falls due. Only days are compared, no months and no years.
 struct DueWindow {
-    int StartDay = 0;      ///< day of the month on which the pay period starts
-    int EndDay = 0;        ///< day of the next pay date, which no longer belongs to the period
+    int StartDay = 0;       ///< day of the month on which the pay period starts
+    int EndDay = 0;         ///< day of the next pay date, which no longer belongs to the period
     int LastDayOfMonth = 0; ///< of the month in which the period starts; February counts 29
 };
 

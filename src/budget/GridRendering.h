@@ -38,7 +38,6 @@ public:
     }
 
 private:
-
     Grid &m_grid;
     QList<QStringList> m_waiting;
     int m_row = 1;

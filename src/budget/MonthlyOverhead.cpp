@@ -12,16 +12,11 @@ std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency)
         return Currency::FromDouble((amount * payPeriodsPerYear).ToDouble() / 12);
     };
     switch (payFrequency) {
-    case Weekly:
-        return perMonth(52);
-    case Biweekly:
-        return perMonth(26);
-    case Semimonthly:
-        return perMonth(24);
-    case Monthly:
-        return amount;
-    default:
-        return {};
+    case Weekly: return perMonth(52);
+    case Biweekly: return perMonth(26);
+    case Semimonthly: return perMonth(24);
+    case Monthly: return amount;
+    default: return {};
     }
 }
 

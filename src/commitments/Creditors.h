@@ -22,8 +22,8 @@ std::optional<Refusal> ValidateCreditorEntry(const CreditorPanel &panel);
 void AddCreditor(CreditorRecord &record);
 /// Overwrites the record `index`; the same guard. Error 9 where there is no such record.
 void ChangeCreditor(int index, CreditorRecord &record);
-/// Ascending by due day, ties in the order in which they stood. The search for the smallest day starts from 99, the mark
-/// of a record that was taken; so a due day of 99 or above does not survive.
+/// Ascending by due day, ties in the order in which they stood. The search for the smallest day starts from 99, the
+/// mark of a record that was taken; so a due day of 99 or above does not survive.
 void SortCreditors();
 /// Removes the record `index`; records with an empty name, the mark of deletion, disappear with it. The last one leaves
 /// a blank record behind a count of 0. Error 9 where there is no such record, with nothing changed.

@@ -13,7 +13,7 @@ constexpr int ExtrasHelp = 24; ///< help context
 
 /// What the extras window holds on to; a test puts it back with one assignment.
 struct ExtrasState {
-    bool ExtrasListMode = false;      ///< the list shows pay periods; else the items of the open one
+    bool ExtrasListMode = false;       ///< the list shows pay periods; else the items of the open one
     qint16 SelectedExtraPayPeriod = 0; ///< index of the open pay period
 };
 inline ExtrasState Extras;

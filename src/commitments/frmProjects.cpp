@@ -90,6 +90,13 @@ void frmProjects::SaveAndReload()
     FillProjectList();
 }
 
+/// What an entry has left in memory and not in the file, because it failed half-way, is dropped before the next edit.
+void frmProjects::DropUnsaved()
+{
+    if (std::exchange(m_unsaved, false))
+        InputProjects();
+}
+
 void frmProjects::UpdateNewButton()
 {
     if (!AddingProject)
@@ -137,9 +144,8 @@ void frmProjects::CommitEntry()
         ShowMessage(*shortage, QStringLiteral("Projects"), Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp);
         return;
     }
-    // What an entry before has left in memory and not in the file, because it failed half-way, is dropped first.
-    if (std::exchange(m_unsaved, true))
-        InputProjects();
+    DropUnsaved();
+    m_unsaved = true;
     AddProject(ui->txtProject->text(), amount);
     SaveAndReload();
     m_unsaved = false;
@@ -178,6 +184,7 @@ void frmProjects::lstProjects_DblClick()
 void frmProjects::cmdDeleteProject_Click()
 {
     Trap([this] {
+        DropUnsaved();
         DeleteProject(SelectedRecord()); // an earlier choice that is no longer marked stays
         SaveAndReload();
         ClosePanel();

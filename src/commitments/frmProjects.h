@@ -22,6 +22,7 @@ protected:
 private:
     void FillProjectList();
     void SaveAndReload();
+    void DropUnsaved();
     void UpdateNewButton();
     void PickCompletionDate();
     void CommitEntry();

@@ -2,7 +2,8 @@
 // State.ApplicationPath, each loaded into and written from the shared state as a whole.
 //
 // A loader tells each statement that fails and goes on with the next one. A writer deletes the old file first and ends
-// at the first failure; so a missing file is not healed by use, deliberately: only an installation supplies the first copy.
+// at the first failure; so a missing file is not healed by use, deliberately: only an installation supplies the first
+// copy.
 #pragma once
 
 class InputFile;

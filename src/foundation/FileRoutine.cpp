@@ -15,8 +15,9 @@ Loader::Loader(const QString &title, const QString &path) : m_title(title)
 Loader::~Loader()
 {
     if (m_errors > MostMessages)
-        ShowMessage(QStringLiteral("Further errors in this file, not shown one by one: %1").arg(m_errors - MostMessages),
-                    m_title, Icon::Stop);
+        ShowMessage(
+            QStringLiteral("Further errors in this file, not shown one by one: %1").arg(m_errors - MostMessages),
+            m_title, Icon::Stop);
 }
 
 void Loader::Step(const std::function<void(InputFile &)> &statement)

@@ -98,6 +98,6 @@ void LeaveProgram()
 
 void ApplyPrintSettings()
 {
-    ThePrinter.Font = {State.PrintFontName,       State.PrintFontSize,      State.PrintFontBold, State.PrintFontItalic,
+    ThePrinter.Font = {State.PrintFontName,      State.PrintFontSize,       State.PrintFontBold, State.PrintFontItalic,
                        State.PrintFontUnderline, State.PrintFontStrikethru, State.PrintFontColor};
 }

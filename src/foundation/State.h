@@ -80,14 +80,14 @@ struct SharedState {
     QString HelpFile;        ///< what F1 and the help buttons open
 
     // Settings, kept in environm.ini
-    qint16 ForecastPeriods = 0; ///< pay periods that the savings forecast looks ahead, 1 to 1000
-    Currency PaycheckAmount;    ///< net amount of one paycheck
-    qint16 PayFrequency = 0;    ///< 7 weekly, 14 biweekly, 15 semimonthly, 30 monthly
-    qint16 FirstPayDate = 0;    ///< day of the first semimonthly paycheck
-    qint16 SecondPayDate = 0;   ///< day of the second; 0 is the month's last day
-    qint16 MonthEndPay = 0;     ///< with PayFrequency 30: -1 when the paycheck comes on the month's last day
-    float SalesTax = 0;         ///< a fraction: 0.06 is six per cent
-    QString CurrentStoreFile;   ///< bare file name of the open store list
+    qint16 ForecastPeriods = 0;     ///< pay periods that the savings forecast looks ahead, 1 to 1000
+    Currency PaycheckAmount;        ///< net amount of one paycheck
+    qint16 PayFrequency = 0;        ///< 7 weekly, 14 biweekly, 15 semimonthly, 30 monthly
+    qint16 FirstPayDate = 0;        ///< day of the first semimonthly paycheck
+    qint16 SecondPayDate = 0;       ///< day of the second; 0 is the month's last day
+    qint16 MonthEndPay = 0;         ///< with PayFrequency 30: -1 when the paycheck comes on the month's last day
+    float SalesTax = 0;             ///< a fraction: 0.06 is six per cent
+    QString CurrentStoreFile;       ///< bare file name of the open store list
     float AverageNetPercentage = 0; ///< a fraction: 0.9 is ninety per cent
 
     // Budget data: elements 1 to the count are valid; behind a count of 0 there may be stale ones
@@ -109,21 +109,21 @@ struct SharedState {
     OneBased<CurrentItemRecord> CurrentShoppingList;
 
     // Calendar, none kept
-    QString CurrentPayPeriod;   ///< today as mm-dd-yyyy until the user has set it; then as typed
-    DateText BudgetPeriodStart; ///< first day of the period of the next budget run
-    DateText PayPeriodDate;     ///< the period under calculation
-    DateText NextPeriodDate;    ///< NextPayPeriod of PayPeriodDate
-    DateText NextNextPeriodDate; ///< NextPayPeriod of NextPeriodDate
+    QString CurrentPayPeriod;           ///< today as mm-dd-yyyy until the user has set it; then as typed
+    DateText BudgetPeriodStart;         ///< first day of the period of the next budget run
+    DateText PayPeriodDate;             ///< the period under calculation
+    DateText NextPeriodDate;            ///< NextPayPeriod of PayPeriodDate
+    DateText NextNextPeriodDate;        ///< NextPayPeriod of NextPeriodDate
     std::array<qint16, 12> MonthDays{}; ///< days per month, February always 28
-    QTime ClockTime;            ///< time of day that the one-second clocks showed last
+    QTime ClockTime;                    ///< time of day that the one-second clocks showed last
 
     // Flags between windows, none kept
-    bool InitializingVariables = false;      ///< while InitializeVariables runs; left true if it gives up
-    bool MathCalculatorMissing = false;      ///< a file was not found at the start: the calculator's entry is grey
-    bool CurrentPayPeriodConfirmed = false;  ///< the question for the pay period was answered in this run
-    qint32 WelcomeLevel = 0;                 ///< level chosen on the welcome window, 0 to 3
-    bool WelcomeLevelPending = false;        ///< the main window has not acted on it yet
-    bool GuidedSetupActive = false;          ///< a guided route is under way
+    bool InitializingVariables = false;     ///< while InitializeVariables runs; left true if it gives up
+    bool MathCalculatorMissing = false;     ///< a file was not found at the start: the calculator's entry is grey
+    bool CurrentPayPeriodConfirmed = false; ///< the question for the pay period was answered in this run
+    qint32 WelcomeLevel = 0;                ///< level chosen on the welcome window, 0 to 3
+    bool WelcomeLevelPending = false;       ///< the main window has not acted on it yet
+    bool GuidedSetupActive = false;         ///< a guided route is under way
     qint32 GuidedSetupRoute = 0;
     qint16 GuidedSetupStep = 0;
     bool LookingAhead = false;            ///< the generator's current run is the look-ahead run

@@ -5,6 +5,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+// A row a line, so that a table is checked at a glance.
+// clang-format off
 const QList<MenuEntry> &MainMenu()
 {
     static const QList<MenuEntry> entries{
@@ -95,6 +97,7 @@ const QList<ToolbarEntry> &MainToolbar()
     };
     return entries;
 }
+// clang-format on
 
 const QList<StateEntry> &BudgetStateLines()
 {

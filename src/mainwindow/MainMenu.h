@@ -6,7 +6,7 @@
 
 /// What an entry does beyond opening a window.
 enum class Command {
-    Open,            ///< opens Window, showing the tutor's page first
+    Open, ///< opens Window, showing the tutor's page first
     Exit,
     SavingsForecast, ///< asks whether to print, then opens
     OpenStoreList,
@@ -23,11 +23,11 @@ enum class Command {
 
 /// One row of the menu bar. A menu or submenu has no parent row of its own kind: Menu names the menu it stands in.
 struct MenuEntry {
-    QString Menu;    ///< name of the menu that holds it; empty for the menus of the bar
+    QString Menu; ///< name of the menu that holds it; empty for the menus of the bar
     QString Name;
     QString Caption; ///< "&" before the access key
     Command TheCommand = Command::Open;
-    QString Window;   ///< name of the window that it opens, if any
+    QString Window;    ///< name of the window that it opens, if any
     int TutorPage = 0; ///< 0: none
     QString Shortcut;
 };

@@ -19,7 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int LastTimedTutorPage = 24;
-constexpr int StateLinePadding = 16;  // pixels, above and below a line together
+constexpr int StateLinePadding = 16;    // pixels, above and below a line together
 constexpr int StateLineCharacters = 44; // what the list has room for in its width
 
 void ShowStateLine(QListWidgetItem &line, const StateEntry &entry)
@@ -121,7 +121,8 @@ void frmMain::BuildToolbar()
         button->installEventFilter(this);
         m_hints.insert(button, entry.Hint);
         // Who works with the keyboard sees the hint on the way through the menu.
-        connect(Entry(entry.ActsAs), &QAction::hovered, this, [this, hint = entry.Hint] { ui->lblToolbar->setText(hint); });
+        connect(Entry(entry.ActsAs), &QAction::hovered, this,
+                [this, hint = entry.Hint] { ui->lblToolbar->setText(hint); });
     }
 }
 
@@ -145,13 +146,15 @@ void frmMain::ReserveSpace()
     const int width = qMax(ui->Toolbar1->width(), ui->Toolbar1->minimumSizeHint().width()) - edge;
     int height = 0;
     for (const ToolbarEntry &entry : MainToolbar())
-        height = qMax(height, hint.fontMetrics().boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, entry.Hint).height());
+        height = qMax(
+            height, hint.fontMetrics().boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, entry.Hint).height());
     hint.setMinimumHeight(height + edge);
 
     ListBox &list = *ui->lstBudgetState;
     const int lines = int(BudgetStateLines().size());
     const int least = list.fontMetrics().height() + StateLinePadding;
-    list.setMinimumSize(StateLineCharacters * list.fontMetrics().averageCharWidth(), lines * least + 2 * list.frameWidth());
+    list.setMinimumSize(StateLineCharacters * list.fontMetrics().averageCharWidth(),
+                        lines * least + 2 * list.frameWidth());
     for (int line = 0; line < list.count(); ++line)
         list.item(line)->setSizeHint(QSize(0, qMax(least, list.viewport()->height() / lines)));
 }
@@ -242,7 +245,8 @@ bool frmMain::IsAvailable(const MenuEntry &entry) const
 void frmMain::ActOn(const QString &entryName)
 {
     const QList<MenuEntry> &menu = MainMenu();
-    const auto entry = std::find_if(menu.begin(), menu.end(), [&](const MenuEntry &one) { return one.Name == entryName; });
+    const auto entry =
+        std::find_if(menu.begin(), menu.end(), [&](const MenuEntry &one) { return one.Name == entryName; });
     Q_ASSERT_X(entry != menu.end(), "ActOn", qPrintable(entryName));
     if (IsAvailable(*entry))
         Act(*entry);

@@ -16,8 +16,7 @@
 
 namespace {
 
-struct UsualCalculator
-{
+struct UsualCalculator {
     const char *Name;
     bool KeepsToOneInstance; ///< a second start brings the first one forward
 };
@@ -30,8 +29,7 @@ constexpr UsualCalculator UsualCalculators[] = {
 constexpr QPoint PlaceBeside(250, 110);
 
 /// The calculator that this program started; no process before the first start.
-struct StartedCalculator
-{
+struct StartedCalculator {
     qint64 ProcessId = 0;
     QByteArray StartTime; ///< tells the process from a later one that was given the same number
     QString Path;
@@ -40,8 +38,7 @@ struct StartedCalculator
 };
 StartedCalculator Started;
 
-struct InstalledCalculator
-{
+struct InstalledCalculator {
     QString Path;
     UsualCalculator Kind;
 };

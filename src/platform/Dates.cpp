@@ -138,16 +138,11 @@ QString Format(QDate date, DateFormat format)
     const QString longDate =
         QStringLiteral("%1 %2, %3").arg(QLocale::c().monthName(date.month()), QString::number(date.day()), year);
     switch (format) {
-    case DateFormat::Long:
-        return longDate;
-    case DateFormat::Dashes:
-        return two(date.month()) + QLatin1Char('-') + two(date.day()) + QLatin1Char('-') + year;
-    case DateFormat::Short:
-        return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(date.year());
-    case DateFormat::ShortYear:
-        return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(year.right(2));
-    case DateFormat::Weekday:
-        return QLocale::c().dayName(date.dayOfWeek()) + QStringLiteral("  ") + longDate;
+    case DateFormat::Long: return longDate;
+    case DateFormat::Dashes: return two(date.month()) + QLatin1Char('-') + two(date.day()) + QLatin1Char('-') + year;
+    case DateFormat::Short: return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(date.year());
+    case DateFormat::ShortYear: return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(year.right(2));
+    case DateFormat::Weekday: return QLocale::c().dayName(date.dayOfWeek()) + QStringLiteral("  ") + longDate;
     }
     return {};
 }

@@ -9,8 +9,7 @@
 
 namespace {
 
-struct Free
-{
+struct Free {
     void operator()(void *reply) const { std::free(reply); }
 };
 template <class Reply>

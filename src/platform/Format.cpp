@@ -22,8 +22,7 @@ QString TimesHundred(QString digits)
     return digits;
 }
 
-struct Rounded
-{
+struct Rounded {
     bool Negative = false;
     QString Whole;
     QString Fraction; ///< two digits
@@ -99,15 +98,11 @@ QString FormatDigits(const QString &digits, NumberFormat format)
     const QString minus = number.Negative ? QStringLiteral("-") : QString();
     const QString fraction = UserLocale().decimalPoint() + number.Fraction;
     switch (format) {
-    case NumberFormat::Currency:
-        return InCurrencyPattern(number, WithSeparators(number.Whole) + fraction);
-    case NumberFormat::Standard:
-        return minus + WithSeparators(number.Whole) + fraction;
-    case NumberFormat::Percent:
-        return minus + number.Whole + fraction + QLatin1Char('%');
+    case NumberFormat::Currency: return InCurrencyPattern(number, WithSeparators(number.Whole) + fraction);
+    case NumberFormat::Standard: return minus + WithSeparators(number.Whole) + fraction;
+    case NumberFormat::Percent: return minus + number.Whole + fraction + QLatin1Char('%');
     case NumberFormat::Fixed:
-    case NumberFormat::GeneralNumber:
-        break;
+    case NumberFormat::GeneralNumber: break;
     }
     return minus + number.Whole + fraction;
 }

@@ -16,12 +16,12 @@ namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
 constexpr int MeasuredLetter = 5; // pixels
-constexpr int RowsAtFirst = 21; // what a grid opens with room for
+constexpr int RowsAtFirst = 21;   // what a grid opens with room for
 constexpr int RowsAtLeast = 6;
-constexpr int MostLetters = 120; // that a grid claims the width of
+constexpr int MostLetters = 120;  // that a grid claims the width of
 constexpr int HairlineAlpha = 60; // of 255
 constexpr int DefaultTwips = 960; // of a column that was given no width
-}
+} // namespace
 
 /// The rows of a grid. The view is told of any number of changes at once, when the program comes to rest.
 class GridModel : public QAbstractTableModel
@@ -113,7 +113,10 @@ public:
 
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownRows; }
     int columnCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownColumns; }
-    QVariant data(const QModelIndex &index, int role) const override { return Value(index.row() + 1, index.column(), role); }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        return Value(index.row() + 1, index.column(), role);
+    }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
         return orientation == Qt::Horizontal ? Value(0, section, role) : QVariant();
@@ -131,7 +134,8 @@ private:
         case Qt::DisplayRole: return cell.Text;
         case Qt::ToolTipRole: return cell.Text.isEmpty() ? QVariant() : cell.Text;
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue(Qt::AlignVCenter | (m_right[std::size_t(column)] ? Qt::AlignRight : Qt::AlignLeft));
+            return QVariant::fromValue(Qt::AlignVCenter |
+                                       (m_right[std::size_t(column)] ? Qt::AlignRight : Qt::AlignLeft));
         case Qt::FontRole: {
             QFont font = m_grid->font();
             font.setBold(cell.Bold);
@@ -189,15 +193,17 @@ protected:
     {
         const QColor ink = palette().color(QPalette::Text);
         painter->fillRect(rect, palette().color(QPalette::Base));
-        painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1, QColor(ink.red(), ink.green(), ink.blue(), HairlineAlpha));
+        painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1,
+                          QColor(ink.red(), ink.green(), ink.blue(), HairlineAlpha));
         const auto value = [&](int role) { return model()->headerData(column, Qt::Horizontal, role); };
         const QFont font = qvariant_cast<QFont>(value(Qt::FontRole));
         const QRect room = rect.adjusted(RowLook::Margin, 0, -RowLook::Margin, 0);
         painter->setFont(font);
         const QVariant colour = value(Qt::ForegroundRole);
         painter->setPen(colour.isValid() ? colour.value<QColor>() : ink);
-        painter->drawText(room, qvariant_cast<Qt::Alignment>(value(Qt::TextAlignmentRole)),
-                          QFontMetrics(font).elidedText(value(Qt::DisplayRole).toString(), Qt::ElideRight, room.width()));
+        painter->drawText(
+            room, qvariant_cast<Qt::Alignment>(value(Qt::TextAlignmentRole)),
+            QFontMetrics(font).elidedText(value(Qt::DisplayRole).toString(), Qt::ElideRight, room.width()));
     }
     QSize sectionSizeFromContents(int column) const override
     {
@@ -339,8 +345,8 @@ void Grid::SetCurrentRow(int row)
 {
     m_currentRow = row;
     if (row > 0 && row <= m_model->rowCount())
-        selectionModel()->setCurrentIndex(m_model->index(row - 1, 0), QItemSelectionModel::ClearAndSelect |
-                                                                          QItemSelectionModel::Rows);
+        selectionModel()->setCurrentIndex(m_model->index(row - 1, 0),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     else
         selectionModel()->clear();
 }
@@ -364,8 +370,7 @@ void Grid::ShareWidth()
         const bool last = column == Columns() - 1;
         // The margins of a row's cells are the same in a narrow column and a wide one.
         const int letters = width - 2 * RowLook::Margin * Columns();
-        const int share =
-            last ? width - used : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total;
+        const int share = last ? width - used : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total;
         horizontalHeader()->resizeSection(column, share);
         used += share;
     }

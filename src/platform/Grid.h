@@ -37,7 +37,8 @@ public:
     /// Empties every cell below the heading. The rows stay.
     void ClearBelowHeading();
 
-    /// In twips, 15 to the pixel at 96 dots per inch; 960 where none is given. A grid wider than its columns widens them in proportion.
+    /// In twips, 15 to the pixel at 96 dots per inch; 960 where none is given. A grid wider than its columns widens
+    /// them in proportion.
     void SetColumnWidth(int column, int twips);
     int ColumnWidth(int column) const;
     /// Right-aligned and centred from top to bottom.

@@ -24,8 +24,7 @@ QString IconFile(const QString &name)
 }
 
 /// What the three placeholder colours of a drawing become.
-struct IconColours
-{
+struct IconColours {
     QColor Ink;    ///< #000001: lines
     QColor Accent; ///< #000002
     QColor Paper;  ///< #000003: what lies on a filled accent

@@ -12,8 +12,7 @@ namespace {
 
 /// A decimal number taken apart: 0.DIGITS times ten to the power `Point`, and its sign. Neither the first nor the last
 /// digit is 0; the number 0 has no digits.
-struct Decimal
-{
+struct Decimal {
     bool Negative = false;
     QByteArray Digits;
     int Point = 0;
@@ -23,8 +22,7 @@ struct Decimal
 // their count.
 constexpr int GreatestExponent = 1000000000;
 
-struct Signs
-{
+struct Signs {
     QString Point, Thousands, Symbol;
 };
 

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr qreal Margin = 15;      // millimetres
+constexpr qreal Margin = 15; // millimetres
 constexpr int CharactersWide = 80;
 
 QFont PageFont(const PrintFont &font, QPagedPaintDevice &device)

@@ -4,8 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-struct PrintFont
-{
+struct PrintFont {
     QString Name;
     float Size = 0;
     bool Bold = false;
@@ -17,8 +16,7 @@ struct PrintFont
 };
 
 /// A finished document: its lines, trailing blanks cut off, and the font that was set last before its first line.
-struct PrintJob
-{
+struct PrintJob {
     PrintFont Font;
     QStringList Lines;
 };

@@ -79,7 +79,8 @@ QString DialogFilter(const QString &filter)
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         const QString name = parts[i].left(parts[i].indexOf(QLatin1Char('('))).trimmed();
-        filters += QStringLiteral("%1 (%2)").arg(name, QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')));
+        filters +=
+            QStringLiteral("%1 (%2)").arg(name, QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')));
     }
     return filters.join(QStringLiteral(";;"));
 }
@@ -121,8 +122,8 @@ void InstallRealDesk(const QString &printedFolder)
     TheDesk.PrintDocument = [printedFolder](const PrintJob &job) {
         const QString pdf = PrintToPaperOrPdf(job, printedFolder);
         if (!pdf.isEmpty())
-            ShowMessage(QStringLiteral("No printer could be used. The printed pages are in the file\n%1").arg(pdf), AppTitle,
-                        Icon::Information);
+            ShowMessage(QStringLiteral("No printer could be used. The printed pages are in the file\n%1").arg(pdf),
+                        AppTitle, Icon::Information);
     };
     TheDesk.Now = [] { return QDateTime::currentDateTime(); };
     TheDesk.ProgramFolder = [] { return QCoreApplication::applicationDirPath(); };

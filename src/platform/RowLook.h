@@ -19,7 +19,7 @@ public:
         cell.state.setFlag(QStyle::State_HasFocus, false);
         m_view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, m_view);
         if (m_view->hasFocus() && index.row() == m_view->currentIndex().row() &&
-            !(cell.state & QStyle::State_Selected)) {
+            !(cell.state & QStyle::State_Selected) && !IsEmptyRow(index)) {
             QColor mark = cell.palette.color(QPalette::Highlight);
             mark.setAlpha(FocusAlpha);
             painter->fillRect(cell.rect, mark);
@@ -33,6 +33,14 @@ public:
     }
 
 private:
+    /// A gap between lines is no place to stand on.
+    static bool IsEmptyRow(const QModelIndex &index)
+    {
+        for (int column = 0; column < index.model()->columnCount(); ++column)
+            if (!index.siblingAtColumn(column).data().toString().isEmpty())
+                return false;
+        return true;
+    }
     static constexpr int FocusAlpha = 50; // of 255
 
     /// What the toolkit's own margin lacks to ours.

@@ -79,8 +79,7 @@ private:
     QWidget *m_panel;
 };
 
-struct PaletteColours
-{
+struct PaletteColours {
     QRgb Window, Base, AlternateBase, Button, Text, FaintText, Border, Highlight, Link, ToolTip;
 };
 
@@ -152,12 +151,9 @@ QColor ReadableOn(const QColor &pure, const QColor &background, double contrast)
 QColor QBColor(int index, const QColor &background, const QColor &text)
 {
     switch (index) {
-    case 9:
-        return ReadableOn(QColor(0, 0, 255), background);
-    case 12:
-        return ReadableOn(QColor(255, 0, 0), background);
-    default:
-        return text;
+    case 9: return ReadableOn(QColor(0, 0, 255), background);
+    case 12: return ReadableOn(QColor(255, 0, 0), background);
+    default: return text;
     }
 }
 

@@ -434,8 +434,7 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
         if (KeyPressed(watched, *static_cast<QKeyEvent *>(event)))
             return true;
         break;
-    default:
-        break;
+    default: break;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -90,21 +90,23 @@ private Q_SLOTS:
         Show(Window);
         Click(Window, u"cmdBudget"_s);
         QCOMPARE(Caption(), u"Looking Ahead - January 15, 2004"_s);
-        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
+        QCOMPARE(Rows(),
+                 (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
         QCOMPARE(State.BudgetPeriodStart.Text(), u"January 1, 2004"_s);
 
         Click(Window, u"cmdBudget"_s);
         QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
-        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Now | $520.00"_s, u"CREDIT - Refund | ($20.00)"_s,
-                                      u"Budget - January 15, 2004 | $300.00"_s, u"SAVINGS | $200.00"_s}));
+        QCOMPARE(Rows(),
+                 (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Now | $520.00"_s, u"CREDIT - Refund | ($20.00)"_s,
+                              u"Budget - January 15, 2004 | $300.00"_s, u"SAVINGS | $200.00"_s}));
         QCOMPARE(State.BudgetPeriodStart.Text(), u"1/15/2004"_s);
 
         Click(Window, u"cmdBudget"_s);
         QCOMPARE(Caption(), u"Looking Ahead - January 29, 2004"_s);
         Click(Window, u"cmdBudget"_s);
         QCOMPARE(Caption(), u"Budget - January 15, 2004"_s);
-        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"CREDIT - Budget | ($300.00)"_s,
-                                      u"SAVINGS | $200.00"_s}));
+        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s,
+                                      u"CREDIT - Budget | ($300.00)"_s, u"SAVINGS | $200.00"_s}));
     }
 
     void TheFirstLineStandsInRowTwoAndAnEmptyRowAboveTheResult()
@@ -235,7 +237,8 @@ private Q_SLOTS:
         QCOMPARE(Caption(), u"Looking Ahead - January 29, 2004"_s);
         Click(Window, u"cmdBudget"_s);
         QCOMPARE(Caption(), u"Budget - January 15, 2004"_s);
-        QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
+        QCOMPARE(Rows(),
+                 (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
     }
 
     void AMessageBoxDoesNotResetTheAlternation()

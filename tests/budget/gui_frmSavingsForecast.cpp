@@ -3,6 +3,7 @@
 #include "GuiMain.h"
 
 #include "budget/SavingsForecast.h"
+#include "platform/RowLook.h"
 
 #include <QHeaderView>
 
@@ -307,6 +308,52 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(Window));
     }
 
+    void BelowTheGreatestForecastTheDateIsEmptyToo()
+    {
+        GuiDesk desk;
+        TakeHousehold(MostForecastPeriods);
+        OpenForPick();
+        Find<QLineEdit>(u"frmProjects"_s, u"txtProjectCompletionDate"_s).setText(u"January 1, 2004"_s);
+        TheGrid().scrollToBottom();
+        ClickGridRow(1001);
+        QCOMPARE(PickedDate(), QString());
+        QCOMPARE(Forecast.ForecastPickRow, qint16(1001));
+        QCOMPARE(Forecast.ForecastPickAccumulated, Currency());
+        QVERIFY(!TheWindows.Loaded(Window));
+        QVERIFY(!desk.Ended);
+    }
+
+    void TheThousandthNumberIsNotCut()
+    {
+        GuiDesk desk;
+        TakeHousehold(MostForecastPeriods);
+        Show(Window);
+        const Grid &grid = TheGrid();
+        QCOMPARE(grid.Text(1000, 0), u"1000"_s);
+        const int room = grid.horizontalHeader()->sectionSize(0) - 2 * RowLook::Margin;
+        QVERIFY2(room >= grid.fontMetrics().horizontalAdvance(u"1000"_s), qPrintable(QString::number(room)));
+    }
+
+    void AnAbandonedPickPicksNothingLater()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold(2);
+        OpenForPick();
+        CloseByFrame(Window);
+        QVERIFY(!State.ProjectDateFromForecast);
+        desk.Answers = {Answer::No};
+        Show(u"frmMain"_s);
+        Choose(u"mnuBudgetSavingsForecast"_s);
+        desk.TakeMessage();
+        ClickGridRow(1);
+        ClickGridRow(0);
+        QVERIFY(IsShown(Window));
+        QVERIFY(!desk.Ended);
+        QCOMPARE(Forecast.ForecastPickRow, qint16(0));
+        QCOMPARE(PickedDate(), QString());
+    }
+
     void ARowThatWasPushedDownTakesAnEmptyDateAndItsOwnAmount()
     {
         GuiDesk desk;
@@ -328,6 +375,17 @@ private Q_SLOTS:
         ClickGridRow(1);
         QCOMPARE(PickedDate(), u"January 1, 2004"_s);
         QVERIFY(!IsShown(u"frmProjects"_s));
+    }
+
+    void ComingForgetsWhatABudgetHasLeft()
+    {
+        GuiDesk desk;
+        TakeHousehold(2, {400, 300});
+        State.LookingAhead = true; // or the runs that look ahead and those that budget would change places
+        State.BudgetCredit = Currency::FromDouble(50);
+        Show(Window);
+        QCOMPARE(Rows(), (QStringList{u"1 | January 1, 2004 | $600.00 | $600.00"_s,
+                                      u"2 | January 15, 2004 | $700.00 | $1,300.00"_s}));
     }
 
     void LeavingTakesThePayPeriodFromItsWindow_data()

@@ -168,6 +168,25 @@ private Q_SLOTS:
         QVERIFY(!State.ScanCalledFromExtras);
     }
 
+    void ClosedWithoutAPickItOnlyLooksTheNextTime()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(u"frmExtras"_s);
+        Click(u"frmExtras"_s, u"cmdListPayPeriods"_s);
+        Click(u"frmExtras"_s, u"cmdAddPayPeriod"_s);
+        QVERIFY(State.ScanCalledFromExtras);
+        CloseByFrame(Window);
+        QVERIFY(!State.ScanCalledFromExtras);
+        Show(Window);
+        ClickRow(Window, List, 1);
+        QCOMPARE(Scan.ScanPickedDate, u"01-15-2004"_s);
+        QVERIFY(IsShown(Window));
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(0));
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("0\r\n"));
+        QCOMPARE(RowsOf(u"frmExtras"_s, u"lstExtraItems"_s), QStringList());
+    }
+
     void AnExtrasWindowThatIsClosedIsLoadedUnseen()
     {
         GuiDesk desk;

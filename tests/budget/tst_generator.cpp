@@ -868,19 +868,13 @@ private Q_SLOTS:
         QFETCH(int, place);
         const Currency least = Count(std::numeric_limits<qint64>::min());
         switch (place) {
-        case 0:
-            household.AddCreditor("Rent", 15, least);
-            break;
-        case 1:
-            household.AddRegular("Food", least);
-            break;
+        case 0: household.AddCreditor("Rent", 15, least); break;
+        case 1: household.AddRegular("Food", least); break;
         case 2:
             household.AddPayPeriod("1/15/2004");
             household.AddExtra("Gift", least);
             break;
-        default:
-            household.AddProject("Roof");
-            household.AddEntry("1/15/2004", least);
+        default: household.AddProject("Roof"); household.AddEntry("1/15/2004", least);
         }
         QCOMPARE(ErrorOf(GenerateBudget), 6);
     }

@@ -370,6 +370,16 @@ private Q_SLOTS:
         QCOMPARE(RowsOf(Window, List), QStringList());
     }
 
+    void F1AsksForThePageOfTheWindow()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        QTest::keyClick(&Find(Window, List), Qt::Key_F1);
+        ClickRow(Window, List, 0);
+        QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
+        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 22}, {QString(), 22}}));
+    }
+
     void TheTutorRestsWhileTheWindowIsLoaded()
     {
         CommitmentsDesk desk;

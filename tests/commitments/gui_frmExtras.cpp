@@ -160,6 +160,18 @@ private Q_SLOTS:
         QCOMPARE(File(desk), TwoPeriods);
     }
 
+    void TheWholeAmountIsSelectedAlsoWhereTheSignTurns()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        for (const auto &[row, amount] :
+             {std::pair{0, u"$30.00"_s}, {1, u"($12.50)"_s}, {0, u"$30.00"_s}, {0, u"$30.00"_s}}) {
+            ClickRow(Window, List, row);
+            QCOMPARE(FocusOf(Window), Amount);
+            QCOMPARE(SelectedText(Window, Amount), amount);
+        }
+    }
+
     void TheOnlyItemCannotBeDeleted()
     {
         CommitmentsDesk desk;
@@ -340,6 +352,51 @@ private Q_SLOTS:
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(200));
     }
 
+    void AfterAnItemThatFailedTheNextEditWorksOnTheFile_data()
+    {
+        QTest::addColumn<QString>("edit");
+        QTest::newRow("a change") << u"change"_s;
+        QTest::newRow("a delete") << u"delete"_s;
+        QTest::newRow("another one too many") << u"add"_s;
+    }
+    void AfterAnItemThatFailedTheNextEditWorksOnTheFile()
+    {
+        QFETCH(QString, edit);
+        CommitmentsDesk desk;
+        const QByteArray full = "2\r\n" + Items(200) + Trip;
+        OpenPayPeriod(desk, 0, full);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"1"_s, u"201"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+
+        QByteArray expected = full;
+        if (edit == u"add"_s) {
+            Click(Window, Commit);
+            QCOMPARE(desk.TakeMessage(), UnknownError);
+            Click(Window, u"cmdListPayPeriods"_s);
+            ClickRow(Window, List, 0);
+            QCOMPARE(RowsOf(Window, List).size(), 200);
+        } else if (edit == u"change"_s) {
+            ClickRow(Window, List, 199);
+            Enter(u"2"_s, u"last"_s);
+            Click(Window, Commit);
+            expected.replace("\"200\"\r\n1\r\n", "\"last\"\r\n2\r\n");
+            QCOMPARE(RowsOf(Window, List).size(), 200);
+        } else {
+            ClickRow(Window, List, 0);
+            Click(Window, u"cmdDeleteExtraItem"_s);
+            expected.replace("\"01-05-2004\"\r\n200\r\n\"1\"\r\n1\r\n", "\"01-05-2004\"\r\n199\r\n");
+            QCOMPARE(RowsOf(Window, List).size(), 199);
+            Click(Window, u"cmdAddExtraItem"_s); // now there is room
+            Enter(u"1"_s, u"201"_s);
+            Click(Window, Commit);
+            expected.replace("\r\n199\r\n\"2\"", "\r\n200\r\n\"2\"");
+            expected.replace("\"200\"\r\n1\r\n", "\"200\"\r\n1\r\n\"201\"\r\n1\r\n");
+        }
+        QCOMPARE(File(desk), expected);
+    }
+
     void DeletingAnItemClosesThePanel()
     {
         CommitmentsDesk desk;
@@ -427,6 +484,36 @@ private Q_SLOTS:
         QCOMPARE(File(desk), QByteArray("3\r\n" + Gift + Trip + Trip));
     }
 
+    void APickWhileAnotherPayPeriodIsOpenClosesIt()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Trip);
+        Click(Window, u"cmdAddPayPeriod"_s);
+        Show(Window); // the scan stays open behind
+        ClickRow(Window, List, 0);
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"5"_s, u"Map"_s);
+        Show(u"frmScanPayPeriods"_s);
+        ClickRow(u"frmScanPayPeriods"_s, u"lstScanPayPeriods"_s, 0); // comes before the open one, which moves
+
+        const QByteArray picked = "2\r\n\"01-05-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n" + Trip;
+        QCOMPARE(File(desk), picked);
+        QCOMPARE(TextOf(Window, Heading), QString());
+        QVERIFY(Extras.ExtrasListMode);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QVERIFY(!IsCredit());
+        QCOMPARE(Enabled(Window, ListButtons + QStringList{Credit, Commit}),
+                 u"cmdListPayPeriods cmdAddPayPeriod cmdQuit"_s); // no item can be committed
+        ClickRow(Window, List, 1);                                // the item goes where the user opens it again
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"5"_s, u"Map"_s);
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n\"01-19-2004\"\r\n2\r\n"
+                                        "\"Trip\"\r\n200\r\n\"Map\"\r\n5\r\n"));
+    }
+
     void TheScanFillsTheListOnlyWhileTheWindowIsLoaded()
     {
         CommitmentsDesk desk;
@@ -457,6 +544,64 @@ private Q_SLOTS:
         Settle();
         QCOMPARE(TextOf(Window, Commit), u"&New"_s);
         QCOMPARE(FocusOf(Window), Amount);
+    }
+
+    void F1AsksForThePageOfTheWindow()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        QTest::keyClick(&Find(Window, List), Qt::Key_F1);
+        ClickRow(Window, List, 0);
+        QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
+        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 24}, {QString(), 24}}));
+    }
+
+    void AFileThatCannotBeWrittenIsToldAndReadBack()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        QVERIFY(QFile::setPermissions(desk.Path(u"extra.txt"_s), QFile::ReadOwner));
+        ClickRow(Window, List, 0);
+        Enter(u"1"_s, u"Other"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 75: Path/File access error"_s, u"Save Pay Periods"_s, Icon::Stop}));
+        QCOMPARE(File(desk), TwoPeriods);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Gift"_s, u"Refund"_s}));
+        Click(Window, u"cmdDeletePayPeriod"_s);
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 75: Path/File access error"_s, u"Save Pay Periods"_s, Icon::Stop}));
+        QCOMPARE(File(desk), TwoPeriods);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
+    }
+
+    void AFileThatIsNotThereIsToldByTheLoader()
+    {
+        CommitmentsDesk desk;
+        desk.RemoveFile(u"extra.txt"_s);
+        Show(Window);
+        Click(Window, u"cmdListPayPeriods"_s);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Input Pay Periods"_s, Icon::Stop}));
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 52: Bad file name or number"_s, u"Input Pay Periods"_s, Icon::Stop}));
+        QCOMPARE(RowsOf(Window, List), QStringList());
+        QVERIFY(!QFile::exists(desk.Path(u"extra.txt"_s)));
+    }
+
+    void AFileThatIsGoneIsToldAndNotMade()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0, "1\r\n" + Trip);
+        ClickRow(Window, List, 0);
+        desk.RemoveFile(u"extra.txt"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Save Pay Periods"_s, Icon::Stop}));
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Input Pay Periods"_s, Icon::Stop}));
+        for (int read = 0; read < 3; ++read) // the count, which stays, the date, and the number of items
+            QCOMPARE(desk.TakeMessage(),
+                     (Message{u"Error 52: Bad file name or number"_s, u"Input Pay Periods"_s, Icon::Stop}));
+        QVERIFY(!QFile::exists(desk.Path(u"extra.txt"_s)));
+        QCOMPARE(RowsOf(Window, List), QStringList());
     }
 
     void TheTutorRestsWhileTheWindowIsLoaded()

@@ -75,6 +75,16 @@ void PickDate(int row)
     Pick(row);
 }
 
+/// Picks the first row that is too late for a project; the mouse would have to scroll to it.
+void PickRow101()
+{
+    DoubleClickDate();
+    auto &grid = Find<Grid>(ForecastWindow, u"grdSavingsForecast"_s);
+    grid.SetCurrentRow(101);
+    Q_EMIT grid.Click();
+    Settle();
+}
+
 QByteArray File(const CommitmentsDesk &desk)
 {
     return desk.ReadFile(u"projects.txt"_s);
@@ -139,6 +149,19 @@ private Q_SLOTS:
         QCOMPARE(Texts(Window, Fields), u" |  | "_s);
         QCOMPARE(Enabled(Window, Fields), Fields.join(u' '));
         QCOMPARE(FocusOf(Window), Project);
+        QVERIFY(!IsEnabled(Window, Commit));
+    }
+
+    void AddingAgainAfterALookAtARowDisablesNew()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        Add(u"Coat"_s, u"5"_s);
+        PickDate(1);
+        ClickRow(Window, List, 0);
+        QVERIFY(IsEnabled(Window, Commit)); // a look leaves it as it is
+        Click(Window, u"cmdAddProject"_s);
+        QCOMPARE(Texts(Window, Fields), u" |  | "_s);
         QVERIFY(!IsEnabled(Window, Commit));
     }
 
@@ -345,11 +368,7 @@ private Q_SLOTS:
         Open(desk, "0\r\n");
         State.ForecastPeriods = 101;
         Add(u"Far"_s, u"60"_s);
-        DoubleClickDate();
-        auto &grid = Find<Grid>(ForecastWindow, u"grdSavingsForecast"_s);
-        grid.SetCurrentRow(101);
-        Q_EMIT grid.Click();
-        Settle();
+        PickRow101();
         QCOMPARE(Forecast.ForecastPickRow, qint16(101));
         Click(Window, Commit);
         QCOMPARE(desk.TakeMessage(), UnknownError);
@@ -357,6 +376,36 @@ private Q_SLOTS:
         QCOMPARE(File(desk), QByteArray("0\r\n"));
         Click(Window, u"cmdListProjects"_s); // the next reading drops it
         QCOMPARE(State.NumberOfProjects, qint16(0));
+    }
+
+    void AnEarlierRowAfterOneBeyondTheHundredthIsSavedAlone()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Lamp);
+        State.ForecastPeriods = 101;
+        Add(u"Boat"_s, u"60"_s);
+        PickRow101();
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        PickDate(2);
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("2\r\n" + Lamp + Boat));
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Lamp"_s, u"Boat"_s}));
+    }
+
+    void ADeleteAfterAnEntryThatFailedTakesItsRowAlone()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        State.ForecastPeriods = 101;
+        Add(u"Far"_s, u"60"_s);
+        PickRow101();
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Lamp));
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Lamp"_s});
     }
 
     void NothingAccumulatedAndNothingWantedIsAnUnknownError()
@@ -370,6 +419,14 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(desk.TakeMessage(), UnknownError);
         QCOMPARE(File(desk), QByteArray("0\r\n"));
+        QCOMPARE(State.NumberOfProjects, qint16(0));
+
+        State.PaycheckAmount = Dollars(100); // put right, the entry is saved alone
+        PickDate(1);
+        Type(Window, Amount, u"60"_s);
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("1\r\n\"Nothing\"\r\n60\r\n1\r\n\"January 1, 2004\"\r\n60\r\n"));
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Nothing"_s});
     }
 
     void DeletingTakesTheRowOutAndClosesThePanel()
@@ -394,15 +451,24 @@ private Q_SLOTS:
         QCOMPARE(File(desk), QByteArray("0\r\n"));
     }
 
+    void DeletingWithoutARowLosesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("of two") << QByteArray("2\r\n" + Boat + Lamp);
+        QTest::newRow("the only one") << QByteArray("1\r\n" + Boat);
+    }
     void DeletingWithoutARowLosesNothing()
     {
         CommitmentsDesk desk;
-        Open(desk, "1\r\n" + Boat);
+        QFETCH(QByteArray, file);
+        Open(desk, file);
         ClickRow(Window, List, 0);
         Click(Window, u"cmdListProjects"_s);
+        QCOMPARE(SelectedRow(Window, List), -1);
+        QCOMPARE(Projects.SelectedProject, qint16(1)); // remembered, and still nothing to delete
         Click(Window, u"cmdDeleteProject"_s);
         QCOMPARE(desk.TakeMessage(), UnknownError);
-        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
+        QCOMPARE(File(desk), file);
         QVERIFY(!desk.Ended);
     }
 
@@ -466,6 +532,32 @@ private Q_SLOTS:
         Open(desk, "1\r\n" + Boat);
         Click(Window, u"cmdQuit"_s);
         QVERIFY(!TheWindows.Loaded(Window));
+    }
+
+    void F1AsksForThePageOfTheWindow()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        QTest::keyClick(&Find(Window, List), Qt::Key_F1);
+        ClickRow(Window, List, 0);
+        QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
+        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 25}, {QString(), 25}}));
+    }
+
+    void AFileThatCannotBeWrittenIsToldAndReadBack()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        QVERIFY(QFile::setPermissions(desk.Path(u"projects.txt"_s), QFile::ReadOwner));
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 75: Path/File access error"_s, u"Save Projects"_s, Icon::Stop}));
+        Add(u"Coat"_s, u"5"_s);
+        PickDate(1);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 75: Path/File access error"_s, u"Save Projects"_s, Icon::Stop}));
+        QCOMPARE(File(desk), QByteArray("2\r\n" + Boat + Lamp));
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Boat"_s, u"Lamp"_s}));
     }
 
     void TheTutorRestsWhileTheWindowIsLoaded()

@@ -246,6 +246,74 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(Window));
     }
 
+    void F1AsksForThePageOfTheWindow()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        QTest::keyClick(&Find(Window, List), Qt::Key_F1);
+        ClickRow(Window, List, 0);
+        QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
+        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 23}, {QString(), 23}}));
+    }
+
+    void AnAmountThatIsTooLargeIsAnUnknownErrorAndIsNotSaved()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        Click(Window, u"cmdAddRegularItem"_s);
+        Enter(u"922337203685478"_s, u"Moon"_s); // one dollar more than an amount can hold
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(File(desk), TwoItems);
+        QCOMPARE(State.NumberOfRegulars, qint16(2));
+        Type(Window, Amount, u"5"_s); // the entry is still open and can be put right
+        Click(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("3\r\n\"Groceries\"\r\n120\r\n\"Bus\"\r\n15.25\r\n\"Moon\"\r\n5\r\n"));
+    }
+
+    void AnyOtherCaptionCommitsNothing()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        ClickRow(Window, List, 0);
+        Enter(u"1"_s, u"Other"_s);
+        Find<QAbstractButton>(Window, Commit).setText(u"Change"_s); // without its access key
+        Click(Window, Commit);
+        QCOMPARE(File(desk), TwoItems);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Groceries"_s, u"Bus"_s}));
+        QCOMPARE(SelectedRow(Window, List), 0);
+        QCOMPARE(State.Regulars(1).RegularItem, u"Groceries"_s);
+    }
+
+    void AFileThatCannotBeWrittenIsToldAndReadBack()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        QVERIFY(QFile::setPermissions(desk.Path(u"regulars.txt"_s), QFile::ReadOwner));
+        ClickRow(Window, List, 0);
+        Enter(u"1"_s, u"Other"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 75: Path/File access error"_s, u"Save Regulars"_s, Icon::Stop}));
+        QCOMPARE(File(desk), TwoItems);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Groceries"_s, u"Bus"_s}));
+    }
+
+    void AFileThatIsNotThereIsToldAndNotMade()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n\"Bus\"\r\n15.25\r\n");
+        ClickRow(Window, List, 0);
+        desk.RemoveFile(u"regulars.txt"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Save Regulars"_s, Icon::Stop}));
+        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Input Regulars"_s, Icon::Stop}));
+        for (int read = 0; read < 3; ++read) // the count, which stays, and the two values of its one item
+            QCOMPARE(desk.TakeMessage(),
+                     (Message{u"Error 52: Bad file name or number"_s, u"Input Regulars"_s, Icon::Stop}));
+        QVERIFY(!QFile::exists(desk.Path(u"regulars.txt"_s)));
+        QCOMPARE(RowsOf(Window, List), QStringList{QString()});
+    }
+
     void TheTutorRestsWhileTheWindowIsLoaded()
     {
         CommitmentsDesk desk;

@@ -233,21 +233,11 @@ private Q_SLOTS:
             QCOMPARE(desk.TakeMessage(), (Message{message, InputCurrent, Icon::Stop, Buttons::Ok, 0}));
         CurrentItemRecord damaged = MilkOnTheList;
         switch (line) {
-        case 3:
-            damaged.UnitPrice = Currency();
-            break;
-        case 5:
-            damaged.Quantity = 0;
-            break;
-        case 6:
-            damaged.Taxable = false;
-            break;
-        case 7:
-            damaged.CouponValue = Currency();
-            break;
-        default:
-            damaged.FullPrice = Currency();
-            break;
+        case 3: damaged.UnitPrice = Currency(); break;
+        case 5: damaged.Quantity = 0; break;
+        case 6: damaged.Taxable = false; break;
+        case 7: damaged.CouponValue = Currency(); break;
+        default: damaged.FullPrice = Currency(); break;
         }
         QVERIFY(State.CurrentShoppingList(1) == damaged);
         QVERIFY(State.CurrentShoppingList(2) == MilkOnTheList); // the loop carries on with the following field

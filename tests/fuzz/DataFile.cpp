@@ -73,15 +73,9 @@ void ReadFromMemory(const QByteArray &bytes, int firstType)
                 Require(again == value, "a Single reads back");
                 break;
             }
-            case 3:
-                file.InputBoolean();
-                break;
-            case 4:
-                CheckText(file.InputString());
-                break;
-            default:
-                file.InputLine();
-                break;
+            case 3: file.InputBoolean(); break;
+            case 4: CheckText(file.InputString()); break;
+            default: file.InputLine(); break;
             }
         });
         if (error == RuntimeError::InputPastEnd)

@@ -223,6 +223,26 @@ private Q_SLOTS:
         }
     }
 
+    void TabSelectsTheTextOfTheFieldItComesTo()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        for (const auto &[field, text] : {std::pair{Paycheck, u"$1,000.00"_s},
+                                          {Tax, u"6.00"_s},
+                                          {Net, u"90.00"_s},
+                                          {u"txtStoreFile"_s, u"untitled.lst"_s},
+                                          {u"optPayFrequency1"_s, QString()},
+                                          {u"cmdExit"_s, QString()},
+                                          {Forecast, u"26"_s}}) {
+            QTest::keyClick(TheWindows.Loaded(Window)->FocusControl(), Qt::Key_Tab);
+            Settle();
+            QCOMPARE(FocusOf(Window), field);
+            if (!text.isEmpty())
+                QCOMPARE(SelectedText(field), text);
+        }
+    }
+
     void TheSpinnerChangesTheNumberByOne()
     {
         GuiDesk desk;

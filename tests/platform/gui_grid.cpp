@@ -126,26 +126,13 @@ private Q_SLOTS:
         const QStringList before = RowsOf(grid);
         const int raised = ErrorOf([&] {
             switch (what) {
-            case 0:
-                grid.SetText(row, column, "x");
-                break;
-            case 1:
-                grid.AddItem(QString(column, QLatin1Char('\t')), row);
-                break;
-            case 2:
-                grid.Text(row, column);
-                break;
-            case 3:
-                grid.SetColour(row, column, GridColour::LightRed);
-                break;
-            case 4:
-                grid.SetBold(row, column, true);
-                break;
-            case 5:
-                grid.SetColumnWidth(column, 100);
-                break;
-            default:
-                grid.SetRightAligned(column, true);
+            case 0: grid.SetText(row, column, "x"); break;
+            case 1: grid.AddItem(QString(column, QLatin1Char('\t')), row); break;
+            case 2: grid.Text(row, column); break;
+            case 3: grid.SetColour(row, column, GridColour::LightRed); break;
+            case 4: grid.SetBold(row, column, true); break;
+            case 5: grid.SetColumnWidth(column, 100); break;
+            default: grid.SetRightAligned(column, true);
             }
         });
         QCOMPARE(raised, error);

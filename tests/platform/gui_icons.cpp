@@ -16,8 +16,7 @@
 
 namespace {
 
-struct IconRow
-{
+struct IconRow {
     const char *Name;
     bool HasInk;
     bool HasAccent;

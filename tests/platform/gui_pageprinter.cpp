@@ -4,10 +4,10 @@
 #include "platform/Desk.h"
 #include "platform/PagePrinter.h"
 
-#include <QStandardPaths>
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <csignal>
 #include <sys/resource.h>

@@ -1036,15 +1036,9 @@ private Q_SLOTS:
         window.Second->setText("12.50");
         window.Second->deselect();
         switch (way) {
-        case 0:
-            window.FocusOn(window.Second);
-            break;
-        case 1:
-            QTest::keyClick(window.First, Qt::Key_Tab);
-            break;
-        case 2:
-            QTest::mouseClick(window.Second, Qt::LeftButton, {}, QPoint(20, window.Second->height() / 2));
-            break;
+        case 0: window.FocusOn(window.Second); break;
+        case 1: QTest::keyClick(window.First, Qt::Key_Tab); break;
+        case 2: QTest::mouseClick(window.Second, Qt::LeftButton, {}, QPoint(20, window.Second->height() / 2)); break;
         default:
             window.FocusOn(window.Second);
             Show("B");
@@ -1248,14 +1242,9 @@ private Q_SLOTS:
         Settle();
         QVERIFY(!Log.contains("the program ends"));
         switch (way) {
-        case 0:
-            toys["A"].close();
-            break;
-        case 1:
-            Unload("A");
-            break;
-        default:
-            Hide("A");
+        case 0: toys["A"].close(); break;
+        case 1: Unload("A"); break;
+        default: Hide("A");
         }
         Settle();
         QCOMPARE(TakeLog().count("the program ends"), 1);

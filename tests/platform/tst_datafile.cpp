@@ -21,24 +21,12 @@ QString ReadAs(InputFile &file, char kind)
     QString text;
     const int error = ErrorOf([&] {
         switch (kind) {
-        case 'i':
-            text = QString::number(file.InputInteger());
-            break;
-        case 'c':
-            text = QString::number(file.InputCurrency().TenThousandths());
-            break;
-        case 'f':
-            text = PlainText(file.InputSingle());
-            break;
-        case 'b':
-            text = file.InputBoolean() ? QStringLiteral("true") : QStringLiteral("false");
-            break;
-        case 's':
-            text = file.InputString();
-            break;
-        case 'l':
-            text = file.InputLine();
-            break;
+        case 'i': text = QString::number(file.InputInteger()); break;
+        case 'c': text = QString::number(file.InputCurrency().TenThousandths()); break;
+        case 'f': text = PlainText(file.InputSingle()); break;
+        case 'b': text = file.InputBoolean() ? QStringLiteral("true") : QStringLiteral("false"); break;
+        case 's': text = file.InputString(); break;
+        case 'l': text = file.InputLine(); break;
         }
     });
     return error == 0 ? text : QStringLiteral("error %1").arg(error);

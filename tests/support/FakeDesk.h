@@ -1,4 +1,5 @@
-// The recording desk of the Qt tests: what was shown but not taken, and what was asked but not scripted, fails the test.
+// The recording desk of the Qt tests: what was shown but not taken, and what was asked but not scripted, fails the
+// test.
 #pragma once
 
 #include "RecordingDesk.h"
@@ -14,7 +15,8 @@ public:
         for (const Message &message : std::as_const(Messages))
             left += message.Title + QStringLiteral(": ") + message.Text;
         if (!left.isEmpty())
-            QTest::qFail(qPrintable(QStringLiteral("not expected: ") + left.join(QStringLiteral(" | "))), __FILE__, __LINE__);
+            QTest::qFail(qPrintable(QStringLiteral("not expected: ") + left.join(QStringLiteral(" | "))), __FILE__,
+                         __LINE__);
         if (Unscripted)
             QTest::qFail("something was asked that was not scripted", __FILE__, __LINE__);
     }

@@ -91,10 +91,11 @@ void RecordingDesk::RemoveFile(const QString &name) const
 
 void RecordingDesk::LayHousehold() const
 {
-    for (const char *name : {"creditor.txt", "regulars.txt", "extra.txt", "projects.txt", "mastshop.txt",
-                             "stores\\untitled.lst"})
+    for (const char *name :
+         {"creditor.txt", "regulars.txt", "extra.txt", "projects.txt", "mastshop.txt", "stores\\untitled.lst"})
         WriteFile(QLatin1String(name), "0\r\n");
-    WriteFile(QStringLiteral("environm.ini"), "26\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n");
+    WriteFile(QStringLiteral("environm.ini"),
+              "26\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n");
     QByteArray pages = ";\r\n";
     for (int page = 1; page <= MostTutorPages; ++page)
         pages += "Page " + QByteArray::number(page) + "\r\n;\r\n";

@@ -30,11 +30,11 @@ public:
     bool Ended = false;
 
     // What it is answered
-    QList<Answer> Answers;     ///< for boxes with Yes and No, in order
-    QStringList FileAnswers;   ///< for file dialogs, in order
+    QList<Answer> Answers;          ///< for boxes with Yes and No, in order
+    QStringList FileAnswers;        ///< for file dialogs, in order
     QMap<QString, QString> Options; ///< keys in lower case
     QDateTime Now{QDate(2004, 1, 5), QTime(9, 30)};
-    int StartCalculatorError = 0;   ///< 0: it starts
+    int StartCalculatorError = 0; ///< 0: it starts
     int BringForwardError = 0;
     bool Unscripted = false; ///< something was asked that nobody scripted an answer for
 

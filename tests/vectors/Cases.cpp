@@ -15,7 +15,8 @@ QJsonValue Told(Currency amount)
 QJsonValue Told(float value)
 {
     const QString bits = QString::number(std::bit_cast<quint32>(value), 16).rightJustified(8, QLatin1Char('0'));
-    return QJsonObject{{QStringLiteral("text"), PlainText(value)}, {QStringLiteral("bits"), QStringLiteral("0x") + bits}};
+    return QJsonObject{{QStringLiteral("text"), PlainText(value)},
+                       {QStringLiteral("bits"), QStringLiteral("0x") + bits}};
 }
 
 QJsonArray Told(const QStringList &lines)
@@ -78,7 +79,8 @@ void TakeHousehold(const QJsonObject &household)
         payPeriod.PayPeriodDate = extras[i - 1][u"PayPeriodDate"].toString();
         payPeriod.NumberOfExtraItems = Count(items);
         for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
-            payPeriod.ExtraItems(item) = {items[item - 1][u"ExtraItem"].toString(), Money(items[item - 1][u"ExtraItemAmount"])};
+            payPeriod.ExtraItems(item) = {items[item - 1][u"ExtraItem"].toString(),
+                                          Money(items[item - 1][u"ExtraItemAmount"])};
     }
     const QJsonArray projects = household[u"Projects"].toArray();
     State.NumberOfProjects = Count(projects);
@@ -147,8 +149,8 @@ QJsonArray ToldExtras(std::optional<DateFormat> format)
         for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
             items += QJsonObject{{QStringLiteral("ExtraItem"), payPeriod.ExtraItems(item).ExtraItem},
                                  {QStringLiteral("ExtraItemAmount"), Told(payPeriod.ExtraItems(item).ExtraItemAmount)}};
-        told += QJsonObject{{QStringLiteral("PayPeriodDate"), format ? Format(payPeriod.PayPeriodDate.Text(), *format)
-                                                                     : payPeriod.PayPeriodDate.Text()},
+        told += QJsonObject{{QStringLiteral("PayPeriodDate"),
+                             format ? Format(payPeriod.PayPeriodDate.Text(), *format) : payPeriod.PayPeriodDate.Text()},
                             {QStringLiteral("ExtraItems"), items}};
     }
     return told;

@@ -37,9 +37,8 @@ void TakeList(const QString &kind, const QJsonArray &list)
     else if (kind.contains(u"pay_period"))
         household[QStringLiteral("ExtraPayPeriods")] = list;
     else
-        household[QStringLiteral("ExtraPayPeriods")] =
-            QJsonArray{QJsonObject{{QStringLiteral("PayPeriodDate"), QStringLiteral("1/1/2004")},
-                                   {QStringLiteral("ExtraItems"), list}}};
+        household[QStringLiteral("ExtraPayPeriods")] = QJsonArray{QJsonObject{
+            {QStringLiteral("PayPeriodDate"), QStringLiteral("1/1/2004")}, {QStringLiteral("ExtraItems"), list}}};
     TakeHousehold(household);
 }
 
@@ -57,8 +56,9 @@ QJsonValue RunCommitmentsCase(const QJsonObject &input, const QJsonObject &, Rec
     Extras = {false, 1};
 
     if (kind == u"validate_creditor")
-        return QJsonObject{{message, ToldRefusal(ValidateCreditorEntry({input[u"due_date_text"].toString(), amount, name}),
-                                                 "Creditors", CreditorsHelp)}};
+        return QJsonObject{
+            {message, ToldRefusal(ValidateCreditorEntry({input[u"due_date_text"].toString(), amount, name}),
+                                  "Creditors", CreditorsHelp)}};
     if (kind == u"validate_regular")
         return QJsonObject{{message, ToldRefusal(ValidateRegularEntry({amount, name}), "Regulars", RegularsHelp)}};
     if (kind == u"validate_extra")

@@ -114,8 +114,9 @@ QJsonValue RunFilesCase(const QJsonObject &input, const QJsonObject &expected, R
     const QString kind = input[u"kind"].toString();
     desk.LayHousehold(); // for the tutor's file
     desk.RemoveFile(QStringLiteral("stores\\untitled.lst"));
-    const QStringList known{QStringLiteral("creditor.txt"), QStringLiteral("environm.ini"), QStringLiteral("extra.txt"),
-                            QStringLiteral("mastshop.txt"), QStringLiteral("projects.txt"), QStringLiteral("regulars.txt")};
+    const QStringList known{QStringLiteral("creditor.txt"), QStringLiteral("environm.ini"),
+                            QStringLiteral("extra.txt"),    QStringLiteral("mastshop.txt"),
+                            QStringLiteral("projects.txt"), QStringLiteral("regulars.txt")};
     LayFiles(input[u"files"].toObject(), known, desk);
     InitializeVariables();
     if (kind == QLatin1String("startup")) {
@@ -145,7 +146,8 @@ QJsonValue RunFilesCase(const QJsonObject &input, const QJsonObject &expected, R
         if (input[u"removed_before"].toBool())
             desk.RemoveFile(file);
         Routines[routine]();
-        return QJsonObject{{QStringLiteral("messages"), ToldMessages(desk)}, {QStringLiteral("text"), ToldFile(file, desk)}};
+        return QJsonObject{{QStringLiteral("messages"), ToldMessages(desk)},
+                           {QStringLiteral("text"), ToldFile(file, desk)}};
     }
     if (kind == QLatin1String("initialize")) {
         desk.RemoveFile(input[u"removed_before"].toString());

@@ -85,16 +85,17 @@ QJsonValue RunOverheadCase(const QJsonObject &input, const QJsonObject &expected
             grid += QJsonArray{shown.Text(row, 0), shown.Text(row, 1)};
     TheWindows.Reset();
 
-    return QJsonObject{{QStringLiteral("MonthlyNetIncome"), Told(statement.MonthlyNetIncome)},
-                       {QStringLiteral("MonthlyNetIncome_text"), FormatCurrency(statement.MonthlyNetIncome)},
-                       {QStringLiteral("lines"), lines},
-                       {QStringLiteral("TotalOverhead"), Told(statement.TotalOverhead)},
-                       {QStringLiteral("TotalOverhead_text"), FormatCurrency(statement.TotalOverhead)},
-                       {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), statement.ResultLabel},
-                                                              {QStringLiteral("amount"), Told(statement.Result)},
-                                                              {QStringLiteral("text"), FormatCurrency(statement.Result)}}},
-                       {QStringLiteral("grid"), grid},
-                       {QStringLiteral("printed"), Told(desk.Printed.value(0).Lines)}};
+    return QJsonObject{
+        {QStringLiteral("MonthlyNetIncome"), Told(statement.MonthlyNetIncome)},
+        {QStringLiteral("MonthlyNetIncome_text"), FormatCurrency(statement.MonthlyNetIncome)},
+        {QStringLiteral("lines"), lines},
+        {QStringLiteral("TotalOverhead"), Told(statement.TotalOverhead)},
+        {QStringLiteral("TotalOverhead_text"), FormatCurrency(statement.TotalOverhead)},
+        {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), statement.ResultLabel},
+                                               {QStringLiteral("amount"), Told(statement.Result)},
+                                               {QStringLiteral("text"), FormatCurrency(statement.Result)}}},
+        {QStringLiteral("grid"), grid},
+        {QStringLiteral("printed"), Told(desk.Printed.value(0).Lines)}};
 }
 
 /// A pick in the list that the extras window has opened.

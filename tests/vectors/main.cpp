@@ -1,5 +1,5 @@
-// vectors FOLDER: runs every worked case of the folder's JSON files and tells each difference. The name of a file, up to
-// its first "-" or ".", is the area; files of an area that is not built yet are counted as skipped.
+// vectors FOLDER: runs every worked case of the folder's JSON files and tells each difference. The name of a file, up
+// to its first "-" or ".", is the area; files of an area that is not built yet are counted as skipped.
 #include "Cases.h"
 
 #include "RecordingDesk.h"
@@ -14,12 +14,9 @@
 
 namespace {
 const QMap<QString, RunCase> Areas{
-    {QStringLiteral("files"), RunFilesCase},
-    {QStringLiteral("budget"), RunBudgetCase},
-    {QStringLiteral("forecast"), RunForecastCase},
-    {QStringLiteral("overhead"), RunOverheadCase},
-    {QStringLiteral("scan"), RunScanCase},
-    {QStringLiteral("commitments"), RunCommitmentsCase},
+    {QStringLiteral("files"), RunFilesCase},       {QStringLiteral("budget"), RunBudgetCase},
+    {QStringLiteral("forecast"), RunForecastCase}, {QStringLiteral("overhead"), RunOverheadCase},
+    {QStringLiteral("scan"), RunScanCase},         {QStringLiteral("commitments"), RunCommitmentsCase},
     {QStringLiteral("projects"), RunProjectsCase},
 };
 }
@@ -62,8 +59,8 @@ int main(int argc, char **argv)
             const QJsonObject one = value.toObject();
             QStringList differences;
             try {
-                differences = Differences(one[u"expected"],
-                                          run(one[u"input"].toObject(), one[u"expected"].toObject(), desk));
+                differences =
+                    Differences(one[u"expected"], run(one[u"input"].toObject(), one[u"expected"].toObject(), desk));
             } catch (const RuntimeError &fatal) {
                 differences += QStringLiteral("run-time error: ") + fatal.Text();
             }
