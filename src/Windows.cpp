@@ -16,7 +16,7 @@
 #include "mainwindow/frmMonthlyPaymentOption.h"
 #include "mainwindow/frmSemiMonthlyPayInfo.h"
 #include "mainwindow/frmSetCurrentPayPeriod.h"
-#include "platform/WindowRegister.h"
+#include "platform/windows/WindowRegister.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "Windows.h"
-#include "platform/Application.h"
-#include "platform/Icons.h"
-#include "platform/RealDesk.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Icons.h"
+#include "platform/desk/RealDesk.h"
+#include "platform/windows/Application.h"
+#include "platform/windows/WindowRegister.h"
 
 #include <QTimer>
 

@@ -4,7 +4,7 @@
 #include "foundation/Report.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
-#include "platform/Format.h"
+#include "platform/values/Format.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 // levelled with the current period by passing money forward.
 #pragma once
 
-#include "platform/Currency.h"
+#include "platform/values/Currency.h"
 
 #include <QString>
 #include <functional>

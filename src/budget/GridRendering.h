@@ -2,7 +2,7 @@
 #pragma once
 
 #include "foundation/Report.h"
-#include "platform/Grid.h"
+#include "platform/controls/Grid.h"
 
 /// Walks down a grid of labels and amounts. Row 1 stays empty as a gap below the heading. Lines that follow each other
 /// are inserted in one go, when a line is written in place or at Finish, which every statement ends with.

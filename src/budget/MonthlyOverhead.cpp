@@ -3,8 +3,8 @@
 #include "foundation/Calendar.h"
 #include "foundation/Report.h"
 #include "foundation/State.h"
-#include "platform/Format.h"
-#include "platform/Printer.h"
+#include "platform/desk/Printer.h"
+#include "platform/values/Format.h"
 
 std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency)
 {

@@ -2,9 +2,9 @@
 
 #include "budget/BudgetGenerator.h"
 #include "foundation/State.h"
-#include "platform/Desk.h"
-#include "platform/Format.h"
-#include "platform/Numbers.h"
+#include "platform/desk/Desk.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
 
 void ForecastSavings()
 {

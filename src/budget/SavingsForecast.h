@@ -3,8 +3,8 @@
 #pragma once
 
 #include "foundation/Report.h"
-#include "platform/Currency.h"
-#include "platform/OneBased.h"
+#include "platform/values/Currency.h"
+#include "platform/values/OneBased.h"
 
 constexpr int MostForecastPeriods = 1000;
 

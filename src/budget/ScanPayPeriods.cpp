@@ -2,7 +2,7 @@
 
 #include "foundation/Calendar.h"
 #include "foundation/State.h"
-#include "platform/Numbers.h"
+#include "platform/values/Numbers.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 // The pay dates ahead, and how an extra pay period is made from one of them.
 #pragma once
 
-#include "platform/Dates.h"
+#include "platform/values/Dates.h"
 
 #include <array>
 #include <functional>

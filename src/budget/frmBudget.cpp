@@ -2,10 +2,10 @@
 
 #include "budget/GridRendering.h"
 #include "foundation/State.h"
-#include "platform/Format.h"
-#include "platform/Icons.h"
-#include "platform/Printer.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Icons.h"
+#include "platform/desk/Printer.h"
+#include "platform/values/Format.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmBudget.h"
 
 namespace {

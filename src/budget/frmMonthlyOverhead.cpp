@@ -3,8 +3,8 @@
 #include "budget/GridRendering.h"
 #include "budget/MonthlyOverhead.h"
 #include "foundation/State.h"
-#include "platform/Format.h"
-#include "platform/WindowRegister.h"
+#include "platform/values/Format.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmMonthlyOverhead.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include "budget/GridRendering.h"
 #include "budget/SavingsForecast.h"
 #include "foundation/State.h"
-#include "platform/Desk.h"
-#include "platform/Numbers.h"
-#include "platform/WindowRegister.h"
+#include "platform/desk/Desk.h"
+#include "platform/values/Numbers.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmSavingsForecast.h"
 
 #include <QLineEdit>

@@ -3,7 +3,7 @@
 #include "budget/ScanPayPeriods.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/State.h"
-#include "platform/WindowRegister.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmScanPayPeriods.h"
 
 frmScanPayPeriods::frmScanPayPeriods() : ui(std::make_unique<Ui::frmScanPayPeriods>())

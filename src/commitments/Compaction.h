@@ -1,7 +1,7 @@
 // Deleting from an array: the record's key is emptied as the mark, and every record with a key moves up.
 #pragma once
 
-#include "platform/OneBased.h"
+#include "platform/values/OneBased.h"
 
 /// Removes element `index` (1 to count) of `array` by that rule and lowers the count by one. An element whose key was
 /// empty before disappears with it, and blank elements fill the end. Error 9 outside, with nothing changed.

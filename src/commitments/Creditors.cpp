@@ -1,7 +1,7 @@
 #include "commitments/Creditors.h"
 
 #include "commitments/Compaction.h"
-#include "platform/Numbers.h"
+#include "platform/values/Numbers.h"
 
 #include <algorithm>
 

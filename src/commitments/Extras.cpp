@@ -1,7 +1,7 @@
 #include "commitments/Extras.h"
 
-#include "platform/Format.h"
-#include "platform/Numbers.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
 
 namespace {
 

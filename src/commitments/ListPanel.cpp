@@ -1,8 +1,8 @@
 #include "commitments/ListPanel.h"
 
 #include "foundation/UnknownError.h"
-#include "platform/Desk.h"
-#include "platform/ListBox.h"
+#include "platform/controls/ListBox.h"
+#include "platform/desk/Desk.h"
 
 #include <QLineEdit>
 #include <QPushButton>

@@ -1,8 +1,8 @@
 #include "commitments/Projects.h"
 
 #include "budget/SavingsForecast.h"
-#include "platform/Format.h"
-#include "platform/Numbers.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
 
 namespace {
 

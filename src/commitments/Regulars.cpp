@@ -1,7 +1,7 @@
 #include "commitments/Regulars.h"
 
 #include "commitments/Compaction.h"
-#include "platform/Numbers.h"
+#include "platform/values/Numbers.h"
 
 std::optional<Refusal> ValidateRegularEntry(const RegularPanel &panel)
 {

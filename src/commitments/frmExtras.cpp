@@ -3,9 +3,9 @@
 #include "budget/ScanPayPeriods.h"
 #include "commitments/Extras.h"
 #include "foundation/BudgetFiles.h"
-#include "platform/Format.h"
-#include "platform/Numbers.h"
-#include "platform/WindowRegister.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmExtras.h"
 
 frmExtras::frmExtras() : ui(std::make_unique<Ui::frmExtras>())

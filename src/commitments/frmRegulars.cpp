@@ -2,9 +2,9 @@
 
 #include "commitments/Regulars.h"
 #include "foundation/BudgetFiles.h"
-#include "platform/Format.h"
-#include "platform/Numbers.h"
-#include "platform/WindowRegister.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmRegulars.h"
 
 frmRegulars::frmRegulars() : ui(std::make_unique<Ui::frmRegulars>())

@@ -1,7 +1,7 @@
 // The installments of one project with their running total, on the screen and, if the user has asked for it, on paper.
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 

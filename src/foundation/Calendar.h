@@ -1,7 +1,7 @@
 // The calendar of pay periods: from a pay date to the one after it, and how a due day is written in a label.
 #pragma once
 
-#include "platform/Dates.h"
+#include "platform/values/Dates.h"
 
 /// The pay date after `date` for a pay frequency of 7, 14, 15 or 30; the empty text for any other. Semimonthly pay
 /// looks at State.FirstPayDate and State.SecondPayDate, monthly pay at State.MonthEndPay.

@@ -1,7 +1,7 @@
 #include "foundation/FileRoutine.h"
 
-#include "platform/Desk.h"
-#include "platform/Numbers.h"
+#include "platform/desk/Desk.h"
+#include "platform/values/Numbers.h"
 
 namespace {
 constexpr int MostMessages = 25;

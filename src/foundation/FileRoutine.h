@@ -1,8 +1,8 @@
 // What every loader and every writer of a data file has in common: how its errors are told.
 #pragma once
 
-#include "platform/DataFile.h"
-#include "platform/RuntimeError.h"
+#include "platform/files/DataFile.h"
+#include "platform/values/RuntimeError.h"
 
 #include <functional>
 

@@ -1,9 +1,9 @@
 // The three options of the program, kept by the desktop as decimal text. A missing one counts as 1, on.
 #pragma once
 
-#include "platform/Desk.h"
-#include "platform/Numbers.h"
-#include "platform/RuntimeError.h"
+#include "platform/desk/Desk.h"
+#include "platform/values/Numbers.h"
+#include "platform/values/RuntimeError.h"
 
 inline const QString ShowWelcome = QStringLiteral("Show Welcome At Startup");
 inline const QString ShowTips = QStringLiteral("Show Tips at Startup");

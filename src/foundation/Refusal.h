@@ -1,7 +1,7 @@
 // Why an entry was refused: the message for the first test that failed, and the field that gets the focus.
 #pragma once
 
-#include "platform/Desk.h"
+#include "platform/desk/Desk.h"
 
 #include <optional>
 

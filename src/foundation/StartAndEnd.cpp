@@ -3,8 +3,8 @@
 #include "foundation/BudgetFiles.h"
 #include "foundation/ShoppingFiles.h"
 #include "foundation/State.h"
-#include "platform/DataFile.h"
-#include "platform/Desk.h"
+#include "platform/desk/Desk.h"
+#include "platform/files/DataFile.h"
 
 void InitializeVariables()
 {

@@ -1,7 +1,7 @@
 // Start and end: what fills the shared state, and the orderly way out.
 #pragma once
 
-#include "platform/Printer.h"
+#include "platform/desk/Printer.h"
 
 /// Fills the shared state from the household's files and starts the calculator. Called once, by the main window.
 /// One handler serves the whole routine: a file that is not found greys the calculator's entry and the next statement

@@ -2,9 +2,9 @@
 // calculation reads and writes it directly. ResetState() puts all of it back.
 #pragma once
 
-#include "platform/Currency.h"
-#include "platform/Dates.h"
-#include "platform/OneBased.h"
+#include "platform/values/Currency.h"
+#include "platform/values/Dates.h"
+#include "platform/values/OneBased.h"
 
 #include <QString>
 #include <QTime>

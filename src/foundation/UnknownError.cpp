@@ -1,7 +1,7 @@
 #include "foundation/UnknownError.h"
 
-#include "platform/Desk.h"
-#include "platform/RuntimeError.h"
+#include "platform/desk/Desk.h"
+#include "platform/values/RuntimeError.h"
 
 void TellUnknownError(const QString &title)
 {

@@ -1,7 +1,7 @@
 #include "foundation/WorkWindow.h"
 
 #include "foundation/Tutor.h"
-#include "platform/WindowRegister.h"
+#include "platform/windows/WindowRegister.h"
 
 #include <QTimer>
 

@@ -2,7 +2,7 @@
 // timer rests.
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/windows/Form.h"
 
 class WorkWindow : public Form
 {

@@ -2,9 +2,9 @@
 
 #include "foundation/Options.h"
 #include "foundation/State.h"
-#include "platform/Desk.h"
-#include "platform/Theme.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Theme.h"
+#include "platform/desk/Desk.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmSplash.h"
 
 frmSplash::frmSplash() : ui(std::make_unique<Ui::frmSplash>())

@@ -1,7 +1,7 @@
 // The title of the program and the button that goes on to the main window.
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 

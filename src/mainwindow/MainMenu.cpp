@@ -1,7 +1,7 @@
 #include "mainwindow/MainMenu.h"
 
 #include "foundation/State.h"
-#include "platform/Format.h"
+#include "platform/values/Format.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,8 +1,8 @@
 #include "mainwindow/Settings.h"
 
-#include "platform/Format.h"
-#include "platform/Numbers.h"
-#include "platform/RuntimeError.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+#include "platform/values/RuntimeError.h"
 
 #include <algorithm>
 #include <cmath>

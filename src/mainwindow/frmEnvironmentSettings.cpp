@@ -1,8 +1,8 @@
 #include "mainwindow/frmEnvironmentSettings.h"
 
 #include "foundation/UnknownError.h"
-#include "platform/OptionGroup.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/OptionGroup.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmEnvironmentSettings.h"
 
 #include <QScopedValueRollback>

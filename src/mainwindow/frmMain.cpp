@@ -6,9 +6,9 @@
 #include "foundation/State.h"
 #include "foundation/Tutor.h"
 #include "mainwindow/StateLineLook.h"
-#include "platform/Icons.h"
-#include "platform/Theme.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Icons.h"
+#include "platform/controls/Theme.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmMain.h"
 
 #include <QMenu>

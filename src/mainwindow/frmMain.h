@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mainwindow/MainMenu.h"
-#include "platform/Form.h"
+#include "platform/windows/Form.h"
 
 #include <QHash>
 #include <QTimer>

@@ -1,8 +1,8 @@
 #include "mainwindow/frmMonthlyPaymentOption.h"
 
 #include "foundation/State.h"
-#include "platform/OptionGroup.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/OptionGroup.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmMonthlyPaymentOption.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Asks whether a monthly paycheck comes at the month's end.
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 

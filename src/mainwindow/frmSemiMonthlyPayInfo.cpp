@@ -1,8 +1,8 @@
 #include "mainwindow/frmSemiMonthlyPayInfo.h"
 
 #include "mainwindow/Settings.h"
-#include "platform/Format.h"
-#include "platform/WindowRegister.h"
+#include "platform/values/Format.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmSemiMonthlyPayInfo.h"
 
 frmSemiMonthlyPayInfo::frmSemiMonthlyPayInfo() : ui(std::make_unique<Ui::frmSemiMonthlyPayInfo>())

@@ -1,7 +1,7 @@
 // Asks for the two pay days of a semimonthly household.
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 

@@ -2,8 +2,8 @@
 
 #include "foundation/State.h"
 #include "foundation/UnknownError.h"
-#include "platform/Desk.h"
-#include "platform/WindowRegister.h"
+#include "platform/desk/Desk.h"
+#include "platform/windows/WindowRegister.h"
 #include "ui_frmSetCurrentPayPeriod.h"
 
 frmSetCurrentPayPeriod::frmSetCurrentPayPeriod() : ui(std::make_unique<Ui::frmSetCurrentPayPeriod>())

@@ -3,10 +3,10 @@
 #include "RecordingDesk.h"
 #include "Windows.h"
 #include "budget/SavingsForecast.h"
-#include "platform/Application.h"
-#include "platform/Grid.h"
-#include "platform/Locale.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Grid.h"
+#include "platform/values/Locale.h"
+#include "platform/windows/Application.h"
+#include "platform/windows/WindowRegister.h"
 
 #include <QEvent>
 #include <QPixmap>

@@ -1,6 +1,6 @@
 // The budget window: stepping, the print switch, and what a change of windows resets.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "budget/BudgetGenerator.h"
 
@@ -395,5 +395,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmBudget)
+REGISTER_TEST(gui_frmBudget)
 #include "gui_frmBudget.moc"

@@ -1,6 +1,6 @@
 // The monthly overhead's window: its rows, and what leaving it does.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "budget/MonthlyOverhead.h"
 
@@ -297,5 +297,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmMonthlyOverhead)
+REGISTER_TEST(gui_frmMonthlyOverhead)
 #include "gui_frmMonthlyOverhead.moc"

@@ -1,9 +1,9 @@
 // The savings forecast's window: filling and filling again, the pick of a completion date, and what leaving it does.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "budget/SavingsForecast.h"
-#include "platform/RowLook.h"
+#include "platform/controls/RowLook.h"
 
 #include <QHeaderView>
 
@@ -487,5 +487,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmSavingsForecast)
+REGISTER_TEST(gui_frmSavingsForecast)
 #include "gui_frmSavingsForecast.moc"

@@ -1,6 +1,6 @@
 // The window of valid pay periods: looking only, and picking one for the extras.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "budget/ScanPayPeriods.h"
 
@@ -229,5 +229,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmScanPayPeriods)
+REGISTER_TEST(gui_frmScanPayPeriods)
 #include "gui_frmScanPayPeriods.moc"

@@ -1,6 +1,7 @@
 // The savings forecast: its rows, its page, and what it leaves behind.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 
 #include "budget/SavingsForecast.h"
 
@@ -203,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_forecast)
+REGISTER_TEST(tst_forecast)
 #include "tst_forecast.moc"

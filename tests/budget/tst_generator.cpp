@@ -1,6 +1,7 @@
 // The budget generator: pairs of runs, a look-ahead run of the following period and a budget run of the current one.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "budget/BudgetGenerator.h"
 #include "foundation/State.h"
 
@@ -887,5 +888,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestGenerator)
+REGISTER_TEST(TestGenerator)
 #include "tst_generator.moc"

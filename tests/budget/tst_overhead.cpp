@@ -1,6 +1,7 @@
 // The monthly overhead: the conversion to a month, the statement and its page.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 
 #include "budget/MonthlyOverhead.h"
 
@@ -195,5 +196,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_overhead)
+REGISTER_TEST(tst_overhead)
 #include "tst_overhead.moc"

@@ -1,6 +1,7 @@
 // The pay dates ahead, and the making and sorting of extra pay periods.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 
 #include "budget/ScanPayPeriods.h"
 
@@ -196,5 +197,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_scan)
+REGISTER_TEST(tst_scan)
 #include "tst_scan.moc"

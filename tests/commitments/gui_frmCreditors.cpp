@@ -1,6 +1,6 @@
 // The window of the creditors, event by event: controls, messages, focus, and what stands in creditor.txt afterwards.
 #include "CommitmentsDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -395,5 +395,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmCreditors)
+REGISTER_TEST(gui_frmCreditors)
 #include "gui_frmCreditors.moc"

@@ -1,7 +1,7 @@
 // The window of the extra items, event by event: the two levels of its list, the credit box, the pick of a pay period
 // in the scan, messages, focus, and what stands in extra.txt afterwards.
 #include "CommitmentsDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -618,5 +618,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmExtras)
+REGISTER_TEST(gui_frmExtras)
 #include "gui_frmExtras.moc"

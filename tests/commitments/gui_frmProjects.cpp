@@ -1,7 +1,7 @@
 // The window of the projects, event by event: planning against the forecast's pick, messages, focus, the way to the
 // project's view, and what stands in projects.txt afterwards.
 #include "CommitmentsDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include <QToolTip>
 
@@ -573,5 +573,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmProjects)
+REGISTER_TEST(gui_frmProjects)
 #include "gui_frmProjects.moc"

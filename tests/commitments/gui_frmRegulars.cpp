@@ -1,7 +1,7 @@
 // The window of the regular items, event by event: controls, messages, focus, and what stands in regulars.txt
 // afterwards.
 #include "CommitmentsDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -327,5 +327,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmRegulars)
+REGISTER_TEST(gui_frmRegulars)
 #include "gui_frmRegulars.moc"

@@ -1,6 +1,6 @@
 // The view of one project: headings, rows that are filled again on every return, red amounts, paper.
 #include "CommitmentsDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -210,5 +210,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmViewProject)
+REGISTER_TEST(gui_frmViewProject)
 #include "gui_frmViewProject.moc"

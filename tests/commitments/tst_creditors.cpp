@@ -1,6 +1,7 @@
 // The edits of the creditors and the regular items: what is refused, the order by due day, the deletion by mark.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 
 #include "commitments/Creditors.h"
 #include "commitments/Regulars.h"
@@ -284,5 +285,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_creditors)
+REGISTER_TEST(tst_creditors)
 #include "tst_creditors.moc"

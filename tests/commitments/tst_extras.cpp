@@ -1,9 +1,10 @@
 // The edits of the extra pay periods and their items: the credit's sign, the bound of 200, the clearing up to slot 100.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 
 #include "commitments/Extras.h"
-#include "platform/Locale.h"
+#include "platform/values/Locale.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -205,5 +206,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_extras)
+REGISTER_TEST(tst_extras)
 #include "tst_extras.moc"

@@ -1,11 +1,12 @@
 // The edits of the projects: funds, installments in proportion to what each pay period saves, the bound of 100 entries.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 
 #include "budget/SavingsForecast.h"
 #include "commitments/Projects.h"
-#include "platform/Format.h"
-#include "platform/Locale.h"
+#include "platform/values/Format.h"
+#include "platform/values/Locale.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_projects)
+REGISTER_TEST(tst_projects)
 #include "tst_projects.moc"

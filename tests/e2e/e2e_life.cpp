@@ -1,8 +1,8 @@
 // The life of windows on a real X server: what the window manager and other programs do is no business of the windows,
 // and what the user does is heard once and in order. Keys and clicks come from outside, by xdotool.
-#include "GuiMain.h"
 #include "ToyWindows.h"
-#include "platform/RealDesk.h"
+#include "platform/desk/RealDesk.h"
+#include "platform/windows/Application.h"
 
 #include <QLabel>
 #include <QMenu>

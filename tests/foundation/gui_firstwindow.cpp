@@ -1,6 +1,6 @@
 // Which window comes first, and how an option is read that somebody has edited.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "Windows.h"
 #include "foundation/Options.h"
@@ -83,5 +83,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_firstwindow)
+REGISTER_TEST(gui_firstwindow)
 #include "gui_firstwindow.moc"

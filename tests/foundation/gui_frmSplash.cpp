@@ -1,6 +1,6 @@
 // The splash: the tip that it shows or not, and how it hands over to the main window.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include <QTimer>
 
@@ -136,5 +136,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmSplash)
+REGISTER_TEST(gui_frmSplash)
 #include "gui_frmSplash.moc"

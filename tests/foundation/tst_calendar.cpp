@@ -1,6 +1,7 @@
 // From one pay date to the next, and how a due day is written.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "foundation/Calendar.h"
 #include "foundation/State.h"
 
@@ -235,5 +236,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCalendar)
+REGISTER_TEST(TestCalendar)
 #include "tst_calendar.moc"

@@ -1,12 +1,13 @@
 // The household's data files: what is written byte for byte, what is read, and how their failures are told.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/ShoppingFiles.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
-#include "platform/DataFile.h"
-#include "platform/Locale.h"
+#include "platform/files/DataFile.h"
+#include "platform/values/Locale.h"
 
 #include <csignal>
 #include <sys/resource.h>
@@ -1154,5 +1155,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFiles)
+REGISTER_TEST(TestFiles)
 #include "tst_files.moc"

@@ -1,9 +1,10 @@
 // The master shopping list and the store list files: bytes, reading, failures.
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "foundation/ShoppingFiles.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
-#include "platform/Locale.h"
+#include "platform/values/Locale.h"
 
 namespace {
 
@@ -435,5 +436,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestShoppingFiles)
+REGISTER_TEST(TestShoppingFiles)
 #include "tst_shoppingfiles.moc"

@@ -2,6 +2,7 @@
 // saved, the calculator is closed, the process ends.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
 
@@ -468,5 +469,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestStartAndEnd)
+REGISTER_TEST(TestStartAndEnd)
 #include "tst_startandend.moc"

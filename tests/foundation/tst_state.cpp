@@ -1,6 +1,7 @@
 // What the shared state holds before anything was loaded, and that all of it can be put back.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "foundation/State.h"
 
 namespace {
@@ -147,5 +148,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestState)
+REGISTER_TEST(TestState)
 #include "tst_state.moc"

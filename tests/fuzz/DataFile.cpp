@@ -5,14 +5,14 @@
 // Beside what the sanitizers see, these must hold: only RuntimeError is ever thrown; every read takes something from
 // the file or says that it is at its end; a load shows at most 26 boxes; what was loaded without a message is saved
 // without one and loads again as the same; the number and date tests agree with their conversions.
-#include "platform/DataFile.h"
+#include "platform/files/DataFile.h"
 #include "ErrorOf.h"
 #include "RecordingDesk.h"
 #include "budget/BudgetGenerator.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/ShoppingFiles.h"
 #include "foundation/StartAndEnd.h"
-#include "platform/Numbers.h"
+#include "platform/values/Numbers.h"
 
 #include <cstdio>
 #include <cstdlib>

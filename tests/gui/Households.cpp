@@ -2,7 +2,7 @@
 
 #include "GuiDesk.h"
 #include "foundation/Calendar.h"
-#include "platform/Theme.h"
+#include "platform/controls/Theme.h"
 
 #include <QApplication>
 #include <QDirIterator>

@@ -3,9 +3,9 @@
 #include "Households.h"
 
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 #include "Windows.h"
-#include "platform/Theme.h"
+#include "platform/controls/Theme.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -301,5 +301,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_layout)
+REGISTER_TEST(gui_layout)
 #include "gui_layout.moc"

@@ -1,6 +1,6 @@
 // The settings window: what it shows, what applies at once, every way out, and what each leaves behind.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "foundation/Tutor.h"
 #include "mainwindow/UpDown.h"
@@ -654,5 +654,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmEnvironmentSettings)
+REGISTER_TEST(gui_frmEnvironmentSettings)
 #include "gui_frmEnvironmentSettings.moc"

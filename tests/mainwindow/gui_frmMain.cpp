@@ -1,6 +1,6 @@
 // The main window: its tables of menus, toolbar and state lines, its options, its timers, the start and the ways out.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "foundation/Tutor.h"
 #include "foundation/WorkWindow.h"
@@ -1185,5 +1185,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmMain)
+REGISTER_TEST(gui_frmMain)
 #include "gui_frmMain.moc"

@@ -1,6 +1,6 @@
 // The question whether a monthly paycheck comes at the month's end.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include <QRadioButton>
 
@@ -105,5 +105,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmMonthlyPaymentOption)
+REGISTER_TEST(gui_frmMonthlyPaymentOption)
 #include "gui_frmMonthlyPaymentOption.moc"

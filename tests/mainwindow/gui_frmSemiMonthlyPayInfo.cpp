@@ -1,6 +1,6 @@
 // The question for the two pay days of a semimonthly household.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -167,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmSemiMonthlyPayInfo)
+REGISTER_TEST(gui_frmSemiMonthlyPayInfo)
 #include "gui_frmSemiMonthlyPayInfo.moc"

@@ -1,6 +1,6 @@
 // The question for the pay period: every way out, and what it leaves behind.
 #include "GuiDesk.h"
-#include "GuiMain.h"
+#include "TestProgram.h"
 
 #include "foundation/Calendar.h"
 
@@ -239,5 +239,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_frmSetCurrentPayPeriod)
+REGISTER_TEST(gui_frmSetCurrentPayPeriod)
 #include "gui_frmSetCurrentPayPeriod.moc"

@@ -1,6 +1,7 @@
 // What the settings windows show, refuse and store.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "TestProgram.h"
 #include "mainwindow/Settings.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -287,5 +288,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSettings)
+REGISTER_TEST(TestSettings)
 #include "tst_settings.moc"

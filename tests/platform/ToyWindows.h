@@ -1,9 +1,9 @@
 // Windows that do nothing but log their life, for the tests of the register, offscreen and on a real X server.
 #pragma once
 
-#include "platform/Desk.h"
-#include "platform/Form.h"
-#include "platform/WindowRegister.h"
+#include "platform/desk/Desk.h"
+#include "platform/windows/Form.h"
+#include "platform/windows/WindowRegister.h"
 
 #include <QHash>
 #include <QLineEdit>

@@ -1,6 +1,7 @@
 // The desktop's calculator as a process: a script that only sleeps stands in for it.
 #include "../support/ErrorOf.h"
-#include "platform/Calculator.h"
+#include "TestProgram.h"
+#include "platform/desk/Calculator.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -168,5 +169,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCalculator)
+REGISTER_TEST(TestCalculator)
 #include "gui_calculator.moc"

@@ -1,6 +1,6 @@
 // The base of all windows: labels of several lines have the height that their lines need, whatever the width.
-#include "GuiMain.h"
-#include "platform/Form.h"
+#include "TestProgram.h"
+#include "platform/windows/Form.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -110,5 +110,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_form)
+REGISTER_TEST(gui_form)
 #include "gui_form.moc"

@@ -1,8 +1,8 @@
 // The grid: rows put in and written in place, the heading, the colours, and many rows without waiting.
 #include "ErrorOf.h"
-#include "GuiMain.h"
-#include "platform/Grid.h"
-#include "platform/Theme.h"
+#include "TestProgram.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/Theme.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -419,5 +419,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_grid)
+REGISTER_TEST(gui_grid)
 #include "gui_grid.moc"

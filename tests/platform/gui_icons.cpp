@@ -1,6 +1,7 @@
 // The icons and colours of our own, as they come out on a light and on a dark desktop.
-#include "platform/Icons.h"
-#include "platform/Theme.h"
+#include "TestProgram.h"
+#include "platform/controls/Icons.h"
+#include "platform/controls/Theme.h"
 
 #include <QApplication>
 #include <QDir>
@@ -385,5 +386,5 @@ private:
     QPalette m_startPalette;
 };
 
-QTEST_MAIN(gui_icons)
+REGISTER_TEST(gui_icons)
 #include "gui_icons.moc"

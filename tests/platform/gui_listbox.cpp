@@ -1,6 +1,6 @@
 // The list box: what counts as a click, and what only moves the mark.
-#include "GuiMain.h"
-#include "platform/ListBox.h"
+#include "TestProgram.h"
+#include "platform/controls/ListBox.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -271,5 +271,5 @@ private Q_SLOTS:
     }
 };
 
-GUI_TEST_MAIN(gui_listbox)
+REGISTER_TEST(gui_listbox)
 #include "gui_listbox.moc"

@@ -1,7 +1,7 @@
 // The real message boxes: what stands in them and what their buttons do; and where the file dialogs open.
-#include "GuiMain.h"
+#include "TestProgram.h"
 #include "ToyWindows.h"
-#include "platform/RealDesk.h"
+#include "platform/desk/RealDesk.h"
 
 #include <QLabel>
 #include <QMessageBox>
@@ -233,5 +233,5 @@ private:
     std::unique_ptr<ToyBox> m_toys;
 };
 
-GUI_TEST_MAIN(gui_messagebox)
+REGISTER_TEST(gui_messagebox)
 #include "gui_messagebox.moc"

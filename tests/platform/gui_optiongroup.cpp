@@ -1,7 +1,7 @@
 // A group of option buttons: one is selected or none, and only what becomes selected is told.
 #include "GuiDesk.h"
-#include "GuiMain.h"
-#include "platform/OptionGroup.h"
+#include "TestProgram.h"
+#include "platform/controls/OptionGroup.h"
 
 class gui_optiongroup : public QObject
 {
@@ -53,5 +53,5 @@ private:
     OptionGroup group{{&first, &second}, [this](int index) { clicks += index; }};
 };
 
-GUI_TEST_MAIN(gui_optiongroup)
+REGISTER_TEST(gui_optiongroup)
 #include "gui_optiongroup.moc"

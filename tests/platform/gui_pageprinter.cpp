@@ -1,8 +1,8 @@
 // Documents on paper, read back from the PDF that they become.
 #include "ErrorOf.h"
-#include "GuiMain.h"
-#include "platform/Desk.h"
-#include "platform/PagePrinter.h"
+#include "TestProgram.h"
+#include "platform/desk/Desk.h"
+#include "platform/desk/PagePrinter.h"
 
 #include <QPdfWriter>
 #include <QPrinterInfo>
@@ -285,5 +285,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-GUI_TEST_MAIN(gui_pageprinter)
+REGISTER_TEST(gui_pageprinter)
 #include "gui_pageprinter.moc"

@@ -1,9 +1,9 @@
 // The life of windows: what each of them hears, in which order, and that it is heard before the call returns.
-#include "GuiMain.h"
+#include "TestProgram.h"
 #include "ToyWindows.h"
-#include "platform/ListBox.h"
-#include "platform/RealDesk.h"
-#include "platform/RuntimeError.h"
+#include "platform/controls/ListBox.h"
+#include "platform/desk/RealDesk.h"
+#include "platform/values/RuntimeError.h"
 
 #include <QComboBox>
 #include <QMenu>
@@ -1425,5 +1425,5 @@ private:
     }
 };
 
-GUI_TEST_MAIN(gui_windowregister)
+REGISTER_TEST(gui_windowregister)
 #include "gui_windowregister.moc"

@@ -1,6 +1,7 @@
 // Arrays that count from 1, and fixed ones: their bounds hold.
 #include "../support/ErrorOf.h"
-#include "platform/OneBased.h"
+#include "TestProgram.h"
+#include "platform/values/OneBased.h"
 
 #include <QtTest>
 
@@ -95,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestArrays)
+REGISTER_TEST(TestArrays)
 #include "tst_arrays.moc"

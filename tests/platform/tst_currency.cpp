@@ -1,6 +1,7 @@
 // Money: exact sums, one rounding on the way in, no wrap at the ends of the range.
 #include "../support/ErrorOf.h"
-#include "platform/Currency.h"
+#include "TestProgram.h"
+#include "platform/values/Currency.h"
 
 #include <QtTest>
 #include <cmath>
@@ -98,5 +99,5 @@ private Q_SLOTS:
     void AnAmountAsADoubleIsInWholeUnits() { QCOMPARE(Count(-37500).ToDouble(), -3.75); }
 };
 
-QTEST_GUILESS_MAIN(TestCurrency)
+REGISTER_TEST(TestCurrency)
 #include "tst_currency.moc"

@@ -1,8 +1,9 @@
 // The delimited data files: what is written, what is read back, and what every failure is called.
 #include "../support/ErrorOf.h"
-#include "platform/DataFile.h"
-#include "platform/Locale.h"
-#include "platform/Numbers.h"
+#include "TestProgram.h"
+#include "platform/files/DataFile.h"
+#include "platform/values/Locale.h"
+#include "platform/values/Numbers.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -617,5 +618,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDataFile)
+REGISTER_TEST(TestDataFile)
 #include "tst_datafile.moc"

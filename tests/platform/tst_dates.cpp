@@ -1,8 +1,9 @@
 // Dates as people type them, and calendar arithmetic.
 #include "../support/ErrorOf.h"
-#include "platform/Dates.h"
-#include "platform/Desk.h"
-#include "platform/Locale.h"
+#include "TestProgram.h"
+#include "platform/desk/Desk.h"
+#include "platform/values/Dates.h"
+#include "platform/values/Locale.h"
 
 #include <QtTest>
 
@@ -231,5 +232,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDates)
+REGISTER_TEST(TestDates)
 #include "tst_dates.moc"

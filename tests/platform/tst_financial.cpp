@@ -1,7 +1,8 @@
 // The financial functions. The expected figures were worked out from the annuity formula in decimal arithmetic of
 // fifty digits, the shares of principal and interest by walking the balance from payment to payment.
 #include "../support/ErrorOf.h"
-#include "platform/Financial.h"
+#include "TestProgram.h"
+#include "platform/values/Financial.h"
 
 #include <QtTest>
 #include <cmath>
@@ -218,5 +219,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFinancial)
+REGISTER_TEST(TestFinancial)
 #include "tst_financial.moc"

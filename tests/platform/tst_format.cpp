@@ -1,7 +1,8 @@
 // The named formats: what they show, how they round, what they leave alone.
-#include "platform/Format.h"
-#include "platform/Locale.h"
-#include "platform/Numbers.h"
+#include "TestProgram.h"
+#include "platform/values/Format.h"
+#include "platform/values/Locale.h"
+#include "platform/values/Numbers.h"
 
 #include "../support/ErrorOf.h"
 
@@ -208,5 +209,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFormat)
+REGISTER_TEST(TestFormat)
 #include "tst_format.moc"

@@ -1,7 +1,8 @@
 // Text to number and back: what counts as a number, what it is worth, and how it is written again.
 #include "../support/ErrorOf.h"
-#include "platform/Locale.h"
-#include "platform/Numbers.h"
+#include "TestProgram.h"
+#include "platform/values/Locale.h"
+#include "platform/values/Numbers.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -462,5 +463,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestNumbers)
+REGISTER_TEST(TestNumbers)
 #include "tst_numbers.moc"

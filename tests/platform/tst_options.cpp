@@ -1,6 +1,7 @@
 // The options store: per user, under the program's title, section "Options".
-#include "platform/Desk.h"
-#include "platform/Options.h"
+#include "TestProgram.h"
+#include "platform/desk/Desk.h"
+#include "platform/desk/Options.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -75,5 +76,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOptions)
+REGISTER_TEST(TestOptions)
 #include "tst_options.moc"

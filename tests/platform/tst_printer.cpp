@@ -1,6 +1,7 @@
 // Columns and lines of the printed page.
-#include "platform/Desk.h"
-#include "platform/Printer.h"
+#include "TestProgram.h"
+#include "platform/desk/Desk.h"
+#include "platform/desk/Printer.h"
 
 #include <QtTest>
 
@@ -169,5 +170,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPrinter)
+REGISTER_TEST(TestPrinter)
 #include "tst_printer.moc"

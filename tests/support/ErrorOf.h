@@ -1,7 +1,7 @@
 // The number of the run-time error that a statement raises; 0 if it raises none.
 #pragma once
 
-#include "platform/RuntimeError.h"
+#include "platform/values/RuntimeError.h"
 
 template <class Statement>
 int ErrorOf(Statement statement)

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "FakeDesk.h"
-#include "platform/Grid.h"
-#include "platform/ListBox.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/ListBox.h"
+#include "platform/windows/WindowRegister.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

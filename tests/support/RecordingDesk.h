@@ -3,7 +3,7 @@
 #pragma once
 
 #include "foundation/State.h"
-#include "platform/Desk.h"
+#include "platform/desk/Desk.h"
 
 #include <QMap>
 #include <QTemporaryDir>

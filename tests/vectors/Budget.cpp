@@ -2,7 +2,7 @@
 
 #include "RecordingDesk.h"
 #include "budget/BudgetGenerator.h"
-#include "platform/Format.h"
+#include "platform/values/Format.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "RecordingDesk.h"
 #include "foundation/BudgetFiles.h"
-#include "platform/Numbers.h"
+#include "platform/values/Numbers.h"
 
 #include <QJsonDocument>
 #include <bit>

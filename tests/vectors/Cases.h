@@ -7,8 +7,8 @@
 #include <QJsonValue>
 #include <QStringList>
 
-#include "platform/Currency.h"
-#include "platform/Dates.h"
+#include "platform/values/Currency.h"
+#include "platform/values/Dates.h"
 
 #include <optional>
 

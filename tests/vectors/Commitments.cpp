@@ -9,8 +9,8 @@
 #include "commitments/Regulars.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/UnknownError.h"
-#include "platform/Format.h"
-#include "platform/Numbers.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 #include "budget/ScanPayPeriods.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/State.h"
-#include "platform/Format.h"
-#include "platform/Grid.h"
-#include "platform/Numbers.h"
-#include "platform/WindowRegister.h"
+#include "platform/controls/Grid.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+#include "platform/windows/WindowRegister.h"
 
 #include "Windows.h"
 

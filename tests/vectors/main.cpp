@@ -4,8 +4,8 @@
 
 #include "RecordingDesk.h"
 
-#include "platform/Application.h"
-#include "platform/Locale.h"
+#include "platform/values/Locale.h"
+#include "platform/windows/Application.h"
 
 #include <QDir>
 #include <QJsonDocument>

@@ -1,0 +1,429 @@
+#include "platform/controls/Grid.h"
+
+#include "platform/controls/RowLook.h"
+#include "platform/controls/Theme.h"
+#include "platform/values/RuntimeError.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTimer>
+#include <algorithm>
+#include <numeric>
+
+namespace {
+constexpr int TwipsPerPixel = 15;
+constexpr int RowPadding = 8;
+constexpr int MeasuredLetter = 5; // pixels
+constexpr int RowsAtFirst = 21;   // what a grid opens with room for
+constexpr int RowsAtLeast = 6;
+constexpr int MostLetters = 120;  // that a grid claims the width of
+constexpr int HairlineAlpha = 60; // of 255
+constexpr int DefaultTwips = 960; // of a column that was given no width
+} // namespace
+
+/// The rows of a grid. The view is told of any number of changes at once, when the program comes to rest.
+class GridModel : public QAbstractTableModel
+{
+public:
+    struct Cell {
+        QString Text;
+        GridColour Colour = GridColour::Text;
+        bool Bold = false;
+    };
+
+    explicit GridModel(Grid *grid) : QAbstractTableModel(grid), m_grid(grid) {}
+
+    void SetShape(int rows, int columns)
+    {
+        m_columns = columns;
+        m_right.assign(std::size_t(columns), false);
+        m_rows.assign(std::size_t(rows), Row());
+        Touch();
+    }
+    int Rows() const { return int(m_rows.size()); }
+    int Columns() const { return m_columns; }
+
+    Cell &At(int row, int column)
+    {
+        Check(column);
+        if (row < 0)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+        if (row >= Rows())
+            m_rows.resize(std::size_t(row) + 1);
+        Row &cells = m_rows[std::size_t(row)];
+        if (cells.empty())
+            cells.resize(std::size_t(m_columns));
+        Touch();
+        return cells[std::size_t(column)];
+    }
+    const Cell &Read(int row, int column) const
+    {
+        if (row < 0 || row >= Rows() || column < 0 || column >= m_columns)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+        static const Cell untouched;
+        const Row &cells = m_rows[std::size_t(row)];
+        return cells.empty() ? untouched : cells[std::size_t(column)];
+    }
+    void Insert(int row, const QList<QStringList> &lines)
+    {
+        if (row < 0 || row > Rows())
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+        std::vector<Row> rows;
+        rows.reserve(std::size_t(lines.size()));
+        for (const QStringList &texts : lines) {
+            if (texts.size() > m_columns)
+                RaiseError(RuntimeError::SubscriptOutOfRange);
+            Row &cells = rows.emplace_back(std::size_t(m_columns));
+            for (qsizetype i = 0; i < texts.size(); ++i)
+                cells[std::size_t(i)].Text = texts[i];
+        }
+        m_rows.insert(m_rows.begin() + row, std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+        Touch();
+    }
+    void ClearBelowHeading()
+    {
+        for (std::size_t row = 1; row < m_rows.size(); ++row) {
+            for (Cell &cell : m_rows[row])
+                cell.Text.clear();
+            // A row that looks like a new one costs like a new one: they pile up while a budget is stepped through.
+            const auto plain = [](const Cell &cell) { return cell.Colour == GridColour::Text && !cell.Bold; };
+            if (std::all_of(m_rows[row].begin(), m_rows[row].end(), plain))
+                Row().swap(m_rows[row]);
+        }
+        Touch();
+    }
+    void SetRight(int column, bool right)
+    {
+        Check(column);
+        m_right[std::size_t(column)] = right;
+        Touch();
+    }
+    bool Right(int column) const
+    {
+        Check(column);
+        return m_right[std::size_t(column)];
+    }
+    void Check(int column) const
+    {
+        if (column < 0 || column >= m_columns)
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+    }
+
+    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownRows; }
+    int columnCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownColumns; }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        return Value(index.row() + 1, index.column(), role);
+    }
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        return orientation == Qt::Horizontal ? Value(0, section, role) : QVariant();
+    }
+
+private:
+    using Row = std::vector<Cell>; // empty: nothing was ever written there
+
+    QVariant Value(int row, int column, int role) const
+    {
+        if (row >= Rows() || column < 0 || column >= m_columns)
+            return {};
+        const Cell &cell = Read(row, column);
+        switch (role) {
+        case Qt::DisplayRole: return cell.Text;
+        case Qt::ToolTipRole: return cell.Text.isEmpty() ? QVariant() : cell.Text;
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignVCenter |
+                                       (m_right[std::size_t(column)] ? Qt::AlignRight : Qt::AlignLeft));
+        case Qt::FontRole: {
+            QFont font = m_grid->font();
+            font.setBold(cell.Bold);
+            return font;
+        }
+        case Qt::ForegroundRole:
+            if (cell.Colour == GridColour::Text)
+                return {};
+            return QBColor(int(cell.Colour), m_grid->palette().color(QPalette::Base),
+                           m_grid->palette().color(QPalette::Text));
+        default: return {};
+        }
+    }
+
+    void Touch()
+    {
+        if (m_dirty)
+            return;
+        m_dirty = true;
+        QTimer::singleShot(0, this, [this] {
+            m_dirty = false;
+            const int rows = qMax(0, Rows() - 1);
+            if (rows == m_shownRows && m_columns == m_shownColumns) {
+                // Where only texts have changed, the view stays where the user has scrolled it.
+                if (rows > 0 && m_columns > 0)
+                    Q_EMIT dataChanged(index(0, 0), index(rows - 1, m_columns - 1));
+                if (m_columns > 0)
+                    Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_columns - 1);
+                return;
+            }
+            beginResetModel();
+            m_shownRows = rows;
+            m_shownColumns = m_columns;
+            endResetModel();
+        });
+    }
+
+    Grid *m_grid;
+    std::vector<Row> m_rows;
+    std::vector<bool> m_right;
+    int m_columns = 0;
+    int m_shownRows = 0;
+    int m_shownColumns = 0;
+    bool m_dirty = false;
+};
+
+/// A plain heading: texts with the rows' own margins over a hairline.
+class GridHeading : public QHeaderView
+{
+public:
+    explicit GridHeading(QWidget *parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+protected:
+    void paintSection(QPainter *painter, const QRect &rect, int column) const override
+    {
+        const QColor ink = palette().color(QPalette::Text);
+        painter->fillRect(rect, palette().color(QPalette::Base));
+        painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1,
+                          QColor(ink.red(), ink.green(), ink.blue(), HairlineAlpha));
+        const auto value = [&](int role) { return model()->headerData(column, Qt::Horizontal, role); };
+        const QFont font = qvariant_cast<QFont>(value(Qt::FontRole));
+        const QRect room = rect.adjusted(RowLook::Margin, 0, -RowLook::Margin, 0);
+        painter->setFont(font);
+        const QVariant colour = value(Qt::ForegroundRole);
+        painter->setPen(colour.isValid() ? colour.value<QColor>() : ink);
+        painter->drawText(
+            room, qvariant_cast<Qt::Alignment>(value(Qt::TextAlignmentRole)),
+            QFontMetrics(font).elidedText(value(Qt::DisplayRole).toString(), Qt::ElideRight, room.width()));
+    }
+    QSize sectionSizeFromContents(int column) const override
+    {
+        const QFontMetrics metrics(qvariant_cast<QFont>(model()->headerData(column, Qt::Horizontal, Qt::FontRole)));
+        const QString text = model()->headerData(column, Qt::Horizontal).toString();
+        return {metrics.horizontalAdvance(text) + 2 * RowLook::Margin, metrics.height() + 2 * RowPadding};
+    }
+};
+
+Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
+{
+    setHorizontalHeader(new GridHeading(this));
+    setItemDelegate(new RowLook(this));
+    setModel(m_model);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setShowGrid(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setMinimumSectionSize(1);
+    ShareHeight();
+
+    const auto clickRow = [this](int row) {
+        m_currentRow = row;
+        Q_EMIT Click();
+    };
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this, clickRow] {
+        selectionModel()->clear();
+        clickRow(0);
+    });
+    connect(this, &QTableView::clicked, this, [=](const QModelIndex &index) { clickRow(index.row() + 1); });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        SetCurrentRow(m_currentRow);
+        ShareWidth();
+    });
+}
+
+void Grid::SetShape(int rows, int columns)
+{
+    m_model->SetShape(rows, columns);
+    m_twips.assign(std::size_t(columns), DefaultTwips);
+    SetCurrentRow(0);
+    ShareWidth();
+}
+
+int Grid::Rows() const
+{
+    return m_model->Rows();
+}
+
+int Grid::Columns() const
+{
+    return m_model->Columns();
+}
+
+void Grid::AddItem(const QString &text, int row)
+{
+    AddRows({text.split(QLatin1Char('\t'))}, row);
+}
+
+void Grid::AddRows(const QList<QStringList> &rows, int row)
+{
+    m_model->Insert(row, rows);
+}
+
+void Grid::SetText(int row, int column, const QString &text)
+{
+    m_model->At(row, column).Text = text;
+}
+
+QString Grid::Text(int row, int column) const
+{
+    return m_model->Read(row, column).Text;
+}
+
+void Grid::SetColour(int row, int column, GridColour colour)
+{
+    m_model->At(row, column).Colour = colour;
+}
+
+GridColour Grid::Colour(int row, int column) const
+{
+    return m_model->Read(row, column).Colour;
+}
+
+void Grid::SetBold(int row, int column, bool bold)
+{
+    m_model->At(row, column).Bold = bold;
+}
+
+bool Grid::Bold(int row, int column) const
+{
+    return m_model->Read(row, column).Bold;
+}
+
+void Grid::ClearBelowHeading()
+{
+    m_model->ClearBelowHeading();
+}
+
+void Grid::SetColumnWidth(int column, int twips)
+{
+    m_model->Check(column);
+    m_twips[std::size_t(column)] = twips;
+    updateGeometry();
+    ShareWidth();
+}
+
+int Grid::ColumnWidth(int column) const
+{
+    m_model->Check(column);
+    return m_twips[std::size_t(column)];
+}
+
+void Grid::SetRightAligned(int column, bool right)
+{
+    m_model->SetRight(column, right);
+}
+
+bool Grid::RightAligned(int column) const
+{
+    return m_model->Right(column);
+}
+
+void Grid::SetRowsInView(int rows)
+{
+    m_rowsInView = rows;
+    ShareHeight();
+}
+
+void Grid::SetCurrentRow(int row)
+{
+    m_currentRow = row;
+    if (row > 0 && row <= m_model->rowCount())
+        selectionModel()->setCurrentIndex(m_model->index(row - 1, 0),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    else
+        selectionModel()->clear();
+}
+
+/// The widths of the columns were measured with letters five pixels wide; today's are wider.
+int Grid::NaturalWidth() const
+{
+    const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
+    return total * qMax(MeasuredLetter, fontMetrics().averageCharWidth()) / MeasuredLetter / TwipsPerPixel +
+           2 * RowLook::Margin * Columns();
+}
+
+void Grid::ShareWidth()
+{
+    const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
+    if (total == 0 || m_model->columnCount() != Columns())
+        return;
+    const int width = qMax(viewport()->width(), NaturalWidth());
+    int used = 0;
+    for (int column = 0; column < Columns(); ++column) {
+        const bool last = column == Columns() - 1;
+        // The margins of a row's cells are the same in a narrow column and a wide one.
+        const int letters = width - 2 * RowLook::Margin * Columns();
+        const int share = last ? width - used : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total;
+        horizontalHeader()->resizeSection(column, share);
+        used += share;
+    }
+}
+
+void Grid::ShareHeight()
+{
+    const int least = fontMetrics().height() + RowPadding;
+    const int whole = contentsRect().height(); // the heading, whose height is not settled yet at a resize, and the rows
+    const int row = m_rowsInView > 0 ? qMax(least, whole / m_rowsInView) : least;
+    verticalHeader()->setDefaultSectionSize(row);
+}
+
+void Grid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    ShareWidth();
+    ShareHeight();
+}
+
+void Grid::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        ShareWidth();
+        ShareHeight();
+    }
+}
+
+QSize Grid::sizeHint() const
+{
+    const int scrollBar = 24;
+    return {qMax(NaturalWidth(), 240) + scrollBar, RowsAtFirst * (fontMetrics().height() + RowPadding)};
+}
+
+QSize Grid::minimumSizeHint() const
+{
+    // A grid of usual width needs no scrolling sideways, also when its columns get their widths late.
+    const int scrollBar = 24;
+    const int most = MostLetters * fontMetrics().averageCharWidth();
+    return {qMin(NaturalWidth(), most) + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
+}
+
+void Grid::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
+        if (currentIndex().isValid()) {
+            m_currentRow = currentIndex().row() + 1;
+            Q_EMIT Click();
+        }
+        return;
+    }
+    QTableView::keyPressEvent(event);
+    m_currentRow = currentIndex().isValid() ? currentIndex().row() + 1 : 0;
+}

@@ -1,0 +1,65 @@
+// What lies outside the program: message boxes, dialogs, printer, clock, options, help and the desktop's calculator.
+// Everything is reached through TheDesk, so that main installs the real ones and a test installs recorders.
+// This header needs no window.
+#pragma once
+
+#include "platform/desk/Printer.h"
+
+#include <QDateTime>
+#include <QString>
+#include <functional>
+
+/// The program's title as the platform knows it: options store and default error report use it.
+inline const QString AppTitle = QStringLiteral("Corvelle's Tallymere 1.0");
+
+enum class Icon { None, Stop, Question, Warning, Information };
+enum class Buttons { Ok, OkHelp, YesNo };
+enum class Answer { Ok, Yes, No };
+
+/// One message box. HelpContext counts only where the buttons have a help button.
+struct Message {
+    QString Text;
+    QString Title;
+    Icon TheIcon = Icon::None;
+    Buttons TheButtons = Buttons::Ok;
+    int HelpContext = 0;
+    bool operator==(const Message &) const = default;
+};
+
+/// One file dialog. Filter as "Store List Files (*.lst)|*.lst".
+struct FileQuestion {
+    enum Kind { Open, Save } TheKind = Open;
+    QString Filter;
+    QString Directory;
+    QString FileName;
+    bool operator==(const FileQuestion &) const = default;
+};
+
+/// What the help is asked for: a context number, or 0 for the contents. An empty file is the program's own help file.
+struct HelpQuestion {
+    QString File;
+    int Context = 0;
+    bool operator==(const HelpQuestion &) const = default;
+};
+
+struct Desk {
+    std::function<Answer(const Message &)> ShowMessage;
+    std::function<QString(const FileQuestion &)> AskFile; ///< empty: cancelled
+    std::function<void(const HelpQuestion &)> ShowHelp;
+    std::function<void(const PrintJob &)> PrintDocument;
+    std::function<QDateTime()> Now;
+    std::function<QString()> ProgramFolder; ///< folder of the executable, where the household lies
+    std::function<QString(const QString &key, const QString &fallback)> GetSetting; ///< section "Options"
+    std::function<void(const QString &key, const QString &value)> SaveSetting;
+    std::function<void()> StartCalculator;        ///< starts and places it; raises error 53 if none is installed
+    std::function<void()> BringCalculatorForward; ///< raises error 5 if it does not run
+    std::function<void()> CloseCalculator;        ///< closes the one that the program started
+    std::function<void()> Beep;
+    std::function<void(bool)> Hourglass; ///< the pointer: true the hourglass, false the normal one
+    std::function<void()> EndProgram;    ///< ends the process at once
+};
+inline Desk TheDesk;
+
+/// Short forms for the usual boxes.
+Answer ShowMessage(const QString &text, const QString &title, Icon icon, Buttons buttons = Buttons::Ok,
+                   int helpContext = 0);

@@ -1,0 +1,131 @@
+#include "platform/desk/PagePrinter.h"
+
+#include "platform/desk/Desk.h"
+#include "platform/values/RuntimeError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr qreal Margin = 15; // millimetres
+constexpr int CharactersWide = 80;
+
+QFont PageFont(const PrintFont &font, QPagedPaintDevice &device)
+{
+    QFont result(font.Name);
+    result.setStyleHint(QFont::Monospace);
+    result.setPointSizeF(font.Size > 0 ? qreal(font.Size) : 8);
+    result.setBold(font.Bold);
+    result.setItalic(font.Italic);
+    result.setUnderline(font.Underline);
+    result.setStrikeOut(font.Strikethru);
+    // A font that would push the 80 columns off the sheet is drawn as large as fits.
+    const qreal needed = QFontMetricsF(result, &device).horizontalAdvance(QLatin1Char('0')) * CharactersWide;
+    const qreal width = device.pageLayout().paintRectPixels(device.logicalDpiX()).width();
+    if (needed > width)
+        result.setPointSizeF(result.pointSizeF() * width / needed);
+    return result;
+}
+
+/// The folder, made where it is missing; where that cannot be, as on a read-only disk, the user's documents.
+QString WritableFolder(const QString &folder)
+{
+    if (QDir().mkpath(folder) && QFileInfo(folder).isWritable())
+        return folder;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QDir().mkpath(documents))
+        RaiseError(RuntimeError::PathFileAccess);
+    return documents;
+}
+
+QString FreePdfPath(const QString &folder)
+{
+    const QString stamp = TheDesk.Now().toString(QStringLiteral("yyyy-MM-dd hh-mm-ss"));
+    QString path = QStringLiteral("%1/%2.pdf").arg(folder, stamp);
+    for (int copy = 2; QFile::exists(path); ++copy)
+        path = QStringLiteral("%1/%2 (%3).pdf").arg(folder, stamp).arg(copy);
+    return path;
+}
+
+QPageSize::PageSizeId PaperOf(const QLocale &locale)
+{
+    return locale.measurementSystem() == QLocale::MetricSystem ? QPageSize::A4 : QPageSize::Letter;
+}
+
+} // namespace
+
+int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
+{
+    const QFont font = PageFont(job.Font, device);
+    QPainter painter;
+    if (!painter.begin(&device))
+        RaiseError(RuntimeError::DeviceError);
+    painter.setFont(font);
+    const qint32 colour = job.Font.Color;
+    painter.setPen(QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF));
+    const QFontMetricsF metrics(font, &device);
+    const qreal column = metrics.horizontalAdvance(QLatin1Char('0'));
+    const qreal height = device.pageLayout().paintRectPixels(device.logicalDpiY()).height();
+    // Words that stand apart by two blanks or more are columns, and each starts at its own place.
+    static const QRegularExpression cell(QStringLiteral("\\S+(?: \\S+)*"));
+
+    int pages = 1;
+    qreal top = 0;
+    for (const QString &line : job.Lines) {
+        if (top + metrics.height() > height) {
+            if (!device.newPage())
+                RaiseError(RuntimeError::DeviceError);
+            ++pages;
+            top = 0;
+        }
+        auto matches = cell.globalMatch(line);
+        while (matches.hasNext()) {
+            const auto match = matches.next();
+            painter.drawText(QPointF(column * qreal(match.capturedStart()), top + metrics.ascent()), match.captured());
+        }
+        top += metrics.lineSpacing();
+    }
+    painter.end();
+    return pages;
+}
+
+QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
+{
+    const QMarginsF margins(Margin, Margin, Margin, Margin);
+    QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull()) // printers may be installed without one being the default
+        info = QPrinterInfo::availablePrinters().value(0);
+    if (!info.isNull()) {
+        QPrinter printer(info, QPrinter::HighResolution);
+        printer.setDocName(job.Lines.value(2).trimmed());
+        printer.setPageMargins(margins, QPageLayout::Millimeter);
+        // A printer that fails does not take the pages with it: they become PDF like without one.
+        if (ResumeNext([&] { DrawDocument(job, printer); }, [](const RuntimeError &) {}))
+            return {};
+    }
+    const QString path = FreePdfPath(WritableFolder(folder));
+    QSaveFile file(path); // a disk that fills up leaves no half document behind
+    if (!file.open(QIODevice::WriteOnly))
+        RaiseError(RuntimeError::DeviceError);
+    {
+        QPdfWriter pdf(&file);
+        pdf.setCreator(AppTitle);
+        pdf.setTitle(job.Lines.value(2).trimmed());
+        pdf.setPageSize(QPageSize(PaperOf(QLocale::system())));
+        pdf.setPageMargins(margins, QPageLayout::Millimeter);
+        DrawDocument(job, pdf);
+    }
+    if (!file.commit())
+        RaiseError(RuntimeError::DeviceError);
+    return path;
+}

@@ -1,0 +1,145 @@
+#include "platform/desk/RealDesk.h"
+
+#include "platform/desk/Calculator.h"
+#include "platform/desk/Desk.h"
+#include "platform/desk/Options.h"
+#include "platform/desk/PagePrinter.h"
+#include "platform/files/DataFile.h"
+#include "platform/windows/WindowRegister.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <cstdlib>
+
+namespace {
+
+QMessageBox::Icon BoxIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::Stop: return QMessageBox::Critical;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Warning: return QMessageBox::Warning;
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// The window that a dialog stands over. One that is minimized would keep the dialog from the screen.
+QWidget *DialogParent()
+{
+    Form *front = TheWindows.Front();
+    return front && !front->isMinimized() ? front : nullptr;
+}
+
+Answer ShowBox(const Message &message)
+{
+    QMessageBox box(DialogParent());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setWindowTitle(message.Title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(message.Text);
+    box.setIcon(BoxIcon(message.TheIcon));
+    if (message.TheButtons == Buttons::YesNo) {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes); // the first button is the default one
+    } else {
+        box.setStandardButtons(QMessageBox::Ok);
+        box.setDefaultButton(QMessageBox::Ok);
+        box.setEscapeButton(QMessageBox::Ok);
+    }
+    if (message.TheButtons == Buttons::OkHelp) {
+        // A help button of the box's own role would close the box; this one only opens the help.
+        auto *help = box.addButton(QMessageBox::Help);
+        help->disconnect();
+        QObject::connect(help, &QPushButton::clicked, &box, [&message] {
+            TheDesk.ShowHelp({QString(), message.HelpContext});
+        });
+    }
+    const bool busy = QApplication::overrideCursor();
+    TheDesk.Hourglass(false); // nobody answers a box under a busy pointer
+    int answer = 0;
+    TheWindows.WhileAway([&] { answer = box.exec(); });
+    if (busy)
+        TheDesk.Hourglass(true);
+    switch (answer) {
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    default: return message.TheButtons == Buttons::YesNo ? Answer::No : Answer::Ok;
+    }
+}
+
+/// "Store List Files (*.lst)|*.lst" in the toolkit's words.
+QString DialogFilter(const QString &filter)
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts[i].left(parts[i].indexOf(QLatin1Char('('))).trimmed();
+        filters +=
+            QStringLiteral("%1 (%2)").arg(name, QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')));
+    }
+    return filters.join(QStringLiteral(";;"));
+}
+
+} // namespace
+
+QString DialogStart(const FileQuestion &question)
+{
+    // Without the separator at its end, where no name would be left to look for on the disk.
+    QString folder = question.Directory;
+    while (folder.endsWith(QLatin1Char('\\')) || folder.endsWith(QLatin1Char('/')))
+        folder.chop(1);
+    return QDir::cleanPath(ExistingPath(folder)) + QLatin1Char('/') + question.FileName;
+}
+
+namespace {
+
+QString AskFile(const FileQuestion &question)
+{
+    const QString start = DialogStart(question);
+    QString answer;
+    TheWindows.WhileAway([&] {
+        answer = question.TheKind == FileQuestion::Open
+                     ? QFileDialog::getOpenFileName(DialogParent(), QString(), start, DialogFilter(question.Filter))
+                     : QFileDialog::getSaveFileName(DialogParent(), QString(), start, DialogFilter(question.Filter));
+    });
+    return answer;
+}
+
+} // namespace
+
+void InstallRealDesk(const QString &printedFolder)
+{
+    TheDesk.ShowMessage = ShowBox;
+    TheDesk.AskFile = AskFile;
+    TheDesk.ShowHelp = [](const HelpQuestion &) {
+        ShowMessage(QStringLiteral("The help pages are not part of this version yet."), AppTitle, Icon::Information);
+    };
+    TheDesk.PrintDocument = [printedFolder](const PrintJob &job) {
+        const QString pdf = PrintToPaperOrPdf(job, printedFolder);
+        if (!pdf.isEmpty())
+            ShowMessage(QStringLiteral("No printer could be used. The printed pages are in the file\n%1").arg(pdf),
+                        AppTitle, Icon::Information);
+    };
+    TheDesk.Now = [] { return QDateTime::currentDateTime(); };
+    TheDesk.ProgramFolder = [] { return QCoreApplication::applicationDirPath(); };
+    TheDesk.GetSetting = GetSetting;
+    TheDesk.SaveSetting = SaveSetting;
+    TheDesk.StartCalculator = StartCalculator;
+    TheDesk.BringCalculatorForward = BringCalculatorForward;
+    TheDesk.CloseCalculator = CloseCalculator;
+    TheDesk.Beep = [] { QApplication::beep(); };
+    TheDesk.Hourglass = [](bool on) {
+        if (on)
+            QApplication::setOverrideCursor(Qt::WaitCursor);
+        else
+            while (QApplication::overrideCursor())
+                QApplication::restoreOverrideCursor();
+    };
+    // At once: no window gets another event, and nothing else is saved.
+    TheDesk.EndProgram = [] { std::_Exit(EXIT_SUCCESS); };
+}

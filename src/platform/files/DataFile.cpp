@@ -1,0 +1,322 @@
+#include "platform/files/DataFile.h"
+
+#include "platform/values/Numbers.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <cerrno>
+#include <filesystem>
+#include <utility>
+
+namespace {
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool IsLineEnd(char c)
+{
+    return c == '\r' || c == '\n';
+}
+
+/// UTF-8; a value that is not is Windows-1252, so that old files load.
+QString Decoded(QByteArrayView bytes)
+{
+    // Only the file's own byte-order mark is skipped, not one in a value.
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    const QString text = utf8(bytes);
+    if (!utf8.hasError())
+        return text;
+    // Windows-1252 is Latin-1 but for these 32 signs; its five gaps stay control signs.
+    static constexpr char16_t signs[] =
+        u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152"
+        u"\u008D\u017D\u008F\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122"
+        u"\u0161\u203A\u0153\u009D\u017E\u0178";
+    QString old = QString::fromLatin1(bytes);
+    for (QChar &c : old)
+        if (c.unicode() >= 0x80 && c.unicode() < 0xA0)
+            c = signs[c.unicode() - 0x80];
+    return old;
+}
+
+QString WithPlatformSeparators(QString path)
+{
+    return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
+[[noreturn]] void RaiseMissing(const QString &path)
+{
+    RaiseError(QFileInfo(QFileInfo(path).path()).isDir() ? RuntimeError::FileNotFound : RuntimeError::PathNotFound);
+}
+
+/// The permission bits are asked, not the user's rights: a write-protected household stays so for root as well.
+bool IsWriteProtected(const QFileInfo &file)
+{
+    constexpr auto writeBits = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return file.exists() && !(file.permissions() & writeBits);
+}
+
+/// What to tell of a write that failed. The toolkit tells every failure alike, so the system's own number is needed;
+/// it must be taken right after the call.
+RuntimeError::Code WriteFailure(int systemError)
+{
+    return systemError == ENOSPC || systemError == EDQUOT ? RuntimeError::DiskFull : RuntimeError::DeviceError;
+}
+
+} // namespace
+
+QString ExistingPath(const QString &givenPath)
+{
+    const QString path = WithPlatformSeparators(givenPath);
+    const QFileInfo given(path);
+    if (given.exists() || given.isSymLink() || given.fileName().isEmpty())
+        return path;
+    QString folder; // empty for a name in the present folder
+    if (path.contains(QLatin1Char('/'))) {
+        folder = ExistingPath(given.path());
+        if (!folder.endsWith(QLatin1Char('/')))
+            folder += QLatin1Char('/');
+    }
+    const QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Name);
+    for (const QString &name : names)
+        if (name.compare(given.fileName(), Qt::CaseInsensitive) == 0)
+            return folder + name;
+    return folder + given.fileName();
+}
+
+bool FileExists(const QString &path)
+{
+    return QFileInfo(ExistingPath(path)).isFile();
+}
+
+void DeleteFile(const QString &givenPath)
+{
+    const QString path = ExistingPath(givenPath);
+    const QFileInfo file(path);
+    if (!file.exists() && !file.isSymLink())
+        RaiseMissing(path);
+    if (file.isDir() || IsWriteProtected(file))
+        RaiseError(RuntimeError::PathFileAccess);
+    std::error_code error;
+    if (!std::filesystem::remove(QFile::encodeName(path).toStdString(), error))
+        RaiseError(error == std::errc::device_or_resource_busy || error == std::errc::text_file_busy
+                       ? RuntimeError::PermissionDenied
+                       : RuntimeError::PathFileAccess);
+}
+
+void InputFile::Open(const QString &givenPath)
+{
+    Close();
+    const QString path = ExistingPath(givenPath);
+    const QFileInfo info(path);
+    if (!info.exists())
+        RaiseMissing(path);
+    // A folder, a pipe or a device would fail late or never end.
+    if (!info.isFile())
+        RaiseError(RuntimeError::PathFileAccess);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        RaiseError(RuntimeError::PathFileAccess);
+    if (file.size() > GreatestSize)
+        RaiseError(RuntimeError::OutOfMemory);
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFile::NoError)
+        RaiseError(RuntimeError::DeviceError);
+    OpenBytes(bytes);
+}
+
+void InputFile::OpenBytes(const QByteArray &bytes)
+{
+    m_bytes = bytes;
+    m_position = m_bytes.startsWith("\xEF\xBB\xBF") ? 3 : 0;
+    m_open = true;
+}
+
+void InputFile::Close()
+{
+    m_bytes.clear();
+    m_position = 0;
+    m_open = false;
+}
+
+QByteArrayView InputFile::NextValue(bool numeric)
+{
+    if (!m_open)
+        RaiseError(RuntimeError::BadFileNumber);
+    const qsizetype size = m_bytes.size();
+    const auto skip = [&](auto condition) {
+        while (m_position < size && condition(m_bytes[m_position]))
+            ++m_position;
+    };
+    const auto endsValue = [](char c) { return c == ',' || IsLineEnd(c); };
+
+    skip([](char c) { return IsBlank(c) || IsLineEnd(c); });
+    if (m_position >= size)
+        RaiseError(RuntimeError::InputPastEnd);
+    qsizetype start = m_position;
+    qsizetype end = 0;
+    if (m_bytes[start] == '"') {
+        ++start;
+        ++m_position;
+        skip([](char c) { return c != '"'; });
+        end = m_position;
+        skip([&](char c) { return !endsValue(c); });
+    } else {
+        skip([&](char c) { return !endsValue(c) && !(numeric && IsBlank(c)); });
+        end = m_position;
+        if (numeric)
+            skip(IsBlank); // a comma behind the blanks still belongs to the number
+    }
+    if (m_position < size && m_bytes[m_position] == ',')
+        ++m_position;
+    if (end - start > GreatestValue)
+        RaiseError(RuntimeError::OutOfMemory);
+    return QByteArrayView(m_bytes).sliced(start, end - start);
+}
+
+QString InputFile::NextNumber()
+{
+    const QString text = Decoded(NextValue(true)).trimmed();
+    return IsPlainNumber(text) ? text : QStringLiteral("0");
+}
+
+qint16 InputFile::InputInteger()
+{
+    return ToInteger(NextNumber(), Dialect::File);
+}
+
+Currency InputFile::InputCurrency()
+{
+    return ToCurrency(NextNumber(), Dialect::File);
+}
+
+float InputFile::InputSingle()
+{
+    return ToSingle(NextNumber(), Dialect::File);
+}
+
+bool InputFile::InputBoolean()
+{
+    const QString text = Decoded(NextValue(true)).trimmed();
+    if (text.compare(QLatin1String("#TRUE#"), Qt::CaseInsensitive) == 0)
+        return true;
+    return IsPlainNumber(text) && text.contains(QRegularExpression(QStringLiteral("^[^eE]*[1-9]")));
+}
+
+QString InputFile::InputString()
+{
+    return Decoded(NextValue(false));
+}
+
+bool InputFile::AtEnd() const
+{
+    return m_position >= m_bytes.size();
+}
+
+QString InputFile::InputLine()
+{
+    if (!m_open)
+        RaiseError(RuntimeError::BadFileNumber);
+    if (AtEnd())
+        RaiseError(RuntimeError::InputPastEnd);
+    const qsizetype start = m_position;
+    while (m_position < m_bytes.size() && !IsLineEnd(m_bytes[m_position]))
+        ++m_position;
+    const QByteArrayView line = QByteArrayView(m_bytes).sliced(start, m_position - start);
+    if (m_position < m_bytes.size()) {
+        const bool carriageReturn = m_bytes[m_position++] == '\r';
+        if (carriageReturn && m_position < m_bytes.size() && m_bytes[m_position] == '\n')
+            ++m_position;
+    }
+    return Decoded(line);
+}
+
+void OutputFile::Collect()
+{
+    m_collected.clear();
+    m_collecting = true;
+}
+
+void OutputFile::Open(const QString &givenPath)
+{
+    m_file.close();
+    // A folder in another letter case is found; the file itself is made in the spelling that is asked for, or a second
+    // list whose name differs in case alone would be overwritten.
+    const QFileInfo given(WithPlatformSeparators(givenPath));
+    const QString path =
+        given.fileName().isEmpty() ? QString() : ExistingPath(given.path()) + QLatin1Char('/') + given.fileName();
+    const QFileInfo info(path);
+    if (path.isEmpty() || info.isDir() || IsWriteProtected(info))
+        RaiseError(RuntimeError::PathFileAccess);
+    m_file.setFileName(path);
+    errno = 0;
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        m_collecting = false;
+        WriteBytes(std::exchange(m_collected, {}));
+        return;
+    }
+    if (WriteFailure(errno) == RuntimeError::DiskFull)
+        RaiseError(RuntimeError::DiskFull);
+    RaiseError(QFileInfo(info.path()).isDir() ? RuntimeError::PathFileAccess : RuntimeError::PathNotFound);
+}
+
+void OutputFile::Close()
+{
+    if (!m_file.isOpen())
+        return;
+    errno = 0;
+    const bool flushed = m_file.flush();
+    const int flushError = errno;
+    errno = 0;
+    m_file.close();
+    if (!flushed || m_file.error() != QFile::NoError)
+        RaiseError(WriteFailure(flushed ? errno : flushError));
+}
+
+void OutputFile::Write(qint16 value)
+{
+    WriteLine(PlainText(value));
+}
+
+void OutputFile::Write(Currency value)
+{
+    WriteLine(PlainText(value));
+}
+
+void OutputFile::Write(float value)
+{
+    WriteLine(PlainText(value));
+}
+
+void OutputFile::Write(bool value)
+{
+    WriteLine(value ? QStringLiteral("#TRUE#") : QStringLiteral("#FALSE#"));
+}
+
+void OutputFile::Write(const QString &value)
+{
+    WriteLine(QLatin1Char('"') + value + QLatin1Char('"'));
+}
+
+void OutputFile::WriteLine(const QString &value)
+{
+    const QByteArray line = value.toUtf8() + "\r\n";
+    if (m_collecting) {
+        m_collected += line;
+        return;
+    }
+    if (!m_file.isOpen())
+        RaiseError(RuntimeError::BadFileNumber);
+    WriteBytes(line);
+}
+
+void OutputFile::WriteBytes(const QByteArray &bytes)
+{
+    errno = 0;
+    if (m_file.write(bytes) != bytes.size())
+        RaiseError(WriteFailure(errno));
+}

@@ -1,0 +1,89 @@
+// The delimited text files that hold the household: one value per statement, written and read back by type.
+//
+// Writing: a value a line, ended by CR LF; text between double quotes with nothing escaped; numbers with "." whatever
+// the locale; Booleans as #TRUE# and #FALSE#. Files are UTF-8.
+// Reading: blanks and line ends ahead of a value are skipped. A value that begins with a quote runs to the next quote,
+// and the rest of the line up to a comma or the line end is dropped; any other value runs to the next comma or line
+// end, and for a number a blank ends it too. Text that is no number reads as 0. Past the last value: error 62.
+#pragma once
+
+#include "platform/values/Currency.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+/// The path of an existing file, which is found whatever the letter case of its name and folders; where there is none,
+/// the given name in the folder as it is spelt on the disk. "\" counts as a separator.
+QString ExistingPath(const QString &path);
+
+/// Whether there is a file of that name, in any letter case.
+bool FileExists(const QString &path);
+
+/// Deletes a file: error 53 where there is none, 75 where it has no write bit, for every user, or cannot be deleted.
+void DeleteFile(const QString &path);
+
+/// A data file opened for input. Every read raises error 52 while no file is open.
+class InputFile
+{
+public:
+    InputFile() = default;
+    InputFile(const InputFile &) = delete;
+    InputFile &operator=(const InputFile &) = delete;
+
+    /// The greatest file that is taken; the greatest lawful household is well below it.
+    static constexpr qint64 GreatestSize = qint64(512) << 20;
+    /// The longest value in bytes; a longer one is passed over with error 7.
+    static constexpr qsizetype GreatestValue = 64 * 1024;
+
+    /// Error 53 or 76 where there is none, 75 where it is no plain file or cannot be read, 7 beyond GreatestSize.
+    void Open(const QString &path);
+    /// Reads from memory as if it were a file.
+    void OpenBytes(const QByteArray &bytes);
+    void Close();
+
+    qint16 InputInteger();    ///< a fraction is rounded, ties to even; error 6 beyond 16 bits
+    Currency InputCurrency(); ///< error 6 beyond the range
+    float InputSingle();      ///< error 6 beyond the range
+    bool InputBoolean();      ///< #TRUE#, #FALSE# in any letter case, or a number
+    QString InputString();
+    /// One line without its end, for plain text files; error 62 past the last one.
+    QString InputLine();
+    bool AtEnd() const; ///< nothing is left, for InputLine
+
+private:
+    QByteArrayView NextValue(bool numeric);
+    QString NextNumber();
+
+    QByteArray m_bytes;
+    qsizetype m_position = 0;
+    bool m_open = false;
+};
+
+/// A data file opened for output. What cannot be written is told at the write or at the latest at Close:
+/// error 61 for a full disk, 57 for a failing device.
+class OutputFile
+{
+public:
+    /// Takes what is written from now on into memory; the next Open writes it out. So an error among the values comes
+    /// before any file is touched.
+    void Collect();
+    /// Creates or empties the file; error 76 where its folder is missing, 75 where it has no write bit, for every user,
+    /// or cannot be created.
+    void Open(const QString &path);
+    void Close();
+
+    void Write(qint16 value);
+    void Write(Currency value);
+    void Write(float value);
+    void Write(bool value);
+    void Write(const QString &value);
+    void Write(const char *) = delete; // a literal would silently be taken for a Boolean
+
+private:
+    void WriteLine(const QString &value);
+    void WriteBytes(const QByteArray &bytes);
+    QFile m_file;
+    QByteArray m_collected;
+    bool m_collecting = false;
+};

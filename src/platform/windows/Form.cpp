@@ -1,0 +1,139 @@
+#include "platform/windows/Form.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+
+namespace {
+
+/// What the lines of a label need in its width. The label's own answer never falls below its least height, so one like
+/// it without any is asked.
+int HeightOfLines(const QLabel &label)
+{
+    QLabel lines(label.text());
+    lines.setWordWrap(true);
+    lines.setTextFormat(label.textFormat());
+    lines.setFont(label.font());
+    lines.setAlignment(label.alignment());
+    lines.setMargin(label.margin());
+    lines.setIndent(label.indent());
+    lines.setFrameStyle(label.frameStyle());
+    lines.setLineWidth(label.lineWidth());
+    lines.setMidLineWidth(label.midLineWidth());
+    return lines.heightForWidth(label.width());
+}
+
+} // namespace
+
+Form::Form() : QWidget(nullptr, Qt::Window) {}
+
+void Form::GotFocus(QWidget *control)
+{
+    if (auto *field = qobject_cast<QLineEdit *>(control))
+        field->selectAll();
+    if (const auto handler = m_gotFocus.value(control))
+        handler();
+}
+
+void Form::LostFocus(QWidget *control)
+{
+    if (const auto handler = m_lostFocus.value(control))
+        handler();
+}
+
+void Form::FocusOn(QWidget *control)
+{
+    TheKeeper->MoveFocus(this, control);
+}
+
+QWidget *Form::FocusControl() const
+{
+    // The toolkit knows better where a control was disabled, or clicked, while another window was active.
+    if (CanHaveFocus(focusWidget()))
+        return focusWidget();
+    return CanHaveFocus(m_focus) ? m_focus.data() : FirstControl();
+}
+
+QWidget *Form::FirstControl() const
+{
+    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+        if ((widget->focusPolicy() & Qt::TabFocus) && CanHaveFocus(widget))
+            return widget;
+    return nullptr;
+}
+
+bool Form::CanHaveFocus(const QWidget *control) const
+{
+    return control && control != this && control->window() == this && control->isEnabled() &&
+           control->isVisibleTo(this) && !qobject_cast<const QMenuBar *>(control);
+}
+
+void Form::EnterRing(const QList<QLineEdit *> &ring)
+{
+    for (qsizetype i = 0; i < ring.size(); ++i) {
+        QLineEdit *next = ring[(i + 1) % ring.size()];
+        OnEnter(ring[i], [this, next] {
+            FocusOn(next);
+            next->selectAll();
+        });
+    }
+}
+
+void Form::OnEnter(QLineEdit *field, const std::function<void()> &handler)
+{
+    m_enter.insert(field, handler);
+}
+
+void Form::OnGotFocus(QWidget *control, const std::function<void()> &handler)
+{
+    m_gotFocus.insert(control, handler);
+}
+
+void Form::OnLostFocus(QWidget *control, const std::function<void()> &handler)
+{
+    m_lostFocus.insert(control, handler);
+}
+
+bool Form::HandleEnter(QObject *control)
+{
+    const auto handler = m_enter.value(control);
+    if (handler)
+        handler();
+    return bool(handler);
+}
+
+bool Form::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
+        GiveLinesTheirHeight();
+    return done;
+}
+
+/// Layouts let a label of several lines be squeezed when the window is small or its letters are large; here it keeps
+/// the height that its lines need in its width, and gives it back when they need less again.
+void Form::GiveLinesTheirHeight()
+{
+    for (QLabel *label : findChildren<QLabel *>()) {
+        if (!label->wordWrap() || !label->isVisible())
+            continue;
+        LinesHeight &height = m_linesHeights[label];
+        if (label->minimumHeight() != height.Given) { // set elsewhere: it never gets less than that
+            height.Reserved = label->minimumHeight();
+            height.Given = 0;
+        }
+        if (height.Given > 0 || label->heightForWidth(label->width()) > label->height()) {
+            height.Given = qMax(height.Reserved, HeightOfLines(*label));
+            label->setMinimumHeight(height.Given);
+        }
+    }
+}
+
+void Form::closeEvent(QCloseEvent *event)
+{
+    if (!TheKeeper->Keeps(this)) // ended already
+        return;
+    event->ignore(); // the register hides and ends the window itself
+    TheKeeper->CloseByFrame(this);
+}

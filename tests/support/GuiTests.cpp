@@ -1,0 +1,14 @@
+// The program of the window tests: the program's own application object, a United States desktop, no motion.
+#include "TestProgram.h"
+#include "platform/values/Locale.h"
+#include "platform/windows/Application.h"
+
+#include <QStyleFactory>
+
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    return RunRegisteredTest(argc, argv);
+}
