@@ -1,12 +1,17 @@
 # shellcheck shell=bash
 # Lays down what run starts: a portable folder with the program, the help texts and a household. Sourced after
-# messages.sh and pay-periods.sh, in the root of the project.
+# messages.sh and pay-periods.sh, in the root of the project. Whatever interrupts it, the next call finishes it: a file
+# appears under its name only when it is whole, and what is there already is never overwritten.
 
 data_files=(environm.ini creditor.txt regulars.txt extra.txt projects.txt mastshop.txt)
 
-# is_there FOLDER NAME: a file of that name in any letter case, as the program finds it.
+# found FOLDER NAME: the file or folder of that name in any letter case, as the program finds it; nothing where none is.
+found() {
+    [[ ! -d $1 ]] || find -L "$1" -maxdepth 1 -iname "$2" -print -quit
+}
+
 is_there() {
-    [[ -d $1 && -n $(find "$1" -maxdepth 1 -iname "$2" -print -quit) ]]
+    [[ -n $(found "$1" "$2") ]]
 }
 
 has_household() {
@@ -17,60 +22,122 @@ has_household() {
     return 1
 }
 
+# household_folder CALLED_FROM: where the user's household lies, ~/Tallymere unless TALLYMERE_HOUSEHOLD names another
+# folder (from CALLED_FROM, if it is no whole path). Never in the source tree: that is a place for cleaning up.
+household_folder() {
+    local folder
+    if [[ -n ${TALLYMERE_HOUSEHOLD:-} ]]; then
+        folder=$(cd "$1" && realpath -m -- "$TALLYMERE_HOUSEHOLD")
+    else
+        [[ -n ${HOME:-} ]] || fail "HOME is not set; name the folder of the household with TALLYMERE_HOUSEHOLD"
+        folder=$(realpath -m -- "$HOME/Tallymere")
+    fi
+    [[ $folder/ != "$(pwd -P)"/* ]] ||
+        fail "$folder lies in the source tree; name another folder for the household: TALLYMERE_HOUSEHOLD=FOLDER ./run"
+    [[ ! -e $folder || -d $folder ]] || fail "$folder is not a folder"
+    printf '%s\n' "$folder"
+}
+
+# refuse_while_running FOLDER: a folder must not move away under a program that writes to it.
+refuse_while_running() {
+    local process folder
+    folder=$(realpath -- "$1")
+    for process in /proc/[0-9]*/exe; do
+        if [[ $(readlink "$process" 2>/dev/null) == "$folder/Tallymere"* ]]; then
+            fail "the program in $folder is still running; close it first"
+        fi
+    done
+}
+
+# move_household FROM TO: the household that an earlier version kept in the source tree, once. It is copied, the copy
+# takes its name in one move, and only then FROM goes; so both may lie on different disks.
+move_household() {
+    local from=$1 to=$2 copy
+    has_household "$from" || return 0
+    if [[ -e $to || -n ${TALLYMERE_HOUSEHOLD:-} ]]; then
+        say "The household in $PWD/$from stays there and is not used; yours is in $to"
+        return
+    fi
+    refuse_while_running "$from"
+    copy=$(dirname "$to")/.$(basename "$to").moving
+    mkdir -p "$(dirname "$to")"
+    rm -rf "$copy"
+    cp -aH "$from" "$copy"
+    mv -T "$copy" "$to"
+    rm -rf "$from"
+    say "Your household has moved from $PWD/$from to $to"
+}
+
+# lay_file SOURCE TARGET: under its name only when it is whole.
+lay_file() {
+    local unfinished
+    unfinished=$(dirname "$2")/.unfinished
+    cp "$1" "$unfinished"
+    mv -fT "$unfinished" "$2"
+}
+
 # Puts the program into FOLDER. The new file takes the old one's name in one move, so that a program that is
 # running goes on undisturbed.
 lay_program() {
     local program=$1 folder=$2
     cmp -s "$program" "$folder/Tallymere" && return
-    cp "$program" "$folder/.Tallymere.new"
-    mv -f "$folder/.Tallymere.new" "$folder/Tallymere"
+    lay_file "$program" "$folder/Tallymere"
     say "The program is in $folder"
 }
 
 # The help texts and pictures that FOLDER lacks; what is there stays, as users may have their own tips.
 lay_help() {
     local folder=$1 file help
-    help=$(find "$folder" -maxdepth 1 -type d -iname help -print -quit)
+    help=$(found "$folder" help)
     help=${help:-$folder/help}
     mkdir -p "$help"
-    is_there "$folder" TIPOFDAY.TXT || cp household/TIPOFDAY.TXT "$folder/"
+    is_there "$folder" TIPOFDAY.TXT || lay_file household/TIPOFDAY.TXT "$folder/TIPOFDAY.TXT"
     for file in household/help/*; do
-        is_there "$help" "$(basename "$file")" || cp -r "$file" "$help/"
+        is_there "$help" "$(basename "$file")" || lay_file "$file" "$help/$(basename "$file")"
     done
 }
 
-# A fresh household, only where none is yet. One file of it is enough to count: a household that misses some
-# others is its owner's affair, and the program's messages tell about it.
+# The fresh copy of each file of the household that FOLDER lacks: of all of them the first time.
 lay_household() {
-    local folder=$1 file
-    if has_household "$folder"; then
-        say "The household in $folder stays as it is"
-        return
-    fi
-    mkdir -p "$folder/stores"
-    is_there "$folder/stores" untitled.lst || cp household/stores/untitled.lst "$folder/stores/"
-    # All of it first lies in a folder beside; what is interrupted before the moves counts as nothing.
-    rm -rf "$folder/.household.new"
-    mkdir "$folder/.household.new"
+    local folder=$1 fresh=yes stores store file laid=()
+    if has_household "$folder"; then fresh=no; fi
+    mkdir -p "$folder"
     for file in "${data_files[@]}"; do
-        cp "household/$file" "$folder/.household.new/"
+        if ! is_there "$folder" "$file"; then
+            lay_file "household/$file" "$folder/$file"
+            laid+=("$file")
+        fi
     done
-    mv "$folder/.household.new"/* "$folder/"
-    rmdir "$folder/.household.new"
-    say "A fresh household is in $folder"
+
+    # The empty store list belongs to the household as long as the settings name it.
+    store=$(sed -n '8s/["\r]//gp' "$(found "$folder" environm.ini)")
+    stores=$(found "$folder" stores)
+    stores=${stores:-$folder/stores}
+    mkdir -p "$stores"
+    if [[ ${store,,} == untitled.lst ]] && ! is_there "$stores" untitled.lst; then
+        lay_file household/stores/untitled.lst "$stores/untitled.lst"
+        laid+=(stores/untitled.lst)
+    fi
+
+    if [[ $fresh == yes ]]; then
+        say "A fresh household is in $folder"
+    elif ((${#laid[@]})); then
+        say "The household in $folder lacked ${laid[*]}: fresh and empty now; everything else stays as it is"
+    else
+        say "The household in $folder stays as it is"
+    fi
 }
 
 # The sample household of DATE (yyyy-mm-dd) into FOLDER. Its dated entries lie in the pay periods that follow
 # when DATE is the current pay period, so its two dated files are templates: @PERIOD0@ is DATE, @PERIOD1@ the
 # pay day after it and so on, @LONGPERIOD1@ the same in words.
 lay_sample_data() {
-    local folder=$1 date=$2 first second periods replacements=() i file
+    local folder=$1 first second dates replacements=() i file
     first=$(sed -n '4s/\r$//p' examples/environm.ini)
     second=$(sed -n '5s/\r$//p' examples/environm.ini)
-    mapfile -t periods < <(pay_periods "$date" 12 "$first" "$second")
-    for i in "${!periods[@]}"; do
-        replacements+=(-e "s/@PERIOD$i@/$(LC_ALL=C date --utc --date="${periods[i]}" +%m-%d-%Y)/")
-        replacements+=(-e "s/@LONGPERIOD$i@/$(LC_ALL=C date --utc --date="${periods[i]}" '+%B %-d, %Y')/")
+    mapfile -t dates < <(pay_periods "$2" 12 "$first" "$second" | LC_ALL=C date --utc --file=- '+%m-%d-%Y|%B %-d, %Y')
+    for i in "${!dates[@]}"; do
+        replacements+=(-e "s/@PERIOD$i@/${dates[i]%|*}/" -e "s/@LONGPERIOD$i@/${dates[i]#*|}/")
     done
 
     mkdir -p "$folder/stores"
@@ -82,38 +149,44 @@ lay_sample_data() {
             cp "examples/$file" "$folder/"
         fi
     done
-    printf '%s\n' "$date" >"$folder/.laid-on"
 }
 
-# A sample of an earlier day no longer fits today's pay periods. It may hold the user's own trials, so it is
-# moved aside and never overwritten.
-move_old_sample_aside() {
-    local folder=$1 date=$2 laid_on aside number=2 process
-    laid_on=$(cat "$folder/.laid-on" 2>/dev/null || date --reference="$folder" +%F)
-    [[ $laid_on == "$date" ]] && return
-    for process in /proc/[0-9]*/exe; do
-        if [[ $(readlink "$process" 2>/dev/null) == "$PWD/$folder/Tallymere"* ]]; then
-            fail "the sample of $laid_on is still running; close it first"
-        fi
-    done
-    aside=$folder.$laid_on
+# What a sample holds, one checksum a line; the program itself does not count.
+sample_sums() {
+    (cd "$1" && find . -type f ! -path ./Tallymere ! -name .laid-on ! -name .unfinished -print0 | LC_ALL=C sort -z |
+        xargs -0 -r sha256sum)
+}
+
+# keep_changed_sample FOLDER DATE: a sample of an earlier day in which something was changed is kept under its date.
+keep_changed_sample() {
+    local folder=$1 laid_on=$2 aside=$1.$2 number=2
+    [[ $(tail -n +2 "$folder/.laid-on" 2>/dev/null) != "$(sample_sums "$folder")" ]] || return 0
     while [[ -e $aside ]]; do
         aside=$folder.$laid_on.$((number++))
     done
-    mv "$folder" "$aside"
-    say "The sample of $laid_on is kept as $aside"
+    mv -T "$folder" "$aside"
+    say "The sample of $laid_on was changed and is kept as $aside"
 }
 
-# The sample appears under its name only when it is complete.
+# Today's sample. One of an earlier day no longer fits the pay periods and makes room. The sample appears under its name
+# only when it is complete, and the old one loses its name before it goes.
 lay_sample() {
-    local folder=$1 date=$2
-    if [[ -e $folder ]]; then move_old_sample_aside "$folder" "$date"; fi
+    local folder=$1 date=$2 laid_on
+    rm -rf "$folder.new" "$folder.gone"
     if [[ -e $folder ]]; then
-        say "The sample household in $folder is of today and stays as it is"
-        return
+        laid_on=$(head -n 1 "$folder/.laid-on" 2>/dev/null || date --reference="$folder" +%F)
+        if [[ $laid_on == "$date" ]]; then
+            say "The sample household in $folder is of today and stays as it is"
+            return
+        fi
+        refuse_while_running "$folder"
+        keep_changed_sample "$folder" "$laid_on"
     fi
-    rm -rf "$folder.new"
     lay_sample_data "$folder.new" "$date"
-    mv "$folder.new" "$folder"
+    lay_help "$folder.new"
+    { printf '%s\n' "$date" && sample_sums "$folder.new"; } >"$folder.new/.laid-on"
+    [[ ! -e $folder ]] || mv -T "$folder" "$folder.gone"
+    mv -T "$folder.new" "$folder"
+    rm -rf "$folder.gone"
     say "The sample household is in $folder"
 }

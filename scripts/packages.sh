@@ -10,6 +10,7 @@ packages_to_run=(
     qt6-svg-dev         # draws the icons
     libxcb1-dev         # talks to the X server about windows of other programs
     qt6-wayland         # what runs Qt programs on a Wayland desktop without X
+    qt6-gtk-platformtheme # fonts, colours and file dialogs of a GNOME desktop
     fonts-dejavu-core   # a font on a machine that has none
 )
 
@@ -23,9 +24,25 @@ packages_to_test=(
     x11-utils           # xprop, xwininfo: looks at windows from outside
     poppler-utils       # pdftotext: reads what was printed
     libbenchmark-dev    # the benchmarks
+    python3             # the end-to-end tests' scripts
     clang               # builds the fuzz target
     libclang-rt-14-dev  # clang's fuzzer and sanitizers
+    ccache              # keeps what was compiled once, for the next build of the same file
 )
+
+# What .ci/run checks besides.
+# shellcheck disable=SC2034  # read by .ci/run
+packages_to_check=(
+    clang-format        # the layout of the code
+    clang-tidy          # finds what compilers do not warn of
+)
+
+# announce_size COMMAND...: how much that installation brings, in apt's own words, since nothing is heard while it runs.
+announce_size() {
+    local words
+    words=$(LC_ALL=C "$@" --assume-no </dev/null 2>/dev/null | grep -E '^(Need to get|After this operation)' || true)
+    say "This takes some minutes, one or two per gigabyte on a fast line, and nothing is heard meanwhile. ${words//$'\n'/ }"
+}
 
 # Installs those of the named packages that are not there yet, as root or by way of sudo, and says so.
 install_missing_packages() {
@@ -50,6 +67,7 @@ install_missing_packages() {
     say "Installing with apt-get${as_root:+, by way of sudo}: ${missing[*]}"
     # Lists that cannot be refreshed (a source that is down) are no reason to stop: the old ones may do.
     "${as_root[@]}" apt-get update -qq || say "The package lists could not be refreshed; going on with those at hand"
+    announce_size "${as_root[@]}" apt-get install --no-install-recommends "${missing[@]}"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq -o Dpkg::Use-Pty=0 \
         --no-install-recommends "${missing[@]}" </dev/null >/dev/null || fail "apt-get could not install the packages"
 }
