@@ -1,0 +1,237 @@
+"""A person at the desktop: real keys and clicks by xdotool, on controls that are found by their names.
+
+Where a control is and what it shows is asked of the program's locator plugin (locator.cpp). Nothing waits for a fixed
+time; every wait looks again until what it waits for is there, and fails with what is on the screen instead.
+"""
+
+import json
+import os
+import re
+import shutil
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+from datetime import date
+
+PROJECT = os.path.realpath(os.path.join(os.path.dirname(__file__), "..", ".."))
+LONGEST_WAIT = 20  # seconds; only a program that hangs takes as long
+PAUSE = 0.03  # seconds between two looks
+
+
+class Failure(Exception):
+    """What was expected and did not come."""
+
+
+def long_date(day):
+    """As the program writes a date: November 1, 2026."""
+    return f"{day:%B} {day.day}, {day.year}"
+
+
+class Person:
+    """Starts an installed program beside a household of its own and works with it."""
+
+    def __init__(self, program, plugins):
+        self.folder = tempfile.mkdtemp(prefix="tallymere-")
+        self.house = os.path.join(self.folder, "Tallymere")
+        self.program, self.plugins, self.process = program, plugins, None
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.process and self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
+        shutil.rmtree(self.folder)
+
+    # --- the household
+
+    def lay_down(self, routine):
+        """The program beside a household that a routine of scripts/lay-down.sh lays: lay_household or lay_sample."""
+        script = """set -euo pipefail
+            . scripts/messages.sh
+            . scripts/pay-periods.sh
+            . scripts/lay-down.sh
+            "$1" "$2" "$(date +%F)"
+            lay_help "$2"
+            lay_program "$3" "$2" """
+        subprocess.run(["bash", "-c", script, "lay_down", routine, self.house, self.program], cwd=PROJECT, check=True)
+
+    def write(self, name, *lines):
+        with open(os.path.join(self.house, name), "w", encoding="utf-8", newline="") as file:
+            file.writelines(line + "\r\n" for line in lines)
+
+    def read(self, name):
+        with open(os.path.join(self.house, name), encoding="utf-8", newline="") as file:
+            return file.read().split("\r\n")[:-1]
+
+    def find_in_file(self, name, *lines):
+        """The file holds exactly these lines: a change is in its file at once."""
+        self.until(lambda: self.read(name) == list(lines), lambda: f"{name} holds {self.read(name)}, not {list(lines)}")
+
+    def printed(self):
+        """The documents that were printed, the newest last."""
+        folder = os.path.join(self.house, "printed")
+        files = [os.path.join(folder, name) for name in os.listdir(folder)] if os.path.isdir(folder) else []
+        return sorted(files, key=os.path.getmtime)
+
+    # --- looking
+
+    def start(self):
+        where = os.path.join(self.folder, "locator")
+        environment = dict(os.environ, QT_PLUGIN_PATH=self.plugins, QT_QPA_GENERIC_PLUGINS="locator", LOCATOR_SOCKET=where)
+        self.process = subprocess.Popen([os.path.join(self.house, "Tallymere")], env=environment)
+        self.until(lambda: os.path.exists(where), "the program's locator does not answer")
+
+    def look(self):
+        """What stands on the screen, as the locator tells it. Nothing, once the program has ended."""
+        answer = b""
+        try:
+            with socket.socket(socket.AF_UNIX, socket.SOCK_STREAM) as asking:
+                asking.settimeout(LONGEST_WAIT)
+                asking.connect(os.path.join(self.folder, "locator"))
+                asking.sendall(b"look\n")
+                while part := asking.recv(65536):
+                    answer += part
+            return json.loads(answer)
+        except (ConnectionError, FileNotFoundError, json.JSONDecodeError):
+            return {"windows": {}, "entries": {}, "boxes": [], "focus": ""}
+
+    def until(self, there, otherwise):
+        """Looks again and again until there() gives something, and gives that back."""
+        end = time.monotonic() + LONGEST_WAIT
+        while not (found := there()):
+            if time.monotonic() > end:
+                raise Failure(f"{otherwise() if callable(otherwise) else otherwise}\n{self.describe()}")
+            time.sleep(PAUSE)
+        return found
+
+    def describe(self):
+        seen = self.look()
+        windows = [f'{name} "{window["title"]}"{" (active)" if window["active"] else ""}'
+                   for name, window in seen["windows"].items()]
+        boxes = [f'box "{box["title"]}": {box["text"]}' for box in seen["boxes"]]
+        ended = [] if self.process.poll() is None else [f"the program has ended with {self.process.returncode}"]
+        return "on the screen: " + "; ".join(windows + boxes + ended + [f'focus on {seen["focus"] or "nothing"}'])
+
+    def control(self, window, name):
+        return self.look()["windows"].get(window, {}).get("controls", {}).get(name)
+
+    def see(self, window, title=".*"):
+        """Waits until the window stands there, active, with that title (a regular expression)."""
+        def stands():
+            seen = self.look()["windows"].get(window)
+            return seen and seen["active"] and re.fullmatch(title, seen["title"])
+        self.until(stands, f'{window} "{title}" is not the active window')
+
+    def see_no(self, window):
+        self.until(lambda: window not in self.look()["windows"], f"{window} stays")
+
+    def see_text(self, window, name, text):
+        self.until(lambda: (self.control(window, name) or {}).get("text") == text,
+                   lambda: f'{window}.{name} shows {(self.control(window, name) or {}).get("text")!r}, not {text!r}')
+
+    def rows(self, window, name):
+        """The rows of a list or grid as texts, the cells of a row parted by " | "."""
+        return [" | ".join(row["cells"]) for row in (self.control(window, name) or {}).get("rows", [])]
+
+    def see_rows(self, window, name, *expected):
+        """Waits until the list or grid begins with these rows."""
+        self.until(lambda: self.rows(window, name)[: len(expected)] == list(expected),
+                   lambda: f"{window}.{name} begins with {self.rows(window, name)[: len(expected)]}, not {list(expected)}")
+
+    # --- hands
+
+    @staticmethod
+    def press(*keys):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+
+    @staticmethod
+    def type(text):
+        subprocess.run(["xdotool", "type", "--delay", "10", "--", text], check=True)
+
+    def hit(self, find, what, times=1):
+        """Clicks what find() finds, once it lies still; covered by another window, its own is brought forward first."""
+        last = None
+
+        def still():
+            nonlocal last
+            before, last = last, find()
+            return last if last and before and last["rect"] == before["rect"] and last.get("enabled", True) else None
+        place = self.until(still, f"{what} is not there to be clicked")
+        x, y, width, height = place["rect"]
+        subprocess.run(["xdotool", "mousemove", str(int(x + width / 2)), str(int(y + height / 2)),
+                        "click", "--repeat", str(times), "--delay", "60", "1"], check=True)
+
+    def bring_forward(self, window):
+        identity = self.until(lambda: self.look()["windows"].get(window), f"{window} is not there")["id"]
+        subprocess.run(["xdotool", "windowactivate", str(identity)], check=True)
+        self.see(window)
+
+    def click(self, window, name, row=None, times=1):
+        """A click on a control, or on the row of a list or grid that begins with the text `row`."""
+        def place():
+            control = self.control(window, name)
+            if row is not None and control:
+                control = next((each for each in control["rows"] if each["cells"][0].startswith(row)), None)
+            return control
+        if not self.until(place, f"{window}.{name} {row or ''} is not there")["hit"]:
+            self.bring_forward(window)
+        self.hit(lambda: (found := place()) and found["hit"] and found, f"{window}.{name} {row or ''}", times)
+
+    def enter(self, window, name, text):
+        """Types into the field that has the focus, after the ring of Enter or a click led there."""
+        self.until(lambda: self.look()["focus"] == f"{window}.{name}", f"{window}.{name} has not got the focus")
+        self.type(text)
+        self.see_text(window, name, text)
+
+    def choose(self, *entries):
+        """Clicks one menu entry after the other, the main window's first."""
+        self.bring_forward("frmMain")
+        for entry in entries:
+            self.hit(lambda: self.look()["entries"].get(entry), f"the menu entry {entry}")
+
+    def answer(self, title, button="OK"):
+        """Waits for a message box of that title, clicks its button and gives its text back."""
+        def box():
+            return next((each for each in self.look()["boxes"] if each["title"] == title), None)
+        text = self.until(box, f'no box "{title}"')["text"]
+        self.hit(lambda: (found := box()) and found["buttons"].get(button), f'the button {button} of the box "{title}"')
+        self.until(lambda: not box(), f'the box "{title}" stays')
+        return text
+
+    def wait_for_end(self):
+        self.until(lambda: self.process.poll() is not None, "the program is still running")
+        if self.process.returncode != 0:
+            raise Failure(f"the program ended with {self.process.returncode}")
+
+
+def expect(condition, otherwise):
+    if not condition:
+        raise Failure(otherwise)
+
+
+def text_of(document):
+    """What a printed document says, line by line."""
+    return subprocess.run(["pdftotext", "-layout", document, "-"], check=True, capture_output=True, text=True).stdout
+
+
+def expect_on_paper(text, *patterns):
+    for pattern in patterns:
+        expect(re.search(pattern, text), f"not on the printed pages: {pattern}\n{text}")
+
+
+def run(test):
+    """The main routine of a test: SCRIPT PROGRAM PLUGINS."""
+    name = os.path.basename(sys.argv[0])
+    try:
+        with Person(*sys.argv[1:3]) as person:
+            test(person)
+    except Failure as failure:
+        sys.exit(f"{name}: FAILED: {failure}")
+    print(f"{name}: passed")
+
+
+TODAY = date.today()
