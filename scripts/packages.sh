@@ -41,7 +41,7 @@ packages_to_check=(
 announce_size() {
     local words
     words=$(LC_ALL=C "$@" --assume-no </dev/null 2>/dev/null | grep -E '^(Need to get|After this operation)' || true)
-    say "This takes some minutes, one or two per gigabyte on a fast line, and nothing is heard meanwhile. ${words//$'\n'/ }"
+    say "apt-get works without a word now, some minutes for each gigabyte. ${words//$'\n'/ }"
 }
 
 # Installs those of the named packages that are not there yet, as root or by way of sudo, and says so.
