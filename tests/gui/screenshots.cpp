@@ -14,6 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const QDateTime TimeOfPictures(QDate(2026, 11, 16), QTime(9, 30));
+
 /// The picture with at most 256 colours, which takes a third of the room. Where it has more, neighbours are made equal
 /// in steps that the eye does not see.
 QImage SmallPicture(const QPixmap &pixmap)
@@ -49,6 +51,7 @@ QImage SmallPicture(const QPixmap &pixmap)
 bool TakePicture(const QString &window, Household household, bool dark, const QString &folder)
 {
     RecordingDesk desk;
+    desk.Now = TimeOfPictures;
     DeclareWindows();
     desk.Options[u"show tallymere tutor"_s] = u"0"_s;
     LayHouseholdOf(desk, household);
