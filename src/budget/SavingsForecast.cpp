@@ -40,3 +40,12 @@ std::vector<DatedRow> ForecastRows()
     }
     return rows;
 }
+
+QString PickForecastRow(int row, const QString &accumulated)
+{
+    const QString date = row > State.ForecastPeriods ? QString() : QString(Forecast.ForecastDates(row));
+    Forecast.ForecastPickRow = ToInteger(row);
+    Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency() : ToCurrency(accumulated);
+    State.ProjectDateFromForecast = false;
+    return date;
+}

@@ -27,3 +27,8 @@ void ForecastSavings();
 
 /// The rows of the last run as they are shown: an amount is red when its text is below 0.
 std::vector<DatedRow> ForecastRows();
+
+/// The pick of a row as a project's completion date: leaves the row and what is accumulated by then, the text of its
+/// cell, in the forecast's state and ends the picking. Returns the text of the date; a row below the last forecast row
+/// has none, whatever a longer forecast has left there before. Error 9 for the heading.
+QString PickForecastRow(int row, const QString &accumulated);

@@ -1,12 +1,29 @@
 #include "budget/ScanPayPeriods.h"
 
+#include "foundation/BudgetFiles.h"
 #include "foundation/Calendar.h"
 #include "foundation/State.h"
+#include "foundation/UnknownError.h"
 #include "platform/values/Numbers.h"
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 #include <vector>
+
+namespace {
+
+/// Raises error 13, before anything is changed, if one of the dates that would be sorted is none.
+void CheckDates()
+{
+    if (State.NumberOfExtraPayPeriods < 1)
+        return; // a single record is not sorted
+    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i)
+        State.ExtraPayPeriods(i).PayPeriodDate.JulianDay();
+    DateText(Scan.ScanPickedDate).JulianDay();
+}
+
+} // namespace
 
 void FillScanPayPeriods()
 {
@@ -47,4 +64,35 @@ void SortExtraPayPeriods()
             first = found;
         State.ExtraPayPeriods(i) = scratch(first);
     }
+}
+
+QStringList ScanRows()
+{
+    QStringList rows;
+    for (const DateText &date : Scan.ScanDates)
+        rows += FormatLongDate(date);
+    return rows;
+}
+
+bool PickScanDate(int row)
+{
+    Scan.ScanPickedDate = Format(Scan.ScanDates.at(std::size_t(row)).Text(), DateFormat::Dashes);
+    if (!State.ScanCalledFromExtras)
+        return false;
+    TrapUnknownError(ScanTitle, [] {
+        DropUnsavedPayPeriods();
+        CheckDates();
+        NewExtraPayPeriod();
+        State.ScanCalledFromExtras = false;
+        SortExtraPayPeriods();
+        SavePayPeriods();
+        InputPayPeriods();
+    });
+    return !State.ScanCalledFromExtras;
+}
+
+void DropUnsavedPayPeriods()
+{
+    if (std::exchange(Scan.PayPeriodsUnsaved, false))
+        InputPayPeriods();
 }

@@ -10,8 +10,11 @@
 struct ScanState {
     std::array<DateText, 101> ScanDates; ///< entry 0 is the current pay period
     QString ScanPickedDate;              ///< the date that was clicked, mm-dd-yyyy
+    bool PayPeriodsUnsaved = false;      ///< an extra item that failed half-way stands in memory and not in the file
 };
 inline ScanState Scan;
+
+inline const QString ScanTitle = QStringLiteral("Valid Pay Periods"); ///< of the window and its messages
 
 /// Computes the current pay period and the 100 pay dates after it. Uses the generator's date fields as scratch and
 /// leaves them changed; the generator sets them anew on each run.
@@ -24,6 +27,18 @@ void NewExtraPayPeriod();
 /// date the first stands twice afterwards and the second is lost, and that is how a pay period picked twice behaves.
 /// Raises error 13 for a stored date that is none.
 void SortExtraPayPeriods();
+
+/// The rows of the window: all dates, in words.
+QStringList ScanRows();
+
+/// A click on a row, from 0: its date is the picked one. If the extras window waits for it, an extra pay period is made
+/// of it, sorted in, saved and read back. Where the records cannot be sorted because one of them holds no date, the
+/// unknown error is told and nothing is changed: the extras window goes on waiting. Returns whether one was made.
+bool PickScanDate(int row);
+
+/// What an extra item has left in memory and not in the file, because it failed half-way, is dropped by reading the
+/// file, so that the next edit saves the file and itself alone.
+void DropUnsavedPayPeriods();
 
 /// The extras window's list of pay periods. Empty while that window is not loaded.
 inline std::function<void()> FillPayPeriodList;

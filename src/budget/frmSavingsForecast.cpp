@@ -4,7 +4,7 @@
 #include "budget/SavingsForecast.h"
 #include "foundation/State.h"
 #include "platform/desk/Desk.h"
-#include "platform/values/Numbers.h"
+#include "platform/values/Dates.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmSavingsForecast.h"
 
@@ -102,13 +102,9 @@ void frmSavingsForecast::grdSavingsForecast_Click()
 void frmSavingsForecast::PickCompletionDate()
 {
     const int row = ui->grdSavingsForecast->CurrentRow();
-    Forecast.ForecastPickRow = ToInteger(row);
-    // The heading addresses a date before the first: error 9, which nobody traps.
+    // A click on the heading is error 9, which nobody traps.
+    const QString date = PickForecastRow(row, ui->grdSavingsForecast->Text(row, Accumulated));
     TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmProjects"), QStringLiteral("txtProjectCompletionDate"))
-        .setText(row > MostForecastPeriods ? QString() : Forecast.ForecastDates(row));
-    // A row below the last forecast row takes an empty date, and where nothing is accumulated there is no amount.
-    const QString accumulated = ui->grdSavingsForecast->Text(row, Accumulated);
-    Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency() : ToCurrency(accumulated);
-    State.ProjectDateFromForecast = false;
+        .setText(date);
     TheWindows.Unload(objectName());
 }

@@ -1,7 +1,6 @@
 #include "budget/frmScanPayPeriods.h"
 
 #include "budget/ScanPayPeriods.h"
-#include "foundation/BudgetFiles.h"
 #include "foundation/State.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmScanPayPeriods.h"
@@ -19,21 +18,14 @@ void frmScanPayPeriods::lstScanPayPeriods_GotFocus()
 {
     FillScanPayPeriods();
     ui->lstScanPayPeriods->Clear();
-    for (const DateText &date : Scan.ScanDates)
-        ui->lstScanPayPeriods->AddItem(FormatLongDate(date));
+    for (const QString &row : ScanRows())
+        ui->lstScanPayPeriods->AddItem(row);
 }
 
 void frmScanPayPeriods::lstScanPayPeriods_Click()
 {
-    const DateText &date = Scan.ScanDates[std::size_t(ui->lstScanPayPeriods->ListIndex())];
-    Scan.ScanPickedDate = Format(date.Text(), DateFormat::Dashes);
-    if (!State.ScanCalledFromExtras)
+    if (!PickScanDate(ui->lstScanPayPeriods->ListIndex()))
         return;
-    State.ScanCalledFromExtras = false;
-    NewExtraPayPeriod();
-    SortExtraPayPeriods();
-    SavePayPeriods();
-    InputPayPeriods();
     TheWindows.Touch(QStringLiteral("frmExtras")); // the user may have closed it in the meantime
     FillPayPeriodList();
     TheWindows.Hide(objectName());

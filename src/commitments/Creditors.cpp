@@ -1,6 +1,8 @@
 #include "commitments/Creditors.h"
 
 #include "commitments/Compaction.h"
+#include "foundation/BudgetFiles.h"
+#include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
 #include <algorithm>
@@ -8,6 +10,7 @@
 namespace {
 
 constexpr qint16 TakenMark = 99;
+enum Field { DueDate, Amount, Name };
 
 void GuardDueDate(CreditorRecord &record)
 {
@@ -17,20 +20,69 @@ void GuardDueDate(CreditorRecord &record)
     record.CreditorDueDate = LastDueDate;
 }
 
+QStringList Names()
+{
+    QStringList names;
+    for (int i = 1; i <= State.NumberOfCreditors; ++i)
+        names += State.Creditors(i).CreditorName;
+    return names;
+}
+
+QStringList PanelOf(int record)
+{
+    const CreditorRecord &creditor = State.Creditors(record);
+    return {PlainText(creditor.CreditorDueDate), FormatCurrency(creditor.CreditorAmount), creditor.CreditorName};
+}
+
+EntryOutcome Commit(QStringList &panel, const QString &caption, int record)
+{
+    if (const auto refusal = ValidateCreditorEntry(panel))
+        return Refuse(CreditorList, *refusal);
+    const auto showDueDate = [&](qint16 day) { panel[DueDate] = Format(day, NumberFormat::GeneralNumber); };
+    CreditorRecord creditor;
+    creditor.CreditorDueDate = ToInteger(panel[DueDate]);
+    showDueDate(creditor.CreditorDueDate);
+    creditor.CreditorAmount = ToCurrency(panel[Amount]);
+    panel[Amount] = FormatCurrency(creditor.CreditorAmount);
+    creditor.CreditorName = panel[Name];
+
+    if (caption == NewCaption)
+        AddCreditor(creditor);
+    else if (caption == ChangeCaption)
+        ChangeCreditor(record, creditor);
+    else
+        return {};
+    showDueDate(creditor.CreditorDueDate); // both guard the day by themselves
+    SortCreditors();
+    SaveAndReload(CreditorList);
+    return {.Saved = true};
+}
+
 } // namespace
 
-std::optional<Refusal> ValidateCreditorEntry(const CreditorPanel &panel)
+const CommitmentList CreditorList{.Title = QStringLiteral("Creditors"),
+                                  .HelpContext = 22,
+                                  .Fields = {QStringLiteral("txtCreditorDueDate"), QStringLiteral("txtCreditorAmount"),
+                                             QStringLiteral("txtCreditor")},
+                                  .Input = InputCreditors,
+                                  .Save = SaveCreditors,
+                                  .Names = Names,
+                                  .PanelOf = PanelOf,
+                                  .Commit = Commit,
+                                  .Remove = DeleteCreditor};
+
+std::optional<Refusal> ValidateCreditorEntry(const QStringList &panel)
 {
     constexpr const char *dueDateText = "Please enter a number between 1 and 28 in the Creditor Due Date field";
-    const bool dueDateIsNumeric = IsNumeric(panel.DueDate);
-    const double dueDate = dueDateIsNumeric ? ToDouble(panel.DueDate) : 0;
+    const bool dueDateIsNumeric = IsNumeric(panel[DueDate]);
+    const double dueDate = dueDateIsNumeric ? ToDouble(panel[DueDate]) : 0;
     return FirstFailure({
         {dueDateIsNumeric, dueDateText, "txtCreditorDueDate"},
         {dueDate >= 1 && dueDate <= LastDueDate, dueDateText, "txtCreditorDueDate"},
-        {IsNumeric(panel.Amount), "Please enter a numerical dollar amount in the Creditor Amount field",
+        {IsNumeric(panel[Amount]), "Please enter a numerical dollar amount in the Creditor Amount field",
          "txtCreditorAmount"},
         // The caret goes to the amount although the name is missing: a habit of this window that its users know.
-        {!panel.Creditor.isEmpty(), "Please enter a creditor name or description in the Creditor field",
+        {!panel[Name].isEmpty(), "Please enter a creditor name or description in the Creditor field",
          "txtCreditorAmount"},
     });
 }
@@ -78,7 +130,6 @@ void SortCreditors()
 
 void DeleteCreditor(int index)
 {
-    State.Creditors(index); // no selected row, no delete, not even of the last one
     if (State.NumberOfCreditors < 2) {
         State.Creditors.Redim(1);
         State.NumberOfCreditors = 0;

@@ -1,9 +1,13 @@
 #include "commitments/Extras.h"
 
+#include "budget/ScanPayPeriods.h"
+#include "foundation/BudgetFiles.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
 namespace {
+
+enum Field { Amount, Item };
 
 // Clearing stops here although the array goes on to 200.
 constexpr int LastClearedSlot = 100;
@@ -26,14 +30,65 @@ void ClearSlots(ExtraPayPeriodRecord &payPeriod)
         payPeriod.ExtraItems(slot) = {};
 }
 
+QStringList Names()
+{
+    const ExtraPayPeriodRecord &payPeriod = OpenPayPeriod();
+    QStringList names;
+    for (int i = 1; i <= ItemsOf(payPeriod); ++i)
+        names += payPeriod.ExtraItems(i).ExtraItem;
+    return names;
+}
+
+QStringList PanelOf(int slot)
+{
+    const ExtraItemRecord &item = std::as_const(OpenPayPeriod()).ExtraItems(slot);
+    return {FormatCurrency(item.ExtraItemAmount), item.ExtraItem};
+}
+
+EntryOutcome Commit(QStringList &panel, const QString &caption, int slot)
+{
+    if (const auto refusal = ValidateExtraEntry(panel))
+        return Refuse(ExtraItemList, *refusal);
+    const ExtraItemRecord item{panel[Item], ToCurrency(panel[Amount])};
+    panel[Amount] = FormatCurrency(item.ExtraItemAmount);
+
+    DropUnsavedPayPeriods();
+    Scan.PayPeriodsUnsaved = true;
+    if (caption == NewCaption)
+        AddExtraItem(item);
+    else if (caption == ChangeCaption)
+        ChangeExtraItem(slot, item);
+    else
+        return {};
+    SaveAndReload(ExtraItemList);
+    Scan.PayPeriodsUnsaved = false;
+    return {.Saved = true};
+}
+
+void Remove(int slot)
+{
+    DropUnsavedPayPeriods();
+    DeleteExtraItem(slot);
+}
+
 } // namespace
 
-std::optional<Refusal> ValidateExtraEntry(const ExtraPanel &panel)
+const CommitmentList ExtraItemList{.Title = QStringLiteral("Extras"),
+                                   .HelpContext = 24,
+                                   .Fields = {QStringLiteral("txtExtraItemAmount"), QStringLiteral("txtExtraItem")},
+                                   .Input = InputPayPeriods,
+                                   .Save = SavePayPeriods,
+                                   .Names = Names,
+                                   .PanelOf = PanelOf,
+                                   .Commit = Commit,
+                                   .Remove = Remove};
+
+std::optional<Refusal> ValidateExtraEntry(const QStringList &panel)
 {
     return FirstFailure({
-        {IsNumeric(panel.Amount), "Please enter a numerical dollar amount in the Extra Item Amount field",
+        {IsNumeric(panel[Amount]), "Please enter a numerical dollar amount in the Extra Item Amount field",
          "txtExtraItemAmount"},
-        {!panel.Item.isEmpty(), "Please enter an extra item description in the Extra Item field", "txtExtraItem"},
+        {!panel[Item].isEmpty(), "Please enter an extra item description in the Extra Item field", "txtExtraItem"},
     });
 }
 
@@ -89,4 +144,28 @@ void DeleteExtraPayPeriod()
         if (!scratch(i).PayPeriodDate.IsEmpty())
             State.ExtraPayPeriods(++next) = scratch(i);
     --State.NumberOfExtraPayPeriods;
+}
+
+QString OpenPayPeriodName()
+{
+    return FormatLongDate(OpenPayPeriod().PayPeriodDate);
+}
+
+bool IsCredit(int slot)
+{
+    return std::as_const(OpenPayPeriod()).ExtraItems(slot).ExtraItemAmount < Currency();
+}
+
+QStringList PayPeriodNames()
+{
+    QStringList names;
+    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i)
+        names += FormatLongDate(State.ExtraPayPeriods(i).PayPeriodDate);
+    return names;
+}
+
+void RemovePayPeriodAndSave()
+{
+    DeleteExtraPayPeriod();
+    SaveAndReload(ExtraItemList);
 }

@@ -1,15 +1,11 @@
 // The edits of the extra pay periods: items, or credits, that fall into one particular pay period.
 #pragma once
 
-#include "foundation/Refusal.h"
+#include "commitments/CommitmentList.h"
 #include "foundation/State.h"
 
-struct ExtraPanel {
-    QString Amount;
-    QString Item;
-};
-
-constexpr int ExtrasHelp = 24; ///< help context
+/// The items of the open pay period with their panel of amount and name.
+extern const CommitmentList ExtraItemList;
 
 /// What the extras window holds on to; a test puts it back with one assignment.
 struct ExtrasState {
@@ -19,7 +15,7 @@ struct ExtrasState {
 inline ExtrasState Extras;
 
 /// An amount that is no number or an empty name is refused.
-std::optional<Refusal> ValidateExtraEntry(const ExtraPanel &panel);
+std::optional<Refusal> ValidateExtraEntry(const QStringList &panel);
 
 /// The amount's text when the credit box is clicked: its absolute value, negative if the box is checked, as currency
 /// text. A text that is no number comes back unchanged.
@@ -34,3 +30,12 @@ void ChangeExtraItem(int slot, const ExtraItemRecord &item);
 void DeleteExtraItem(int slot);
 /// Removes the open pay period; the date is the mark.
 void DeleteExtraPayPeriod();
+
+/// The open pay period's date in words.
+QString OpenPayPeriodName();
+/// Whether an item of the open pay period is a credit.
+bool IsCredit(int slot);
+/// The dates of all pay periods as their list shows them.
+QStringList PayPeriodNames();
+/// The delete button of the pay periods: removes the open one, saves and reads back.
+void RemovePayPeriodAndSave();

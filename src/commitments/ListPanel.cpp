@@ -2,14 +2,83 @@
 
 #include "foundation/UnknownError.h"
 #include "platform/controls/ListBox.h"
-#include "platform/desk/Desk.h"
+#include "platform/windows/WindowRegister.h"
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 
 void ListPanel::TakeControls(const Controls &controls)
 {
     m_controls = controls;
+    connect(controls.Read, &QPushButton::clicked, this, [this] { ReadClicked(); });
+    connect(controls.Add, &QPushButton::clicked, this, [this] { AddClicked(); });
+    connect(controls.List, &ListBox::Click, this, [this] { RowClicked(); });
+    connect(controls.Commit, &QPushButton::clicked, this, [this] { Trap([this] { CommitEntry(); }); });
+    connect(controls.Delete, &QPushButton::clicked, this, [this] { Trap([this] { DeleteClicked(); }); });
+    connect(controls.Quit, &QPushButton::clicked, this, [this] {
+        m_controls.Add->setEnabled(false);
+        m_controls.Delete->setEnabled(false);
+        TheWindows.Unload(objectName());
+    });
+    EnterRing(controls.Fields);
+}
+
+void ListPanel::ReadClicked()
+{
+    m_list.Input();
+    FillList();
+    m_controls.Add->setEnabled(true);
+}
+
+void ListPanel::AddClicked()
+{
+    EmptyFields();
+    OpenPanel(NewCaption);
+}
+
+void ListPanel::RowClicked()
+{
+    SetFields(m_list.PanelOf(SelectedRecord()));
+    m_controls.Delete->setEnabled(true);
+    OpenPanel(ChangeCaption);
+}
+
+void ListPanel::DeleteClicked()
+{
+    RemoveAndSave(m_list, SelectedRecord());
+    FillList();
+    ClosePanel();
+}
+
+/// The panel shows its texts in their normal forms before anything is told of them.
+EntryOutcome ListPanel::TakePanel()
+{
+    QStringList panel;
+    for (const QLineEdit *field : std::as_const(m_controls.Fields))
+        panel += field->text();
+    const auto show = qScopeGuard([&] { SetFields(panel); });
+    return m_list.Commit(panel, m_controls.Commit->text(), SelectedRecord());
+}
+
+void ListPanel::CommitEntry()
+{
+    const EntryOutcome outcome = TakePanel();
+    if (outcome.Objection)
+        TheDesk.ShowMessage(*outcome.Objection);
+    if (!outcome.Focus.isEmpty())
+        FocusOn(findChild<QLineEdit *>(outcome.Focus));
+    if (!outcome.Saved)
+        return;
+    FillList();
+    EntrySaved();
+}
+
+void ListPanel::FillList()
+{
+    m_controls.List->Clear();
+    for (const QString &name : m_list.Names())
+        m_controls.List->AddItem(name);
 }
 
 int ListPanel::SelectedRecord() const
@@ -19,16 +88,7 @@ int ListPanel::SelectedRecord() const
 
 void ListPanel::Trap(const std::function<void()> &steps)
 {
-    TrapUnknownError(m_controls.Title, steps);
-}
-
-bool ListPanel::Refused(const std::optional<Refusal> &refusal)
-{
-    if (!refusal)
-        return false;
-    ShowMessage(refusal->Text, m_controls.Title, Icon::Stop, Buttons::OkHelp, m_controls.HelpContext);
-    FocusOn(findChild<QLineEdit *>(refusal->Focus));
-    return true;
+    TrapUnknownError(m_list.Title, steps);
 }
 
 void ListPanel::SetFields(const QStringList &texts)
@@ -49,12 +109,12 @@ void ListPanel::EnableFields(bool enabled)
         field->setEnabled(enabled);
 }
 
-void ListPanel::OpenPanel(const QString &caption, QLineEdit *first)
+void ListPanel::OpenPanel(const QString &caption)
 {
     m_controls.Commit->setText(caption);
     m_controls.Commit->setEnabled(true);
     EnableFields(true);
-    FocusOn(first);
+    FocusOn(m_controls.Fields.first());
 }
 
 void ListPanel::ClosePanel()

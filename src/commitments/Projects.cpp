@@ -1,10 +1,14 @@
 #include "commitments/Projects.h"
 
 #include "budget/SavingsForecast.h"
+#include "foundation/BudgetFiles.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
 namespace {
+
+enum Field { Name, Amount, CompletionDate };
+constexpr int NotEnoughFundsHelp = 4; ///< help context
 
 void RedimProjects(int count, bool preserve)
 {
@@ -16,24 +20,82 @@ void RedimProjects(int count, bool preserve)
     redim(State.ProjectEntryAmounts);
 }
 
+QStringList Names()
+{
+    QStringList names;
+    for (int i = 1; i <= State.NumberOfProjects; ++i)
+        names += State.ProjectNames(i);
+    return names;
+}
+
+/// The last installment's date is the completion date.
+QStringList PanelOf(int project)
+{
+    return {State.ProjectNames(project), FormatCurrency(State.ProjectAmounts(project)),
+            FormatLongDate(std::as_const(State.ProjectEntryDates)(project)(EntriesOf(project)))};
+}
+
+/// What an entry has left in memory and not in the file, because it failed half-way, is dropped before the next edit.
+void DropUnsaved()
+{
+    if (std::exchange(Projects.Unsaved, false))
+        InputProjects();
+}
+
+EntryOutcome Commit(QStringList &panel, const QString &, int)
+{
+    if (const auto refusal = ValidateProjectEntry(panel))
+        return Refuse(ProjectList, *refusal);
+    const Currency amount = ToCurrency(panel[Amount]);
+    panel[Amount] = FormatCurrency(amount);
+    if (const auto shortage = ValidateProjectFunds(amount))
+        return {.Objection = shortage};
+    DropUnsaved();
+    Projects.Unsaved = true;
+    AddProject(panel[Name], amount);
+    SaveAndReload(ProjectList);
+    Projects.Unsaved = false;
+    return {.Saved = true};
+}
+
+/// The project that was clicked last goes, whichever row is marked by now.
+void Remove(int)
+{
+    DropUnsaved();
+    DeleteProject();
+}
+
 } // namespace
 
-std::optional<Refusal> ValidateProjectEntry(const ProjectPanel &panel)
+const CommitmentList ProjectList{.Title = QStringLiteral("Projects"),
+                                 .HelpContext = 25,
+                                 .Fields = {QStringLiteral("txtProject"), QStringLiteral("txtProjectAmount"),
+                                            QStringLiteral("txtProjectCompletionDate")},
+                                 .Input = InputProjects,
+                                 .Save = SaveProjects,
+                                 .Names = Names,
+                                 .PanelOf = PanelOf,
+                                 .Commit = Commit,
+                                 .Remove = Remove};
+
+std::optional<Refusal> ValidateProjectEntry(const QStringList &panel)
 {
     return FirstFailure({
-        {IsNumeric(panel.Amount), "Please enter a numerical dollar amount in the Project Amount field",
+        {IsNumeric(panel[Amount]), "Please enter a numerical dollar amount in the Project Amount field",
          "txtProjectAmount"},
-        {!panel.Project.isEmpty(), "Please enter a project description in the Project field", "txtProject"},
+        {!panel[Name].isEmpty(), "Please enter a project description in the Project field", "txtProject"},
     });
 }
 
-std::optional<QString> ValidateProjectFunds(Currency amount)
+std::optional<Message> ValidateProjectFunds(Currency amount)
 {
     if (Forecast.ForecastPickAccumulated >= amount)
         return {};
-    return QStringLiteral("Tallymere did not find enough funds by the selected Completion Date. Double-click on the "
-                          "Completion Date box to select a later completion date which has at least the Project Amount "
-                          "available in the Accumulated column.");
+    return Message{
+        QStringLiteral("Tallymere did not find enough funds by the selected Completion Date. Double-click on the "
+                       "Completion Date box to select a later completion date which has at least the Project Amount "
+                       "available in the Accumulated column."),
+        ProjectList.Title, Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp};
 }
 
 void AddProject(const QString &name, Currency amount)
@@ -55,9 +117,8 @@ void AddProject(const QString &name, Currency amount)
     }
 }
 
-void DeleteProject(int index)
+void DeleteProject()
 {
-    State.ProjectNames(index); // no selected row, no delete, not even of the last one
     if (State.NumberOfProjects < 2) {
         RedimProjects(0, false);
         State.NumberOfProjects = 0;
@@ -68,7 +129,7 @@ void DeleteProject(int index)
     const auto counts = State.ProjectEntryCounts;
     const auto dates = State.ProjectEntryDates;
     const auto entryAmounts = State.ProjectEntryAmounts;
-    names(index).clear();
+    names(Projects.SelectedProject).clear();
     RedimProjects(State.NumberOfProjects - 1, false);
     int next = 0;
     for (int i = 1; i <= State.NumberOfProjects; ++i) {

@@ -1,29 +1,26 @@
 // The edits of the projects: savings goals that are paid in dated installments, one a pay period.
 #pragma once
 
-#include "foundation/Refusal.h"
+#include "commitments/CommitmentList.h"
 #include "foundation/Report.h"
 #include "foundation/State.h"
 
-struct ProjectPanel {
-    QString Project;
-    QString Amount;
-};
-
-constexpr int ProjectsHelp = 25;      ///< help context
-constexpr int NotEnoughFundsHelp = 4; ///< help context
+/// The projects' list with its panel of description, amount and completion date. Its commit only adds: the installments
+/// are those of the forecast up to the picked row.
+extern const CommitmentList ProjectList;
 
 /// What the projects' windows share; a test puts it back with one assignment.
 struct ProjectsState {
-    qint16 SelectedProject = 0; ///< index of the row selected in the list
+    qint16 SelectedProject = 0; ///< index of the row that was clicked last in the list
+    bool Unsaved = false;       ///< an entry that failed half-way stands in memory and not in the file
 };
 inline ProjectsState Projects;
 
 /// An amount that is no number or an empty description is refused.
-std::optional<Refusal> ValidateProjectEntry(const ProjectPanel &panel);
+std::optional<Refusal> ValidateProjectEntry(const QStringList &panel);
 
 /// What is told when the picked row of the forecast has less accumulated than the amount; nothing if it has enough.
-std::optional<QString> ValidateProjectFunds(Currency amount);
+std::optional<Message> ValidateProjectFunds(Currency amount);
 
 /// Appends a project whose installments are those of the forecast's rows 1 to the picked one. Each is the row's
 /// savings, divided by what is accumulated at the picked row, times the amount: in double from the currency texts,
@@ -31,8 +28,9 @@ std::optional<QString> ValidateProjectFunds(Currency amount);
 /// arrays.
 void AddProject(const QString &name, Currency amount);
 
-/// Removes project `index`; projects with an empty name disappear with it. Error 9 outside, with nothing changed.
-void DeleteProject(int index);
+/// Removes Projects.SelectedProject; projects with an empty name disappear with it. A single project goes whatever is
+/// selected; of several, error 9 where there is no such project, with nothing changed.
+void DeleteProject();
 
 /// The installments of a project with their running total, for the screen and for paper.
 std::vector<DatedRow> ProjectRows(int project);

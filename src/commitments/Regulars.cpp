@@ -1,14 +1,62 @@
 #include "commitments/Regulars.h"
 
 #include "commitments/Compaction.h"
+#include "foundation/BudgetFiles.h"
+#include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
-std::optional<Refusal> ValidateRegularEntry(const RegularPanel &panel)
+namespace {
+
+enum Field { Amount, Item };
+
+QStringList Names()
+{
+    QStringList names;
+    for (int i = 1; i <= State.NumberOfRegulars; ++i)
+        names += State.Regulars(i).RegularItem;
+    return names;
+}
+
+QStringList PanelOf(int record)
+{
+    const RegularRecord &regular = State.Regulars(record);
+    return {FormatCurrency(regular.RegularAmount), regular.RegularItem};
+}
+
+EntryOutcome Commit(QStringList &panel, const QString &caption, int record)
+{
+    if (const auto refusal = ValidateRegularEntry(panel))
+        return Refuse(RegularList, *refusal);
+    const RegularRecord regular{panel[Item], ToCurrency(panel[Amount])};
+    panel[Amount] = FormatCurrency(regular.RegularAmount);
+    if (caption == NewCaption)
+        AddRegular(regular);
+    else if (caption == ChangeCaption)
+        ChangeRegular(record, regular);
+    else
+        return {};
+    SaveAndReload(RegularList);
+    return {.Saved = true};
+}
+
+} // namespace
+
+const CommitmentList RegularList{.Title = QStringLiteral("Regulars"),
+                                 .HelpContext = 23,
+                                 .Fields = {QStringLiteral("txtRegularAmount"), QStringLiteral("txtRegularItem")},
+                                 .Input = InputRegulars,
+                                 .Save = SaveRegulars,
+                                 .Names = Names,
+                                 .PanelOf = PanelOf,
+                                 .Commit = Commit,
+                                 .Remove = DeleteRegular};
+
+std::optional<Refusal> ValidateRegularEntry(const QStringList &panel)
 {
     return FirstFailure({
-        {IsNumeric(panel.Amount), "Please enter a numerical dollar amount in the Regular Amount field",
+        {IsNumeric(panel[Amount]), "Please enter a numerical dollar amount in the Regular Amount field",
          "txtRegularAmount"},
-        {!panel.Item.isEmpty(), "Please enter a regular item description in the Regular Item field", "txtRegularItem"},
+        {!panel[Item].isEmpty(), "Please enter a regular item description in the Regular Item field", "txtRegularItem"},
     });
 }
 
@@ -27,7 +75,6 @@ void ChangeRegular(int index, const RegularRecord &record)
 
 void DeleteRegular(int index)
 {
-    State.Regulars(index); // no selected row, no delete, not even of the last one
     if (State.NumberOfRegulars < 2) {
         State.Regulars.Redim(0);
         State.NumberOfRegulars = 0;

@@ -1,18 +1,14 @@
 // The edits of the array of regular items: amounts that are spent in every pay period, in order of entry.
 #pragma once
 
-#include "foundation/Refusal.h"
+#include "commitments/CommitmentList.h"
 #include "foundation/State.h"
 
-struct RegularPanel {
-    QString Amount;
-    QString Item;
-};
-
-constexpr int RegularsHelp = 23; ///< help context
+/// The regular items' list with its panel of amount and description.
+extern const CommitmentList RegularList;
 
 /// An amount that is no number or an empty description is refused.
-std::optional<Refusal> ValidateRegularEntry(const RegularPanel &panel);
+std::optional<Refusal> ValidateRegularEntry(const QStringList &panel);
 
 void AddRegular(const RegularRecord &record);
 /// Error 9 where there is no such record.

@@ -17,15 +17,5 @@ public:
     ~frmCreditors() override;
 
 private:
-    void FillCreditorList();
-    void SaveAndReload();
-    void CommitEntry();
-    void cmdListCreditors_Click();
-    void cmdAddCreditor_Click();
-    void lstCreditors_Click();
-    void cmdAddChangeCreditor_Click();
-    void cmdDeleteCreditor_Click();
-    void cmdQuit_Click();
-
     std::unique_ptr<Ui::frmCreditors> ui;
 };

@@ -2,32 +2,25 @@
 
 #include "budget/ScanPayPeriods.h"
 #include "commitments/Extras.h"
-#include "foundation/BudgetFiles.h"
-#include "platform/values/Format.h"
+#include "platform/controls/ListBox.h"
 #include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmExtras.h"
 
-frmExtras::frmExtras() : ui(std::make_unique<Ui::frmExtras>())
+frmExtras::frmExtras() : ListPanel(ExtraItemList), ui(std::make_unique<Ui::frmExtras>())
 {
     ui->setupUi(this);
-    TakeControls({.Title = QStringLiteral("Extras"),
-                  .HelpContext = ExtrasHelp,
-                  .List = ui->lstExtraItems,
+    TakeControls({.List = ui->lstExtraItems,
+                  .Read = ui->cmdListPayPeriods,
+                  .Add = ui->cmdAddExtraItem,
                   .Delete = ui->cmdDeleteExtraItem,
+                  .Quit = ui->cmdQuit,
                   .Commit = ui->cmdAddChangeExtraItem,
                   .Fields = {ui->txtExtraItemAmount, ui->txtExtraItem}});
-    connect(ui->cmdListPayPeriods, &QPushButton::clicked, this, &frmExtras::cmdListPayPeriods_Click);
     connect(ui->cmdAddPayPeriod, &QPushButton::clicked, this, &frmExtras::cmdAddPayPeriod_Click);
-    connect(ui->lstExtraItems, &ListBox::Click, this, &frmExtras::lstExtraItems_Click);
-    connect(ui->cmdAddExtraItem, &QPushButton::clicked, this, &frmExtras::cmdAddExtraItem_Click);
     // The check box raises its click also when code changes its value.
     connect(ui->chkCredit, &QCheckBox::toggled, this, &frmExtras::chkCredit_Click);
-    connect(ui->cmdAddChangeExtraItem, &QPushButton::clicked, this, &frmExtras::cmdAddChangeExtraItem_Click);
-    connect(ui->cmdDeleteExtraItem, &QPushButton::clicked, this, &frmExtras::cmdDeleteExtraItem_Click);
     connect(ui->cmdDeletePayPeriod, &QPushButton::clicked, this, &frmExtras::cmdDeletePayPeriod_Click);
-    connect(ui->cmdQuit, &QPushButton::clicked, this, &frmExtras::cmdQuit_Click);
-    EnterRing({ui->txtExtraItemAmount, ui->txtExtraItem});
 }
 
 frmExtras::~frmExtras() = default;
@@ -47,43 +40,23 @@ void frmExtras::Unload()
 void frmExtras::FillPayPeriodList()
 {
     ui->lstExtraItems->Clear();
-    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i)
-        ui->lstExtraItems->AddItem(FormatLongDate(State.ExtraPayPeriods(i).PayPeriodDate));
+    for (const QString &name : PayPeriodNames())
+        ui->lstExtraItems->AddItem(name);
 }
 
-void frmExtras::FillExtraItemList()
+/// The open pay period with its items.
+void frmExtras::FillList()
 {
-    const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(Extras.SelectedExtraPayPeriod);
-    ui->lblPayPeriod->setText(FormatLongDate(payPeriod.PayPeriodDate));
-    ui->lstExtraItems->Clear();
-    for (int i = 1; i <= ItemsOf(payPeriod); ++i)
-        ui->lstExtraItems->AddItem(payPeriod.ExtraItems(i).ExtraItem);
+    ui->lblPayPeriod->setText(OpenPayPeriodName());
+    ListPanel::FillList();
     Extras.ExtrasListMode = false;
     ui->cmdAddPayPeriod->setEnabled(false);
     ui->cmdDeletePayPeriod->setEnabled(true);
     ui->cmdAddExtraItem->setEnabled(true);
 }
 
-/// Reads the file and goes back to the level of the pay periods.
+/// The level of the pay periods.
 void frmExtras::ShowPayPeriods()
-{
-    InputPayPeriods();
-    ListPayPeriods();
-}
-
-/// After a pick in the scan. A pay period that was opened meanwhile is closed again, or its items would be written into
-/// another one: the records have moved.
-void frmExtras::TakePickedPayPeriod()
-{
-    if (Extras.ExtrasListMode) {
-        FillPayPeriodList();
-        return;
-    }
-    ListPayPeriods();
-    EmptyPanel();
-}
-
-void frmExtras::ListPayPeriods()
 {
     ui->lblPayPeriod->clear();
     FillPayPeriodList();
@@ -95,31 +68,35 @@ void frmExtras::ListPayPeriods()
     ui->cmdAddChangeExtraItem->setEnabled(false);
 }
 
-void frmExtras::SaveAndReload()
+/// After a pick in the scan. A pay period that was opened meanwhile is closed again, or its items would be written into
+/// another one: the records have moved.
+void frmExtras::TakePickedPayPeriod()
 {
-    SavePayPeriods();
-    InputPayPeriods();
-    FillExtraItemList();
-}
-
-void frmExtras::cmdListPayPeriods_Click()
-{
+    if (Extras.ExtrasListMode) {
+        FillPayPeriodList();
+        return;
+    }
     ShowPayPeriods();
     EmptyPanel();
 }
 
 void frmExtras::EmptyPanel()
 {
-    ui->chkCredit->setChecked(false);
-    ui->chkCredit->setEnabled(false);
+    ClearCredit();
     EmptyFields();
 }
 
-/// What an entry has left in memory and not in the file, because it failed half-way, is dropped before the next one.
-void frmExtras::DropUnsaved()
+void frmExtras::ClearCredit()
 {
-    if (std::exchange(m_unsaved, false))
-        InputPayPeriods();
+    ui->chkCredit->setChecked(false);
+    ui->chkCredit->setEnabled(false);
+}
+
+void frmExtras::ReadClicked()
+{
+    ExtraItemList.Input();
+    ShowPayPeriods();
+    EmptyPanel();
 }
 
 void frmExtras::cmdAddPayPeriod_Click()
@@ -128,34 +105,27 @@ void frmExtras::cmdAddPayPeriod_Click()
     TheWindows.Show(QStringLiteral("frmScanPayPeriods")); // a pick there comes back through FillPayPeriodList
 }
 
-void frmExtras::lstExtraItems_Click()
+void frmExtras::RowClicked()
 {
-    if (!Extras.ExtrasListMode) {
-        ShowExtraItem();
+    if (Extras.ExtrasListMode) {
+        Extras.SelectedExtraPayPeriod = ToInteger(SelectedRecord());
+        FillList();
         return;
     }
-    Extras.SelectedExtraPayPeriod = ToInteger(SelectedRecord());
-    FillExtraItemList();
-}
-
-void frmExtras::ShowExtraItem()
-{
-    const ExtraItemRecord item = State.ExtraPayPeriods(Extras.SelectedExtraPayPeriod).ExtraItems(SelectedRecord());
-    SetFields({FormatCurrency(item.ExtraItemAmount), item.ExtraItem});
+    SetFields(ExtraItemList.PanelOf(SelectedRecord()));
     ui->cmdAddExtraItem->setEnabled(true);
     ui->cmdDeleteExtraItem->setEnabled(ui->lstExtraItems->count() != 1); // a pay period keeps at least one item
     ui->chkCredit->setEnabled(true);
     // Its click follows the amount, which has its sign already and stays as it is. The panel opens after it: the amount
     // is written again and would lose its selection.
-    ui->chkCredit->setChecked(item.ExtraItemAmount < Currency());
-    OpenPanel(ChangeCaption, ui->txtExtraItemAmount);
+    ui->chkCredit->setChecked(IsCredit(SelectedRecord()));
+    OpenPanel(ChangeCaption);
 }
 
-void frmExtras::cmdAddExtraItem_Click()
+void frmExtras::AddClicked()
 {
     // The check box keeps what it showed; only a click on it changes the sign.
-    EmptyFields();
-    OpenPanel(NewCaption, ui->txtExtraItemAmount);
+    ListPanel::AddClicked();
     ui->chkCredit->setEnabled(true);
 }
 
@@ -164,55 +134,17 @@ void frmExtras::chkCredit_Click()
     ui->txtExtraItemAmount->setText(AmountWithCredit(ui->txtExtraItemAmount->text(), ui->chkCredit->isChecked()));
 }
 
-void frmExtras::CommitEntry()
+void frmExtras::DeleteClicked()
 {
-    if (Refused(ValidateExtraEntry({ui->txtExtraItemAmount->text(), ui->txtExtraItem->text()})))
-        return;
-    const ExtraItemRecord item{ui->txtExtraItem->text(), ToCurrency(ui->txtExtraItemAmount->text())};
-    ui->txtExtraItemAmount->setText(FormatCurrency(item.ExtraItemAmount));
-
-    DropUnsaved();
-    m_unsaved = true;
-    if (ui->cmdAddChangeExtraItem->text() == NewCaption)
-        AddExtraItem(item);
-    else if (ui->cmdAddChangeExtraItem->text() == ChangeCaption)
-        ChangeExtraItem(SelectedRecord(), item);
-    else
-        return;
-    SaveAndReload();
-    m_unsaved = false;
-}
-
-void frmExtras::cmdAddChangeExtraItem_Click()
-{
-    Trap([this] { CommitEntry(); });
-}
-
-void frmExtras::cmdDeleteExtraItem_Click()
-{
-    Trap([this] {
-        DropUnsaved();
-        DeleteExtraItem(SelectedRecord());
-        SaveAndReload();
-        ClosePanel();
-        ui->chkCredit->setChecked(false);
-        ui->chkCredit->setEnabled(false);
-    });
+    ListPanel::DeleteClicked();
+    ClearCredit();
 }
 
 void frmExtras::cmdDeletePayPeriod_Click()
 {
     Trap([this] {
-        DeleteExtraPayPeriod();
-        SavePayPeriods();
+        RemovePayPeriodAndSave();
         ShowPayPeriods();
         EmptyFields();
     });
-}
-
-void frmExtras::cmdQuit_Click()
-{
-    ui->cmdAddExtraItem->setEnabled(false);
-    ui->cmdDeleteExtraItem->setEnabled(false);
-    TheWindows.Unload(objectName());
 }

@@ -18,27 +18,22 @@ public:
     void Load() override;
     void Unload() override;
 
-private:
-    void FillPayPeriodList();
-    void FillExtraItemList();
-    void ShowPayPeriods();
-    void ListPayPeriods();
-    void TakePickedPayPeriod();
-    void EmptyPanel();
-    void DropUnsaved();
-    void ShowExtraItem();
-    void SaveAndReload();
-    void CommitEntry();
-    void cmdListPayPeriods_Click();
-    void cmdAddPayPeriod_Click();
-    void lstExtraItems_Click();
-    void cmdAddExtraItem_Click();
-    void chkCredit_Click();
-    void cmdAddChangeExtraItem_Click();
-    void cmdDeleteExtraItem_Click();
-    void cmdDeletePayPeriod_Click();
-    void cmdQuit_Click();
+protected:
+    void ReadClicked() override;
+    void AddClicked() override;
+    void RowClicked() override;
+    void DeleteClicked() override;
+    void FillList() override;
 
-    bool m_unsaved = false; ///< an entry was taken into the arrays and not yet into the file
+private:
+    void ShowPayPeriods();
+    void TakePickedPayPeriod();
+    void FillPayPeriodList();
+    void EmptyPanel();
+    void ClearCredit();
+    void cmdAddPayPeriod_Click();
+    void chkCredit_Click();
+    void cmdDeletePayPeriod_Click();
+
     std::unique_ptr<Ui::frmExtras> ui;
 };

@@ -1,8 +1,7 @@
 #include "commitments/frmProjects.h"
 
 #include "commitments/Projects.h"
-#include "foundation/BudgetFiles.h"
-#include "platform/values/Format.h"
+#include "platform/controls/ListBox.h"
 #include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmProjects.h"
@@ -28,25 +27,19 @@ bool IsControlEnter(const QKeyEvent &key)
 
 } // namespace
 
-frmProjects::frmProjects() : ui(std::make_unique<Ui::frmProjects>())
+frmProjects::frmProjects() : ListPanel(ProjectList), ui(std::make_unique<Ui::frmProjects>())
 {
     ui->setupUi(this);
-    TakeControls({.Title = QStringLiteral("Projects"),
-                  .HelpContext = ProjectsHelp,
-                  .List = ui->lstProjects,
+    TakeControls({.List = ui->lstProjects,
+                  .Read = ui->cmdListProjects,
+                  .Add = ui->cmdAddProject,
                   .Delete = ui->cmdDeleteProject,
+                  .Quit = ui->cmdQuit,
                   .Commit = ui->cmdNew,
                   .Fields = {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate}});
-    connect(ui->cmdListProjects, &QPushButton::clicked, this, &frmProjects::cmdListProjects_Click);
-    connect(ui->cmdAddProject, &QPushButton::clicked, this, &frmProjects::cmdAddProject_Click);
     for (QLineEdit *field : {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate})
         connect(field, &QLineEdit::textChanged, this, &frmProjects::UpdateNewButton);
-    connect(ui->cmdNew, &QPushButton::clicked, this, &frmProjects::cmdNew_Click);
-    connect(ui->lstProjects, &ListBox::Click, this, &frmProjects::lstProjects_Click);
     connect(ui->lstProjects, &ListBox::DoubleClick, this, &frmProjects::lstProjects_DblClick);
-    connect(ui->cmdDeleteProject, &QPushButton::clicked, this, &frmProjects::cmdDeleteProject_Click);
-    connect(ui->cmdQuit, &QPushButton::clicked, this, &frmProjects::cmdQuit_Click);
-    EnterRing({ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate});
     // The ring ends at the date, where Enter is a key like any other.
     OnEnter(ui->txtProjectCompletionDate, [this] { PickCompletionDate(); });
     ui->txtProjectCompletionDate->installEventFilter(this);
@@ -76,27 +69,6 @@ bool frmProjects::eventFilter(QObject *watched, QEvent *event)
     return ListPanel::eventFilter(watched, event);
 }
 
-void frmProjects::FillProjectList()
-{
-    ui->lstProjects->Clear();
-    for (int i = 1; i <= State.NumberOfProjects; ++i)
-        ui->lstProjects->AddItem(State.ProjectNames(i));
-}
-
-void frmProjects::SaveAndReload()
-{
-    SaveProjects();
-    InputProjects();
-    FillProjectList();
-}
-
-/// What an entry has left in memory and not in the file, because it failed half-way, is dropped before the next edit.
-void frmProjects::DropUnsaved()
-{
-    if (std::exchange(m_unsaved, false))
-        InputProjects();
-}
-
 void frmProjects::UpdateNewButton()
 {
     if (!AddingProject)
@@ -112,14 +84,7 @@ void frmProjects::PickCompletionDate()
     TheWindows.Show(QStringLiteral("frmSavingsForecast"));
 }
 
-void frmProjects::cmdListProjects_Click()
-{
-    InputProjects();
-    FillProjectList();
-    ui->cmdAddProject->setEnabled(true);
-}
-
-void frmProjects::cmdAddProject_Click()
+void frmProjects::AddClicked()
 {
     EmptyFields();
     EnableFields(true);
@@ -134,38 +99,18 @@ void frmProjects::txtProjectCompletionDate_MouseMove()
         ui->txtProjectCompletionDate->setToolTip(QStringLiteral("Double-click to select valid date"));
 }
 
-void frmProjects::CommitEntry()
+void frmProjects::EntrySaved()
 {
-    if (Refused(ValidateProjectEntry({ui->txtProject->text(), ui->txtProjectAmount->text()})))
-        return;
-    const Currency amount = ToCurrency(ui->txtProjectAmount->text());
-    ui->txtProjectAmount->setText(FormatCurrency(amount));
-    if (const auto shortage = ValidateProjectFunds(amount)) {
-        ShowMessage(*shortage, QStringLiteral("Projects"), Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp);
-        return;
-    }
-    DropUnsaved();
-    m_unsaved = true;
-    AddProject(ui->txtProject->text(), amount);
-    SaveAndReload();
-    m_unsaved = false;
     AddingProject = false;
     ui->cmdNew->setEnabled(false);
 }
 
-void frmProjects::cmdNew_Click()
-{
-    Trap([this] { CommitEntry(); });
-}
-
-void frmProjects::lstProjects_Click()
+/// Shows a project; it can be viewed and deleted then, and never edited.
+void frmProjects::RowClicked()
 {
     AddingProject = false;
     Projects.SelectedProject = ToInteger(SelectedRecord());
-    const int project = Projects.SelectedProject;
-    const DateText completionDate = State.ProjectEntryDates(project)(EntriesOf(project));
-    SetFields(
-        {State.ProjectNames(project), FormatCurrency(State.ProjectAmounts(project)), FormatLongDate(completionDate)});
+    SetFields(ProjectList.PanelOf(Projects.SelectedProject));
     ui->cmdDeleteProject->setEnabled(true);
     EnableFields(true);
     FocusOn(ui->txtProject);
@@ -176,24 +121,6 @@ void frmProjects::lstProjects_DblClick()
     TheDesk.Beep();
     const QString question =
         QStringLiteral("Do you wish to print project %1?").arg(State.ProjectNames(Projects.SelectedProject));
-    State.PrintProjectView =
-        ShowMessage(question, QStringLiteral("Projects"), Icon::Question, Buttons::YesNo) == Answer::Yes;
+    State.PrintProjectView = ShowMessage(question, ProjectList.Title, Icon::Question, Buttons::YesNo) == Answer::Yes;
     TheWindows.Show(QStringLiteral("frmViewProject"));
-}
-
-void frmProjects::cmdDeleteProject_Click()
-{
-    Trap([this] {
-        DropUnsaved();
-        DeleteProject(SelectedRecord()); // an earlier choice that is no longer marked stays
-        SaveAndReload();
-        ClosePanel();
-    });
-}
-
-void frmProjects::cmdQuit_Click()
-{
-    ui->cmdAddProject->setEnabled(false);
-    ui->cmdDeleteProject->setEnabled(false);
-    TheWindows.Unload(objectName());
 }

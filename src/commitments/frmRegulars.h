@@ -16,16 +16,9 @@ public:
     frmRegulars();
     ~frmRegulars() override;
 
-private:
-    void FillRegularList();
-    void SaveAndReload();
-    void CommitEntry();
-    void cmdListRegularItems_Click();
-    void cmdAddRegularItem_Click();
-    void lstRegulars_Click();
-    void cmdAddChangeRegularItem_Click();
-    void cmdDeleteRegularItem_Click();
-    void cmdQuit_Click();
+protected:
+    void EntrySaved() override;
 
+private:
     std::unique_ptr<Ui::frmRegulars> ui;
 };

@@ -10,6 +10,10 @@ namespace {
 
 const QString Window = u"frmScanPayPeriods"_s;
 const QString List = u"lstScanPayPeriods"_s;
+const QString UnknownErrorText =
+    u"An unknown error occured. This may be due to an invalid entry. If you need help press F1 for assistance on this "
+    "page. On the main menu click on Help->Search for Help On... or Help->How Do I? or click on any of the help icons "
+    "on the bottom right of the main window."_s;
 
 void TakeHousehold()
 {
@@ -202,17 +206,85 @@ private Q_SLOTS:
         QVERIFY(!IsShown(u"frmExtras"_s));
     }
 
-    void ADamagedDateEndsTheProgramWithTheDefaultReport()
+    void ADamagedDateIsAnUnknownErrorAndChangesNothing()
     {
         GuiDesk desk;
         TakeHousehold();
-        State.NumberOfExtraPayPeriods = 1;
-        State.ExtraPayPeriods.Redim(1);
-        State.ExtraPayPeriods(1).PayPeriodDate = u"never"_s;
-        OpenForExtras();
+        const QByteArray damaged = "2\r\n\"01-29-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n\"never\"\r\n0\r\n";
+        desk.WriteFile(u"extra.txt"_s, damaged);
+        Show(u"frmExtras"_s);
+        Click(u"frmExtras"_s, u"cmdListPayPeriods"_s);
+        Click(u"frmExtras"_s, u"cmdAddPayPeriod"_s);
+        for (int pick = 0; pick < 2; ++pick) {
+            ClickRow(Window, List, 1);
+            QCOMPARE(desk.TakeMessage(), (Message{UnknownErrorText, u"Valid Pay Periods"_s, Icon::Warning}));
+            QCOMPARE(desk.ReadFile(u"extra.txt"_s), damaged);
+            QCOMPARE(State.NumberOfExtraPayPeriods, qint16(2));
+            QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), u"01-29-2004"_s);
+            QCOMPARE(State.ExtraPayPeriods(2).PayPeriodDate.Text(), u"never"_s);
+            QVERIFY(State.ScanCalledFromExtras); // the extras window goes on waiting
+            QVERIFY(IsShown(Window));
+        }
+        QVERIFY(!desk.Ended);
+    }
+
+    void APickThatCannotBeSavedIsToldAndReadBack()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        const QByteArray tires = "1\r\n\"02-12-2004\"\r\n1\r\n\"Tires\"\r\n80.5\r\n";
+        desk.WriteFile(u"extra.txt"_s, tires);
+        Show(u"frmExtras"_s);
+        Click(u"frmExtras"_s, u"cmdListPayPeriods"_s);
+        QVERIFY(QFile::setPermissions(desk.Path(u"extra.txt"_s), QFile::ReadOwner));
+        Click(u"frmExtras"_s, u"cmdAddPayPeriod"_s);
+        ClickRow(Window, List, 2);
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 75: Path/File access error"_s, u"Save Pay Periods"_s, Icon::Stop}));
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), tires);
+        QCOMPARE(State.NumberOfExtraPayPeriods, qint16(1));
+        QCOMPARE(RowsOf(u"frmExtras"_s, u"lstExtraItems"_s), QStringList{u"February 12, 2004"_s});
+        QVERIFY(!IsShown(Window)); // the pick is over all the same
+        QVERIFY(!State.ScanCalledFromExtras);
+    }
+
+    void AfterAnItemTooManyAPickSavesTheFileAndItselfAlone()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        QByteArray items;
+        for (int i = 1; i <= MostExtraItems; ++i)
+            items += '"' + QByteArray::number(i) + "\"\r\n1\r\n";
+        desk.WriteFile(u"extra.txt"_s, "1\r\n\"01-01-2004\"\r\n200\r\n" + items);
+        Show(u"frmExtras"_s);
+        Click(u"frmExtras"_s, u"cmdListPayPeriods"_s);
+        Click(u"frmExtras"_s, u"cmdAddPayPeriod"_s); // and before the pick the user goes back to the items
+        Show(u"frmExtras"_s);
+        ClickRow(u"frmExtras"_s, u"lstExtraItems"_s, 0);
+        Click(u"frmExtras"_s, u"cmdAddExtraItem"_s);
+        Type(u"frmExtras"_s, u"txtExtraItemAmount"_s, u"1"_s);
+        Type(u"frmExtras"_s, u"txtExtraItem"_s, u"201"_s);
+        Click(u"frmExtras"_s, u"cmdAddChangeExtraItem"_s);
+        QCOMPARE(desk.TakeMessage(), (Message{UnknownErrorText, u"Extras"_s, Icon::Warning}));
         ClickRow(Window, List, 1);
-        QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '13':\n\nType mismatch"_s, AppTitle, Icon::Stop}));
-        QVERIFY(desk.Ended);
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s),
+                 QByteArray("2\r\n\"01-01-2004\"\r\n200\r\n" + items + "\"01-15-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"));
+        QCOMPARE(RowsOf(u"frmExtras"_s, u"lstExtraItems"_s),
+                 (QStringList{u"January 1, 2004"_s, u"January 15, 2004"_s}));
+    }
+
+    void FilledAgainTheListHasNoSelection()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        ClickRow(Window, List, 3);
+        QCOMPARE(Find<ListBox>(Window, List).ListIndex(), 3);
+        Show(u"frmOther"_s);
+        Show(Window);
+        QCOMPARE(Find<ListBox>(Window, List).ListIndex(), -1);
+        QCOMPARE(Scan.ScanPickedDate, u"02-12-2004"_s);
     }
 
     void TheTutorRestsWhileTheWindowIsLoaded()

@@ -451,25 +451,45 @@ private Q_SLOTS:
         QCOMPARE(File(desk), QByteArray("0\r\n"));
     }
 
-    void DeletingWithoutARowLosesNothing_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::newRow("of two") << QByteArray("2\r\n" + Boat + Lamp);
-        QTest::newRow("the only one") << QByteArray("1\r\n" + Boat);
-    }
-    void DeletingWithoutARowLosesNothing()
+    void DeletingTakesTheProjectThatWasClickedLastWhateverIsMarkedNow()
     {
         CommitmentsDesk desk;
-        QFETCH(QByteArray, file);
-        Open(desk, file);
+        Open(desk, "2\r\n" + Boat + Lamp);
         ClickRow(Window, List, 0);
         Click(Window, u"cmdListProjects"_s);
         QCOMPARE(SelectedRow(Window, List), -1);
-        QCOMPARE(Projects.SelectedProject, qint16(1)); // remembered, and still nothing to delete
+        auto &list = Find<ListBox>(Window, List);
+        TheWindows.Loaded(Window)->FocusOn(&list);
+        QTest::keyClick(&list, Qt::Key_End); // only moves the mark
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Lamp));
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Lamp"_s});
+    }
+
+    void DeletingTheOnlyProjectNeedsNoRow()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n" + Boat + Lamp);
+        ClickRow(Window, List, 1);
+        desk.WriteFile(u"projects.txt"_s, "1\r\n" + Boat);
+        Click(Window, u"cmdListProjects"_s);
+        QCOMPARE(Projects.SelectedProject, qint16(2)); // which is gone
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(File(desk), QByteArray("0\r\n"));
+        QCOMPARE(RowsOf(Window, List), QStringList());
+    }
+
+    void OfSeveralAProjectThatIsGoneIsAnUnknownErrorAndChangesNothing()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "3\r\n" + Boat + Lamp + Boat);
+        ClickRow(Window, List, 2);
+        desk.WriteFile(u"projects.txt"_s, "2\r\n" + Boat + Lamp);
+        Click(Window, u"cmdListProjects"_s);
         Click(Window, u"cmdDeleteProject"_s);
         QCOMPARE(desk.TakeMessage(), UnknownError);
-        QCOMPARE(File(desk), file);
-        QVERIFY(!desk.Ended);
+        QCOMPARE(File(desk), QByteArray("2\r\n" + Boat + Lamp));
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Boat"_s, u"Lamp"_s}));
     }
 
     void ADoubleClickAsksWhetherToPrintAndShowsTheProject_data()

@@ -191,7 +191,7 @@ private Q_SLOTS:
         TakeProject(u"Boat"_s, {40, 20});
         Show(Window);
         const QStringList before = GridRows(Window, GridName);
-        DeleteProject(1);
+        DeleteProject();
         LeaveAndComeBack();
         QCOMPARE(GridRows(Window, GridName), before);
         QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Boat"_s);

@@ -209,20 +209,24 @@ private Q_SLOTS:
         QCOMPARE(Creditors(), u"C3 D4 0"_s); // the count goes down by one only, so a blank record fills the end
     }
 
-    void NothingIsDeletedWithoutARow_data()
+    void OfSeveralNoneIsDeletedWithoutARow()
     {
-        QTest::addColumn<QList<int>>("dueDays");
-        QTest::newRow("of two") << QList<int>{5, 7};
-        QTest::newRow("the only one") << QList<int>{5};
-    }
-    void NothingIsDeletedWithoutARow()
-    {
-        QFETCH(QList<int>, dueDays);
         FakeDesk desk;
-        TakeCreditors(dueDays);
+        TakeCreditors({5, 7});
         const QString before = Creditors();
         QCOMPARE(ErrorOf([] { DeleteCreditor(0); }), int(RuntimeError::SubscriptOutOfRange));
+        QCOMPARE(ErrorOf([] { DeleteCreditor(3); }), int(RuntimeError::SubscriptOutOfRange));
         QCOMPARE(Creditors(), before);
+    }
+
+    void ASingleOneGoesAlsoWithoutARow()
+    {
+        FakeDesk desk;
+        TakeCreditors({5});
+        DeleteCreditor(0);
+        QCOMPARE(State.NumberOfCreditors, qint16(0));
+        QCOMPARE(State.Creditors.Size(), 1);
+        QCOMPARE(State.Creditors(1), CreditorRecord());
     }
 
     void AnEntryOfARegularItem_data()
@@ -276,12 +280,21 @@ private Q_SLOTS:
         QCOMPARE(int(State.NumberOfRegulars), int(items.size()) - 1);
     }
 
-    void NoRegularItemIsDeletedWithoutARow()
+    void OfSeveralRegularItemsNoneIsDeletedWithoutARow()
+    {
+        FakeDesk desk;
+        TakeRegulars({u"A"_s, u"B"_s});
+        QCOMPARE(ErrorOf([] { DeleteRegular(0); }), int(RuntimeError::SubscriptOutOfRange));
+        QCOMPARE(RegularItems(), u"A B"_s);
+    }
+
+    void ASingleRegularItemGoesAlsoWithoutARow()
     {
         FakeDesk desk;
         TakeRegulars({u"A"_s});
-        QCOMPARE(ErrorOf([] { DeleteRegular(0); }), int(RuntimeError::SubscriptOutOfRange));
-        QCOMPARE(RegularItems(), u"A"_s);
+        DeleteRegular(0);
+        QCOMPARE(State.NumberOfRegulars, qint16(0));
+        QCOMPARE(State.Regulars.Size(), 0);
     }
 };
 

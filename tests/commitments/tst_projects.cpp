@@ -191,7 +191,8 @@ private Q_SLOTS:
         QFETCH(int, secondCount);
         FakeDesk desk;
         TakeProjects();
-        DeleteProject(index);
+        Projects.SelectedProject = qint16(index);
+        DeleteProject();
         QCOMPARE(ProjectNames(), left);
         QCOMPARE(InstallmentsOf(1), QList<double>(firstCount, 1));
         QCOMPARE(InstallmentsOf(2), QList<double>(secondCount, 1));
@@ -203,7 +204,7 @@ private Q_SLOTS:
         FakeDesk desk;
         TakeForecast({1});
         AddProject(u"A"_s, Dollars(1));
-        DeleteProject(1);
+        DeleteProject(); // whatever is selected
         QCOMPARE(State.NumberOfProjects, qint16(0));
         QCOMPARE(State.ProjectNames.Size(), 0);
     }
@@ -212,7 +213,10 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         TakeProjects();
-        QCOMPARE(ErrorOf([] { DeleteProject(0); }), int(RuntimeError::SubscriptOutOfRange));
+        for (const int selected : {0, 4}) {
+            Projects.SelectedProject = qint16(selected);
+            QCOMPARE(ErrorOf([] { DeleteProject(); }), int(RuntimeError::SubscriptOutOfRange));
+        }
         QCOMPARE(ProjectNames(), u"A B C"_s);
     }
 
@@ -221,7 +225,8 @@ private Q_SLOTS:
         FakeDesk desk;
         TakeProjects();
         State.ProjectNames(2).clear();
-        DeleteProject(1);
+        Projects.SelectedProject = 1;
+        DeleteProject();
         QCOMPARE(ProjectNames(), u"C "_s);
     }
 

@@ -58,13 +58,16 @@ QJsonValue RunCommitmentsCase(const QJsonObject &input, const QJsonObject &, Rec
     if (kind == u"validate_creditor")
         return QJsonObject{
             {message, ToldRefusal(ValidateCreditorEntry({input[u"due_date_text"].toString(), amount, name}),
-                                  "Creditors", CreditorsHelp)}};
+                                  "Creditors", CreditorList.HelpContext)}};
     if (kind == u"validate_regular")
-        return QJsonObject{{message, ToldRefusal(ValidateRegularEntry({amount, name}), "Regulars", RegularsHelp)}};
+        return QJsonObject{
+            {message, ToldRefusal(ValidateRegularEntry({amount, name}), "Regulars", RegularList.HelpContext)}};
     if (kind == u"validate_extra")
-        return QJsonObject{{message, ToldRefusal(ValidateExtraEntry({amount, name}), "Extras", ExtrasHelp)}};
+        return QJsonObject{
+            {message, ToldRefusal(ValidateExtraEntry({amount, name}), "Extras", ExtraItemList.HelpContext)}};
     if (kind == u"validate_project")
-        return QJsonObject{{message, ToldRefusal(ValidateProjectEntry({name, amount}), "Projects", ProjectsHelp)}};
+        return QJsonObject{
+            {message, ToldRefusal(ValidateProjectEntry({name, amount}), "Projects", ProjectList.HelpContext)}};
     if (kind == u"credit_click")
         return QJsonObject{{QStringLiteral("amount_text"), AmountWithCredit(amount, input[u"checked"].toBool())}};
     if (kind == u"sort_creditors") {
@@ -89,7 +92,8 @@ QJsonValue RunCommitmentsCase(const QJsonObject &input, const QJsonObject &, Rec
         return QJsonObject{{list, ToldExtras()}};
     }
     if (kind == u"delete_project") {
-        DeleteProject(index);
+        Projects.SelectedProject = ToInteger(index);
+        DeleteProject();
         return QJsonObject{{list, ToldProjects()}};
     }
     return QStringLiteral("unknown kind ") + kind;
@@ -99,7 +103,6 @@ QJsonValue RunCommitmentsCase(const QJsonObject &input, const QJsonObject &, Rec
 QJsonValue RunProjectsCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk)
 {
     const QString file = QStringLiteral("projects.txt");
-    const QString title = QStringLiteral("Projects");
     TakeHousehold(input);
     HoldProjectDatesAsPlanned();
     Forecast = {};
@@ -114,22 +117,15 @@ QJsonValue RunProjectsCase(const QJsonObject &input, const QJsonObject &expected
                      {QStringLiteral("completion_date_text"), Forecast.ForecastDates(row)},
                      {QStringLiteral("message"), QJsonValue::Null}};
 
-    const ProjectPanel panel{input[u"project_name"].toString(), input[u"project_amount_text"].toString()};
+    QStringList panel{input[u"project_name"].toString(), input[u"project_amount_text"].toString(),
+                      Forecast.ForecastDates(row)};
     bool written = false;
-    if (const auto refusal = ValidateProjectEntry(panel)) {
-        ShowMessage(refusal->Text, title, Icon::Stop, Buttons::OkHelp, ProjectsHelp);
-    } else {
-        TrapUnknownError(title, [&] {
-            const Currency amount = ToCurrency(panel.Amount);
-            if (const auto shortage = ValidateProjectFunds(amount)) {
-                ShowMessage(*shortage, title, Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp);
-                return;
-            }
-            AddProject(panel.Project, amount);
-            SaveProjects();
-            written = true;
-        });
-    }
+    TrapUnknownError(ProjectList.Title, [&] {
+        const EntryOutcome outcome = ProjectList.Commit(panel, NewCaption, 0);
+        if (outcome.Objection)
+            TheDesk.ShowMessage(*outcome.Objection);
+        written = outcome.Saved;
+    });
     if (const QJsonArray messages = ToldMessages(desk); !messages.isEmpty())
         told[QStringLiteral("message")] = messages[0];
     InputProjects();
