@@ -10,6 +10,7 @@
 #include "commitments/frmRegulars.h"
 #include "commitments/frmViewProject.h"
 #include "foundation/Options.h"
+#include "foundation/WindowNames.h"
 #include "foundation/frmSplash.h"
 #include "mainwindow/frmEnvironmentSettings.h"
 #include "mainwindow/frmMain.h"
@@ -20,35 +21,35 @@
 
 namespace {
 
-template <class Window>
-void Declare(const char *name)
+template <class AWindow>
+void Register(const QString &name)
 {
-    TheWindows.Declare(QString::fromLatin1(name), [] { return new Window; });
+    TheWindows.Register(name, [] { return new AWindow; });
 }
 
 } // namespace
 
-void DeclareWindows()
+void RegisterWindows()
 {
-    Declare<frmSplash>("frmSplash");
-    Declare<frmMain>("frmMain");
-    Declare<frmSetCurrentPayPeriod>("frmSetCurrentPayPeriod");
-    Declare<frmEnvironmentSettings>("frmEnvironmentSettings");
-    Declare<frmSemiMonthlyPayInfo>("frmSemiMonthlyPayInfo");
-    Declare<frmMonthlyPaymentOption>("frmMonthlyPaymentOption");
-    Declare<frmBudget>("frmBudget");
-    Declare<frmMonthlyOverhead>("frmMonthlyOverhead");
-    Declare<frmSavingsForecast>("frmSavingsForecast");
-    Declare<frmScanPayPeriods>("frmScanPayPeriods");
-    Declare<frmCreditors>("frmCreditors");
-    Declare<frmRegulars>("frmRegulars");
-    Declare<frmExtras>("frmExtras");
-    Declare<frmProjects>("frmProjects");
-    Declare<frmViewProject>("frmViewProject");
+    Register<frmSplash>(WindowName::frmSplash);
+    Register<frmMain>(WindowName::frmMain);
+    Register<frmSetCurrentPayPeriod>(WindowName::frmSetCurrentPayPeriod);
+    Register<frmEnvironmentSettings>(WindowName::frmEnvironmentSettings);
+    Register<frmSemiMonthlyPayInfo>(WindowName::frmSemiMonthlyPayInfo);
+    Register<frmMonthlyPaymentOption>(WindowName::frmMonthlyPaymentOption);
+    Register<frmBudget>(WindowName::frmBudget);
+    Register<frmMonthlyOverhead>(WindowName::frmMonthlyOverhead);
+    Register<frmSavingsForecast>(WindowName::frmSavingsForecast);
+    Register<frmScanPayPeriods>(WindowName::frmScanPayPeriods);
+    Register<frmCreditors>(WindowName::frmCreditors);
+    Register<frmRegulars>(WindowName::frmRegulars);
+    Register<frmExtras>(WindowName::frmExtras);
+    Register<frmProjects>(WindowName::frmProjects);
+    Register<frmViewProject>(WindowName::frmViewProject);
 }
 
 QString FirstWindow()
 {
-    const QString welcome = QStringLiteral("frmWelcome");
-    return OptionValue(ShowWelcome) == 1 && TheWindows.Knows(welcome) ? welcome : QStringLiteral("frmSplash");
+    const bool welcome = OptionValue(ShowWelcome) == 1 && TheWindows.Knows(WindowName::frmWelcome);
+    return welcome ? WindowName::frmWelcome : WindowName::frmSplash;
 }

@@ -11,7 +11,7 @@ int main(int argc, char **argv)
     Application application(argc, argv);
     application.setWindowIcon(ThemedIcon(QStringLiteral("tallymere")));
     InstallRealDesk(QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
-    DeclareWindows();
+    RegisterWindows();
     // Within the loop, where an error that nobody traps has its one place.
     QTimer::singleShot(0, &application, [] { TheWindows.Show(FirstWindow()); });
     return application.exec();

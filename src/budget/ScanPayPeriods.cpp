@@ -3,7 +3,7 @@
 #include "foundation/BudgetFiles.h"
 #include "foundation/Calendar.h"
 #include "foundation/State.h"
-#include "foundation/UnknownError.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/values/Numbers.h"
 
 #include <algorithm>

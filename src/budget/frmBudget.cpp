@@ -39,7 +39,6 @@ frmBudget::~frmBudget() = default;
 
 void frmBudget::Load()
 {
-    WorkWindow::Load();
     ShowBudgetPage = [this](const BudgetPage &page) { ShowPage(page); };
     State.BudgetPeriodStart = State.CurrentPayPeriod;
 }
@@ -70,7 +69,6 @@ void frmBudget::Deactivate()
 
 void frmBudget::Unload()
 {
-    WorkWindow::Unload();
     ShowBudgetPage = nullptr;
     ui->pbPrintOff->setChecked(true); // pages that were printed are sent off and not lost with the window
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "budget/BudgetGenerator.h"
-#include "foundation/WorkWindow.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ namespace Ui {
 class frmBudget;
 }
 
-class frmBudget : public WorkWindow
+class frmBudget : public Form
 {
     Q_OBJECT
 public:

@@ -1,7 +1,7 @@
 // The window that tells what a month costs, compared with what a month brings in.
 #pragma once
 
-#include "foundation/WorkWindow.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ namespace Ui {
 class frmMonthlyOverhead;
 }
 
-class frmMonthlyOverhead : public WorkWindow
+class frmMonthlyOverhead : public Form
 {
     Q_OBJECT
 public:

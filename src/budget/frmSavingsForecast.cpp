@@ -34,7 +34,6 @@ frmSavingsForecast::~frmSavingsForecast() = default;
 
 void frmSavingsForecast::Load()
 {
-    WorkWindow::Load();
     // Set here alone: when the window comes back to the front, the forecast continues behind its last row.
     State.BudgetPeriodStart = State.CurrentPayPeriod;
 }
@@ -68,7 +67,6 @@ void frmSavingsForecast::Deactivate()
 
 void frmSavingsForecast::Unload()
 {
-    WorkWindow::Unload();
     State.ProjectDateFromForecast = false; // closed without a pick: a later look at the forecast picks nothing
     Deactivate();
 }

@@ -1,7 +1,7 @@
 // The window of the savings forecast: a row a pay period, and the pick of a project's completion date.
 #pragma once
 
-#include "foundation/WorkWindow.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ namespace Ui {
 class frmSavingsForecast;
 }
 
-class frmSavingsForecast : public WorkWindow
+class frmSavingsForecast : public Form
 {
     Q_OBJECT
 public:

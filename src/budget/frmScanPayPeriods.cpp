@@ -33,6 +33,5 @@ void frmScanPayPeriods::lstScanPayPeriods_Click()
 
 void frmScanPayPeriods::Unload()
 {
-    WorkWindow::Unload();
     State.ScanCalledFromExtras = false; // closed without a pick: a later look at the list adds nothing
 }

@@ -1,7 +1,7 @@
 // The window of the pay dates ahead: for looking only, or to pick the date of an extra pay period.
 #pragma once
 
-#include "foundation/WorkWindow.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ namespace Ui {
 class frmScanPayPeriods;
 }
 
-class frmScanPayPeriods : public WorkWindow
+class frmScanPayPeriods : public Form
 {
     Q_OBJECT
 public:

@@ -1,6 +1,6 @@
 #include "commitments/ListPanel.h"
 
-#include "foundation/UnknownError.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/controls/ListBox.h"
 #include "platform/windows/WindowRegister.h"
 

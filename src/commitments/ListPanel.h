@@ -4,13 +4,13 @@
 #pragma once
 
 #include "commitments/CommitmentList.h"
-#include "foundation/WorkWindow.h"
+#include "platform/windows/Form.h"
 
 class ListBox;
 class QLineEdit;
 class QPushButton;
 
-class ListPanel : public WorkWindow
+class ListPanel : public Form
 {
     Q_OBJECT
 public:

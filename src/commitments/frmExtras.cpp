@@ -27,13 +27,11 @@ frmExtras::~frmExtras() = default;
 
 void frmExtras::Load()
 {
-    WorkWindow::Load();
     ::FillPayPeriodList = [this] { TakePickedPayPeriod(); };
 }
 
 void frmExtras::Unload()
 {
-    WorkWindow::Unload();
     ::FillPayPeriodList = nullptr;
 }
 

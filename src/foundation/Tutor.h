@@ -1,12 +1,14 @@
-// The doors to the tutor for windows of every floor: its timer, which lives on the main window, and its pages.
+// The door to the tutor for windows of lower floors: whoever wants one of its pages emits PageWanted, and the tutor's
+// window, while it exists, shows the page.
 #pragma once
 
-#include <functional>
+#include <QObject>
 
-class QTimer;
-
-/// The timer tmrAutoTutor of the main window; null while there is no main window.
-QTimer *TutorTimer();
-
-/// Shows a page, 1 to 26, of State.TutorInstructions in the tutor's window. Empty while there is no such window.
-inline std::function<void(int)> ShowTutorPage;
+class TutorRequests : public QObject
+{
+    Q_OBJECT
+Q_SIGNALS:
+    /// `page` is a page, 1 to 26, of State.TutorInstructions.
+    void PageWanted(int page);
+};
+inline TutorRequests TheTutorRequests;

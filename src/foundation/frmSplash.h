@@ -1,23 +1,16 @@
 // The title of the program and the button that goes on to the main window.
 #pragma once
 
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
+#include "ui_frmSplash.h"
 
-#include <memory>
-
-namespace Ui {
-class frmSplash;
-}
-
-class frmSplash : public Form
+class frmSplash : public Window<Ui::frmSplash>
 {
-    Q_OBJECT
 public:
     frmSplash();
-    ~frmSplash() override;
     void Load() override;
+    bool ClosesOnEscape() const override { return false; } // that would end the program
 
 private:
     void cmdContinue_Click();
-    std::unique_ptr<Ui::frmSplash> ui;
 };

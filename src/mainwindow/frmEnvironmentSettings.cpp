@@ -1,7 +1,7 @@
 #include "mainwindow/frmEnvironmentSettings.h"
 
-#include "foundation/UnknownError.h"
 #include "platform/controls/OptionGroup.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmEnvironmentSettings.h"
 
@@ -30,7 +30,6 @@ frmEnvironmentSettings::~frmEnvironmentSettings() = default;
 
 void frmEnvironmentSettings::Load()
 {
-    WorkWindow::Load();
     ui->updForecastPeriods->SetMaximum(MostForecastPeriods);
     const QScopedValueRollback filling(loading, true);
     const EnvironmentEntry shown = ShownEnvironment();

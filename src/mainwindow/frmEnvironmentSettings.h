@@ -1,8 +1,8 @@
 // The settings of the household: forecast length, paycheck, pay frequency, sales tax and average net percentage.
 #pragma once
 
-#include "foundation/WorkWindow.h"
 #include "mainwindow/Settings.h"
+#include "platform/windows/Form.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class frmEnvironmentSettings;
 }
 class OptionGroup;
 
-class frmEnvironmentSettings : public WorkWindow
+class frmEnvironmentSettings : public Form
 {
     Q_OBJECT
 public:

@@ -282,8 +282,8 @@ void frmMain::Act(const MenuEntry &entry)
 void frmMain::ShowTutorPageIfRunning(int page)
 {
     // The timer is the test and not the check mark: a window that rests the timer keeps its own page standing.
-    if (page > 0 && tmrAutoTutor.isActive() && ShowTutorPage)
-        ShowTutorPage(page);
+    if (page > 0 && tmrAutoTutor.isActive())
+        Q_EMIT TheTutorRequests.PageWanted(page);
 }
 
 void frmMain::OpenWindowWithTutor(int tutorPage, const QString &window)
@@ -387,8 +387,7 @@ void frmMain::Timer1_Timer()
 void frmMain::tmrAutoTutor_Timer()
 {
     TutorPage = TutorPage >= LastTimedTutorPage ? 1 : qint16(TutorPage + 1);
-    if (ShowTutorPage)
-        ShowTutorPage(TutorPage);
+    Q_EMIT TheTutorRequests.PageWanted(TutorPage);
 }
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mainwindow/MainMenu.h"
+#include "mainwindow/TutorPause.h"
 #include "platform/windows/Form.h"
 
 #include <QHash>
@@ -71,5 +72,6 @@ private:
     QLabel *staMain3 = nullptr;
     QTimer Timer1;
     QTimer tmrAutoTutor;
+    TutorPause m_tutorPause{tmrAutoTutor};
     qint16 TutorPage = 0;
 };

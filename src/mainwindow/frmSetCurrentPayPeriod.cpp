@@ -1,8 +1,8 @@
 #include "mainwindow/frmSetCurrentPayPeriod.h"
 
 #include "foundation/State.h"
-#include "foundation/UnknownError.h"
 #include "platform/desk/Desk.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmSetCurrentPayPeriod.h"
 
@@ -21,7 +21,6 @@ frmSetCurrentPayPeriod::~frmSetCurrentPayPeriod() = default;
 
 void frmSetCurrentPayPeriod::Load()
 {
-    WorkWindow::Load();
     ui->txtCurrentPayPeriod->setText(FormatLongDate(State.CurrentPayPeriod));
     Timer1.start();
 }
@@ -76,6 +75,5 @@ bool frmSetCurrentPayPeriod::QueryUnload(CloseMode mode)
 
 void frmSetCurrentPayPeriod::Unload()
 {
-    WorkWindow::Unload();
     State.CurrentPayPeriodConfirmed = true;
 }

@@ -1,7 +1,7 @@
 // Asks which pay period to budget. The first question of every run.
 #pragma once
 
-#include "foundation/WorkWindow.h"
+#include "platform/windows/Form.h"
 
 #include <QTimer>
 #include <memory>
@@ -10,7 +10,7 @@ namespace Ui {
 class frmSetCurrentPayPeriod;
 }
 
-class frmSetCurrentPayPeriod : public WorkWindow
+class frmSetCurrentPayPeriod : public Form
 {
     Q_OBJECT
 public:

@@ -108,7 +108,7 @@ BENCHMARK(CalculationByCreditors)
 void ShowAndPaint(benchmark::State &benchmark, int creditors, int periods, bool again)
 {
     const RecordingDesk desk;
-    DeclareWindows();
+    RegisterWindows();
     const QString window = u"frmSavingsForecast"_s;
     const auto showAndPaint = [&] {
         TheWindows.Show(window);

@@ -222,7 +222,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         Click(Window, u"cmdBudget"_s);
         Click(Window, u"cmdBudget"_s); // period 2 comes next, and a credit is on its way
@@ -320,7 +320,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         Click(Window, u"pbPrintOn"_s);
         Click(Window, u"cmdBudget"_s);

@@ -147,7 +147,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold(3000);
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         Show(u"frmOther"_s);
         State.Creditors(1).CreditorAmount = Currency::FromDouble(500);
@@ -188,7 +188,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(u"frmBudget"_s);
         Show(Window);
         State.BudgetCredit = Currency::FromDouble(5);
@@ -206,7 +206,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         QVERIFY(!TheWindows.Loaded(u"frmBudget"_s));
         Show(u"frmOther"_s);

@@ -167,7 +167,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold(2, {400, 400, 700});
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         Show(u"frmOther"_s);
         Show(Window);
@@ -186,7 +186,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold(2, {0, 0, 1100, 1100});
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         QCOMPARE(Rows(), (QStringList{u"1 | January 1, 2004 | $1,000.00 | $1,000.00"_s,
                                       u"2 | January 15, 2004 | $450.00 | $1,450.00"_s}));
@@ -213,7 +213,7 @@ private Q_SLOTS:
         // First both rows are red in both columns. Then comes a sound row, and in place of a red one a row of red
         // savings with a total that is still positive.
         TakeHousehold(2, {1100, 1100, 0, 0, 3500});
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         QCOMPARE(TheGrid().Colour(1, 3), GridColour::LightRed);
         Show(u"frmOther"_s);
@@ -399,7 +399,7 @@ private Q_SLOTS:
         QFETCH(bool, unload);
         GuiDesk desk;
         TakeHousehold(2);
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(u"frmOther"_s);
         Show(Window);
         State.LookingAhead = true;

@@ -61,7 +61,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         Show(u"frmOther"_s);
         State.PayFrequency = Weekly;
@@ -195,7 +195,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(u"frmOther"_s);
         OpenForExtras();
         TheWindows.Unload(u"frmExtras"_s);
@@ -277,7 +277,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TakeHousehold();
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(Window);
         ClickRow(Window, List, 3);
         QCOMPARE(Find<ListBox>(Window, List).ListIndex(), 3);

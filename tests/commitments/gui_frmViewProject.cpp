@@ -34,7 +34,7 @@ void TakeProject(const QString &name, const QList<double> &installments)
 void LeaveAndComeBack()
 {
     if (!TheWindows.Knows(u"frmOther"_s))
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
     Show(u"frmOther"_s);
     Show(Window);
 }

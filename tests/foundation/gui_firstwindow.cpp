@@ -64,7 +64,7 @@ private Q_SLOTS:
         QFETCH(QString, option);
         QFETCH(double, value);
         GuiDesk desk;
-        TheWindows.Declare(u"frmWelcome"_s, [] { return new Toy; });
+        TheWindows.Register(u"frmWelcome"_s, [] { return new Toy; });
         if (!option.isNull())
             desk.Options[u"show welcome at startup"_s] = option;
         QCOMPARE(FirstWindow(), value == 1 ? u"frmWelcome"_s : u"frmSplash"_s);

@@ -33,10 +33,10 @@ public:
 void DeclareToys()
 {
     TipToy::Shown = 0;
-    TheWindows.Declare(u"frmTip"_s, [] { return new TipToy; });
-    TheWindows.Declare(u"frmWelcome"_s, [] { return new Toy; });
-    TheWindows.Declare(u"frmHowDoI"_s, [] { return new Toy; });
-    TheWindows.Declare(u"frmGettingStarted"_s, [] { return new Toy; });
+    TheWindows.Register(u"frmTip"_s, [] { return new TipToy; });
+    TheWindows.Register(u"frmWelcome"_s, [] { return new Toy; });
+    TheWindows.Register(u"frmHowDoI"_s, [] { return new Toy; });
+    TheWindows.Register(u"frmGettingStarted"_s, [] { return new Toy; });
     State.CurrentPayPeriodConfirmed = true; // the question is the main window's matter
 }
 

@@ -265,7 +265,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("filled");
         QTest::addColumn<bool>("dark");
         QTest::addColumn<double>("fontSize");
-        DeclareWindows();
+        RegisterWindows();
         const QStringList windows = TheWindows.Names();
         TheWindows.Reset();
         QVERIFY(windows.contains(u"frmMain"_s));

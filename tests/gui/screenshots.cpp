@@ -52,7 +52,7 @@ bool TakePicture(const QString &window, Household household, bool dark, const QS
 {
     RecordingDesk desk;
     desk.Now = TimeOfPictures;
-    DeclareWindows();
+    RegisterWindows();
     desk.Options[u"show tallymere tutor"_s] = u"0"_s;
     LayHouseholdOf(desk, household);
     if (!ShowAtWork(window, household)) {
@@ -85,7 +85,7 @@ int main(int argc, char **argv)
     }
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    DeclareWindows();
+    RegisterWindows();
     const QStringList windows = TheWindows.Names();
     TheWindows.Reset();
     int missing = 0;

@@ -2,7 +2,6 @@
 #include "GuiDesk.h"
 #include "TestProgram.h"
 
-#include "foundation/Tutor.h"
 #include "mainwindow/UpDown.h"
 
 #include <QRadioButton>
@@ -298,7 +297,7 @@ private Q_SLOTS:
         GuiDesk desk;
         const QString wages = u"frmCalculateWages"_s;
         if (!TheWindows.Knows(wages)) // the frequency needs no more of it than its title
-            TheWindows.Declare(wages, [] { return new Form; });
+            TheWindows.Register(wages, [] { return new Form; });
         TakeHousehold();
         State.PayFrequency = qint16(before);
         State.CurrentPayPeriod = u"May 24, 1997"_s;
@@ -608,15 +607,16 @@ private Q_SLOTS:
         GuiDesk desk;
         desk.Options[u"show tallymere tutor"_s] = u"5"_s; // the main window leaves the timer as it is
         desk.StartProgram();
-        TutorTimer()->start();
+        auto &tutorTimer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
+        tutorTimer.start();
         Show(Window);
-        QVERIFY(!TutorTimer()->isActive());
+        QVERIFY(!tutorTimer.isActive());
         Click(Window, u"cmdExit"_s);
-        QVERIFY(TutorTimer()->isActive());
-        TutorTimer()->stop();
+        QVERIFY(tutorTimer.isActive());
+        tutorTimer.stop();
         Show(Window);
         CloseByFrame(Window);
-        QVERIFY(!TutorTimer()->isActive());
+        QVERIFY(!tutorTimer.isActive());
     }
 
     void OpeningAStoreListWritesItsNameHere()

@@ -3,7 +3,6 @@
 #include "TestProgram.h"
 
 #include "foundation/Tutor.h"
-#include "foundation/WorkWindow.h"
 #include "mainwindow/frmMain.h"
 
 #include <QMenu>
@@ -161,16 +160,12 @@ QString Text(const char *text)
     return QString::fromLatin1(text);
 }
 
-/// Stands in for a window of another folder. It lets the tutor's timer run.
+/// Stands in for a window of another folder.
 class Toy : public Form
 {
 public:
     void Unload() override { ++Unloads; }
     inline static int Unloads = 0;
-};
-
-class WorkingToy : public WorkWindow
-{
 };
 
 /// The settings window with the one field that the main window writes.
@@ -193,7 +188,7 @@ public:
 template <class Window>
 void DeclareToy(const QString &name)
 {
-    TheWindows.Declare(name, [] { return new Window; });
+    TheWindows.Register(name, [] { return new Window; });
 }
 
 /// Toys under the names of all windows that the menus open.
@@ -211,20 +206,17 @@ class TutorPages
 public:
     TutorPages()
     {
-        ShowTutorPage = [this](int page) {
+        QObject::connect(&TheTutorRequests, &TutorRequests::PageWanted, &m_context, [this](int page) {
             Pages += page;
             ActiveThen = ActiveWindow();
-        };
+        });
     }
-    ~TutorPages() { ShowTutorPage = m_before; }
-    TutorPages(const TutorPages &) = delete;
-    TutorPages &operator=(const TutorPages &) = delete;
 
     QList<int> Pages;
     QString ActiveThen; ///< the window that was active when the last page was asked for
 
 private:
-    std::function<void(int)> m_before = ShowTutorPage;
+    QObject m_context;
 };
 
 /// Answers the modal question for the pay period as soon as it stands there, each time.
@@ -776,7 +768,6 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         DeclareToys();
-        DeclareToy<WorkingToy>(u"frmCreditors"_s);
         desk.StartProgram();
         TutorPages tutor;
         Choose(u"mnuFileCreditors"_s);
@@ -791,7 +782,6 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         DeclareToys();
-        DeclareToy<WorkingToy>(u"frmCreditors"_s);
         desk.StartProgram();
         Choose(u"mnuFileCreditors"_s);
         QVERIFY(!TheTutorTimer().isActive());

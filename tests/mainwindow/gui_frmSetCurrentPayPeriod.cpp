@@ -3,6 +3,7 @@
 #include "TestProgram.h"
 
 #include "foundation/Calendar.h"
+#include "mainwindow/TutorPause.h"
 
 #include <QTimer>
 
@@ -18,10 +19,14 @@ class MainToy : public Form
 public:
     MainToy()
     {
-        auto *timer = new QTimer(this);
-        timer->setObjectName(u"tmrAutoTutor"_s);
-        timer->setInterval(10000);
+        m_timer.setParent(this);
+        m_timer.setObjectName(u"tmrAutoTutor"_s);
+        m_timer.setInterval(10000);
     }
+
+private:
+    QTimer m_timer;
+    TutorPause m_pause{m_timer};
 };
 
 /// Enter, the button or the close box.
@@ -205,7 +210,7 @@ private Q_SLOTS:
         QFETCH(int, way);
         QFETCH(bool, runs);
         GuiDesk desk;
-        TheWindows.Declare(u"frmMain"_s, [] { return new MainToy; });
+        TheWindows.Register(u"frmMain"_s, [] { return new MainToy; });
         Show(u"frmMain"_s);
         auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
         if (runs)

@@ -105,8 +105,8 @@ public:
     {
         Clear();
         for (const char *name : {"A", "B", "C", "D"})
-            TheWindows.Declare(QString::fromLatin1(name), [] { return new ToyWindow; });
-        TheWindows.Declare(QStringLiteral("T"), [] { return new ToyWindow(false); });
+            TheWindows.Register(QString::fromLatin1(name), [] { return new ToyWindow; });
+        TheWindows.Register(QStringLiteral("T"), [] { return new ToyWindow(false); });
         TheDesk.Hourglass = [](bool) {};
         TheDesk.EndProgram = [] { Tell(QStringLiteral("the program ends")); };
     }

@@ -9,7 +9,7 @@
 GuiDesk::GuiDesk()
 {
     LayHousehold();
-    DeclareWindows();
+    RegisterWindows();
 }
 
 GuiDesk::~GuiDesk()

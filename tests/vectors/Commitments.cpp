@@ -8,7 +8,7 @@
 #include "commitments/Projects.h"
 #include "commitments/Regulars.h"
 #include "foundation/BudgetFiles.h"
-#include "foundation/UnknownError.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 

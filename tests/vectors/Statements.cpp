@@ -76,7 +76,7 @@ QJsonValue RunOverheadCase(const QJsonObject &input, const QJsonObject &expected
     PrintOverhead();
 
     // The grid is read off the window itself, as many rows as the case tells.
-    DeclareWindows();
+    RegisterWindows();
     TheWindows.Show(QStringLiteral("frmMonthlyOverhead"));
     const auto &shown = TheWindows.ControlOf<Grid>(QStringLiteral("frmMonthlyOverhead"), QStringLiteral("grdOverhead"));
     QJsonArray grid;

@@ -44,7 +44,7 @@ void Form::LostFocus(QWidget *control)
 
 void Form::FocusOn(QWidget *control)
 {
-    TheKeeper->MoveFocus(this, control);
+    TheFormHost->MoveFocus(this, control);
 }
 
 QWidget *Form::FocusControl() const
@@ -132,8 +132,8 @@ void Form::GiveLinesTheirHeight()
 
 void Form::closeEvent(QCloseEvent *event)
 {
-    if (!TheKeeper->Keeps(this)) // ended already
+    if (!TheFormHost->Keeps(this)) // ended already
         return;
     event->ignore(); // the register hides and ends the window itself
-    TheKeeper->CloseByFrame(this);
+    TheFormHost->CloseByFrame(this);
 }

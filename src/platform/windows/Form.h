@@ -1,5 +1,5 @@
-// A window of the program. Its life and its activation are told by the register (WindowRegister.h), synchronously and
-// in order; a window overrides what the register calls and never the toolkit's own activation events.
+// A window of the program. The register (WindowRegister.h) raises the events of its life and its activation,
+// synchronously and in order; a window overrides what the register calls and never the toolkit's own activation events.
 #pragma once
 
 #include <QHash>
@@ -12,16 +12,16 @@ class QLineEdit;
 
 class Form;
 
-/// Who keeps the windows: what a window asks of the register, which knows windows and is not known to them.
-class FormKeeper
+/// What a window asks of the register, which includes this header.
+class FormHost
 {
 public:
-    virtual ~FormKeeper() = default;
+    virtual ~FormHost() = default;
     virtual bool Keeps(const Form *form) const = 0; ///< false once the window has ended
     virtual void MoveFocus(Form *form, QWidget *control) = 0;
     virtual void CloseByFrame(Form *form) = 0;
 };
-inline FormKeeper *TheKeeper = nullptr;
+inline FormHost *TheFormHost = nullptr;
 
 class Form : public QWidget
 {

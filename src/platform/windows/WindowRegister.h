@@ -1,4 +1,4 @@
-// The register of the program's windows: single instances, found by name, with a life that this register tells.
+// The register of the program's windows: single instances, found by name. It raises the events of their life.
 //
 // The toolkit's activation events do not serve: there the new window is activated before the old one is deactivated,
 // message boxes deactivate, and an X server may activate a third window in between. So showing, hiding, unloading and
@@ -7,6 +7,7 @@
 // back raises nothing; neither do message boxes, dialogs, menus and popups.
 #pragma once
 
+#include "platform/values/RuntimeError.h"
 #include "platform/windows/Form.h"
 
 #include <QDeadlineTimer>
@@ -17,30 +18,31 @@ class QEventLoop;
 class QKeyEvent;
 class QShortcutEvent;
 
-class WindowRegister : public QObject, public FormKeeper
+class WindowRegister : public QObject, public FormHost
 {
     Q_OBJECT
 public:
-    WindowRegister() { TheKeeper = this; }
+    WindowRegister() { TheFormHost = this; }
 
     using Factory = std::function<Form *()>;
 
     /// Makes a window known. It comes into being at its first need.
-    void Declare(const QString &name, const Factory &factory);
+    void Register(const QString &name, const Factory &factory);
     bool Knows(const QString &name) const { return m_factories.contains(name); }
-    /// The names of all declared windows, in alphabetical order.
+    /// The names of all registered windows, in alphabetical order.
     QStringList Names() const;
 
     /// The window if it is loaded, else null.
     Form *Loaded(const QString &name) const { return m_loaded.value(name); }
     /// The window, loaded unseen where it is not loaded yet.
     Form &Touch(const QString &name);
-    /// A control of a window, which is touched by that.
+    /// A control of a window, which is touched by that. Raises error 5 where the window has no such control.
     template <class Control>
     Control &ControlOf(const QString &window, const QString &control)
     {
         auto *found = Touch(window).findChild<Control *>(control);
-        Q_ASSERT_X(found, "ControlOf", qPrintable(window + QLatin1Char('.') + control));
+        if (!found)
+            RaiseError(RuntimeError::InvalidProcedureCall);
         return *found;
     }
 
@@ -57,11 +59,11 @@ public:
     Form *Front() const;
     bool AnyVisible() const;
 
-    /// Runs something that is no window of the program, such as a message box: while it lasts and when it ends,
-    /// nothing counts as a move between windows.
+    /// Runs something that is no window of the program, such as a message box: neither its showing nor its end is a
+    /// move between windows.
     void WhileAway(const std::function<void()> &outside);
 
-    /// Ends all instances without a word and forgets all windows; for tests.
+    /// Ends all instances without any event and forgets all windows; for tests.
     void Reset();
 
     bool Keeps(const Form *form) const override { return Loaded(form->objectName()) == form; }
@@ -70,6 +72,11 @@ public:
     /// Watches the application. Called once, when the application object exists.
     void Start();
 
+Q_SIGNALS:
+    /// A window comes into being; its Load follows. And it ends; its Unload follows.
+    void WindowLoads(const QString &name);
+    void WindowUnloads(const QString &name);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -77,6 +84,10 @@ private:
     class Busy;
     friend class Busy;
 
+    // An X server needs a moment to activate what it was asked to; after that a late answer counts as the user's own.
+    static constexpr int ActivationTime = 700; // milliseconds
+
+    static Form *FormOf(QWidget *widget);
     void Present(Form &form);
     void MakeActive(Form *form, bool byUser);
     void Leave(Form *form);
@@ -87,9 +98,9 @@ private:
     void WindowActivated(Form *form);
     void FocusMoved(QWidget *now);
     void PutAway(Form *form, bool wasActive);
-    void Bury(Form *form);
-    void BuryTheRest();
-    void EndWhenLastIsGone();
+    void End(Form *form);
+    void DeleteEnded();
+    void EndWhenLastWindowIsGone();
     void LeaveModal(Form *form);
     void Pressed(QWidget *widget);
     bool KeyPressed(QObject *watched, const QKeyEvent &event);
@@ -106,13 +117,13 @@ private:
     QList<Modal> m_modals;
     QList<Form *> m_ended; // unloaded, but a handler below may still stand in them
     QPointer<Form> m_active;
-    QPointer<Form> m_arriving;   // its Activate runs, its got-focus is still to come
-    QPointer<QWidget> m_told;    // the control that was told last that it has the focus
-    QPointer<QWidget> m_clicked; // the field that a press of the mouse has just moved the focus to
-    QPointer<Form> m_expected;   // the window that the toolkit was asked to activate
-    QDeadlineTimer m_patience;   // for so long another one is no choice of the user's
-    int m_away = 0;              // inside WhileAway
-    int m_transition = 0;        // inside a showing or a load
+    QPointer<Form> m_arriving;      // its Activate runs, its got-focus is still to come
+    QPointer<QWidget> m_notified;   // the control that was notified last that it has the focus
+    QPointer<QWidget> m_clicked;    // the field that a press of the mouse has just moved the focus to
+    QPointer<Form> m_expected;      // the window that the toolkit was asked to activate
+    QDeadlineTimer m_expectedUntil; // until then the activation of another one is not the user's choice
+    int m_away = 0;                 // inside WhileAway
+    int m_transition = 0;           // inside a showing or a load
     bool m_movingFocus = false;
     bool m_endAsked = false; // whether the last window is gone will be looked at
     bool m_endWaits = false; // the last window was gone while something was under way

@@ -1,9 +1,9 @@
-#include "foundation/UnknownError.h"
+#include "platform/desk/UnknownError.h"
 
 #include "platform/desk/Desk.h"
 #include "platform/values/RuntimeError.h"
 
-void TellUnknownError(const QString &title)
+void ShowUnknownError(const QString &title)
 {
     ShowMessage(QStringLiteral(
                     "An unknown error occured. This may be due to an invalid entry. If you need help press F1 for "
@@ -14,5 +14,5 @@ void TellUnknownError(const QString &title)
 
 void TrapUnknownError(const QString &title, const std::function<void()> &steps)
 {
-    ResumeNext(steps, [&](const RuntimeError &) { TellUnknownError(title); });
+    ResumeNext(steps, [&](const RuntimeError &) { ShowUnknownError(title); });
 }

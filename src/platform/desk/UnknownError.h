@@ -9,4 +9,4 @@
 void TrapUnknownError(const QString &title, const std::function<void()> &steps);
 
 /// The box itself.
-void TellUnknownError(const QString &title);
+void ShowUnknownError(const QString &title);

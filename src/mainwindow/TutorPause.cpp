@@ -1,0 +1,58 @@
+#include "mainwindow/TutorPause.h"
+
+#include "foundation/WindowNames.h"
+#include "platform/windows/WindowRegister.h"
+
+namespace {
+const QSet<QString> &PausingWindows()
+{
+    using namespace WindowName;
+    static const QSet<QString> windows{
+        frmAbout,
+        frmAverageNetPercentage,
+        frmBudget,
+        frmCalculateWages,
+        frmCreditors,
+        frmCurrentShoppingList,
+        frmEnvironmentSettings,
+        frmExtras,
+        frmGettingStarted,
+        frmHowDoI,
+        frmInput,
+        frmInterestRateCalculator,
+        frmMasterShoppingList,
+        frmMonthlyOverhead,
+        frmPayOff,
+        frmPaymentCalculator,
+        frmPrinter,
+        frmProjects,
+        frmRegulars,
+        frmSavings,
+        frmSavingsForecast,
+        frmScanPayPeriods,
+        frmSetCurrentPayPeriod,
+    };
+    return windows;
+}
+} // namespace
+
+TutorPause::TutorPause(QTimer &timer) : m_timer(timer)
+{
+    connect(&TheWindows, &WindowRegister::WindowLoads, this, &TutorPause::Pause);
+    connect(&TheWindows, &WindowRegister::WindowUnloads, this, &TutorPause::Resume);
+}
+
+void TutorPause::Pause(const QString &window)
+{
+    if (!PausingWindows().contains(window) || !m_timer.isActive())
+        return;
+    RememberedTutorTimer.insert(window);
+    m_timer.stop();
+}
+
+void TutorPause::Resume(const QString &window)
+{
+    // A timer that the main window has started meanwhile runs on: a restart would hold its next page back.
+    if (RememberedTutorTimer.remove(window) && !m_timer.isActive())
+        m_timer.start();
+}

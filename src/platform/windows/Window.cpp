@@ -1,0 +1,73 @@
+#include "platform/windows/Window.h"
+
+#include "platform/desk/UnknownError.h"
+#include "platform/values/Numbers.h"
+#include "platform/windows/WindowRegister.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+
+bool Numeric(const QString &text)
+{
+    return IsNumeric(text);
+}
+
+bool NotEmpty(const QString &text)
+{
+    return !text.isEmpty();
+}
+
+void WindowBase::Activate()
+{
+    if (m_start)
+        FocusOn(m_start);
+}
+
+void WindowBase::OnClick(QAbstractButton *button, const std::function<void()> &handler)
+{
+    connect(button, &QAbstractButton::clicked, this, [handler] { handler(); });
+}
+
+void WindowBase::OnClickTrapped(QAbstractButton *button, const std::function<void()> &handler)
+{
+    OnClick(button, [this, handler] { Trap(handler); });
+}
+
+void WindowBase::UnloadOn(QAbstractButton *button)
+{
+    OnClick(button, [this] { Close(); });
+}
+
+void WindowBase::Trap(const std::function<void()> &steps)
+{
+    TrapUnknownError(m_look.Title, steps);
+}
+
+void WindowBase::ShowText(const QString &text) const
+{
+    ShowMessage(text, m_look.Title, m_look.TheIcon, m_look.TheButtons,
+                m_look.TheButtons == Buttons::OkHelp ? m_look.HelpContext : 0);
+}
+
+void WindowBase::Refuse(const QString &text, QWidget *field)
+{
+    ShowText(text);
+    // A window that is refused while another one is active comes to the front, or the user would not see the field.
+    if (TheWindows.Active() != this && isVisible())
+        TheWindows.Show(objectName());
+    FocusOn(field);
+}
+
+void WindowBase::Close()
+{
+    TheWindows.Unload(objectName());
+}
+
+void WindowBase::keyPressEvent(QKeyEvent *event)
+{
+    // The key comes here when no control has a use of its own for it.
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier && ClosesOnEscape() && !isModal())
+        close();
+    else
+        Form::keyPressEvent(event);
+}

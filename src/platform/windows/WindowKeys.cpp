@@ -1,0 +1,88 @@
+// What the user's keys and clicks mean in every window.
+#include "platform/windows/WindowRegister.h"
+
+#include "platform/desk/Desk.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcutEvent>
+
+void WindowRegister::Start()
+{
+    qApp->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { FocusMoved(now); });
+}
+
+bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::WindowActivate:
+        if (auto *form = qobject_cast<Form *>(watched))
+            WindowActivated(form);
+        break;
+    case QEvent::FocusIn:
+        if (watched->isWidgetType()) // styles hear of it, too
+            m_clicked = static_cast<QFocusEvent *>(event)->reason() == Qt::MouseFocusReason
+                            ? qobject_cast<QLineEdit *>(watched)
+                            : nullptr;
+        break;
+    case QEvent::MouseButtonPress:
+        if (event->spontaneous())
+            Pressed(qobject_cast<QWidget *>(watched));
+        break;
+    case QEvent::MouseButtonRelease:
+        // The press has set the caret in a field that was selected as a whole when it got the focus.
+        if (auto *field = qobject_cast<QLineEdit *>(watched); field && m_clicked == field && FormOf(field)) {
+            if (!field->hasSelectedText())
+                field->selectAll();
+            m_clicked = nullptr;
+        }
+        break;
+    case QEvent::Shortcut:
+        if (AccessKey(watched, *static_cast<QShortcutEvent *>(event)))
+            return true;
+        break;
+    case QEvent::KeyPress:
+        if (KeyPressed(watched, *static_cast<QKeyEvent *>(event)))
+            return true;
+        break;
+    default: break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// An access key moves the focus before it clicks.
+bool WindowRegister::AccessKey(QObject *watched, const QShortcutEvent &event)
+{
+    const QPointer<QAbstractButton> button = qobject_cast<QAbstractButton *>(watched);
+    Form *form = FormOf(button);
+    if (!form || !button->isEnabled() || event.isAmbiguous())
+        return false;
+    if (button->focusPolicy() != Qt::NoFocus)
+        MoveFocus(form, button);
+    if (button)
+        button->click();
+    return true;
+}
+
+bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
+{
+    Form *form = FormOf(qobject_cast<QWidget *>(watched));
+    if (!form)
+        return false;
+    if (event.key() == Qt::Key_F1) {
+        TheDesk.ShowHelp({QString(), form->HelpContext()});
+        return true;
+    }
+    if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
+        return false;
+    if (form->HandleEnter(watched) || qobject_cast<QLineEdit *>(watched)) // in a field it never presses a button
+        return true;
+    auto *button = qobject_cast<QPushButton *>(watched);
+    if (button && !event.isAutoRepeat()) // a key held down is one click
+        button->click();
+    return button;
+}
