@@ -1,0 +1,31 @@
+// The fields of a window that other windows fill or read. Asking for one loads its window unseen where it is not
+// loaded.
+#pragma once
+
+#include "foundation/WindowNames.h"
+#include "platform/windows/WindowRegister.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace WindowField {
+/// The day above the question for the pay period.
+inline QLabel &Today()
+{
+    return TheWindows.ControlOf<QLabel>(WindowName::frmSetCurrentPayPeriod, QStringLiteral("lblDate"));
+}
+inline QLineEdit &CurrentPayPeriod()
+{
+    return TheWindows.ControlOf<QLineEdit>(WindowName::frmSetCurrentPayPeriod, QStringLiteral("txtCurrentPayPeriod"));
+}
+/// The name of the open store list in the settings.
+inline QLineEdit &StoreFile()
+{
+    return TheWindows.ControlOf<QLineEdit>(WindowName::frmEnvironmentSettings, QStringLiteral("txtStoreFile"));
+}
+/// The completion date of the project that is being planned.
+inline QLineEdit &ProjectCompletionDate()
+{
+    return TheWindows.ControlOf<QLineEdit>(WindowName::frmProjects, QStringLiteral("txtProjectCompletionDate"));
+}
+} // namespace WindowField
