@@ -113,6 +113,7 @@ void LevelDeficitAhead(Run &run)
 void PrintBudgetPage(const BudgetPage &page, bool headingAndResult)
 {
     ApplyPrintSettings();
+    ThePrinter.DocumentName = QStringLiteral("Budget");
     ThePrinter.CentredLine(QString::fromLatin1(ReportTitle));
     ThePrinter.NewLine();
     if (headingAndResult) {

@@ -51,7 +51,7 @@ OverheadStatement CalculateOverhead()
 void PrintOverhead()
 {
     const OverheadStatement statement = CalculateOverhead();
-    PrintReportTitle(QStringLiteral("OVERHEAD"));
+    PrintReportTitle(QStringLiteral("OVERHEAD"), QStringLiteral("Overhead"));
     ThePrinter.AmountLine(QStringLiteral("Monthly Net Income"), FormatCurrency(statement.MonthlyNetIncome));
     ThePrinter.RuleLine();
     ThePrinter.NewLine();

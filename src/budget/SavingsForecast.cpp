@@ -3,6 +3,7 @@
 #include "budget/BudgetGenerator.h"
 #include "foundation/State.h"
 #include "platform/desk/Desk.h"
+#include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
@@ -20,7 +21,7 @@ void ForecastSavings()
     }
     TheDesk.Hourglass(false); // the long part is done
     if (State.PrintSavingsForecast) {
-        PrintReportTitle(QStringLiteral("SAVINGS FORECAST"));
+        PrintReportTitle(QStringLiteral("SAVINGS FORECAST"), QStringLiteral("Savings Forecast"));
         PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Savings"), QStringLiteral("Accumulated"),
                         ForecastRows());
     }

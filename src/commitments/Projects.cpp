@@ -2,6 +2,7 @@
 
 #include "budget/SavingsForecast.h"
 #include "foundation/BudgetFiles.h"
+#include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
@@ -159,7 +160,7 @@ std::vector<DatedRow> ProjectRows(int project)
 
 void PrintProject(int project)
 {
-    PrintReportTitle(State.ProjectNames(project));
+    PrintReportTitle(State.ProjectNames(project), State.ProjectNames(project));
     PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated"),
                     ProjectRows(project));
     ThePrinter.EndDoc();

@@ -2,12 +2,13 @@
 
 #include "foundation/StartAndEnd.h"
 
-void PrintReportTitle(const QString &name)
+void PrintReportTitle(const QString &heading, const QString &documentName)
 {
     ApplyPrintSettings();
+    ThePrinter.DocumentName = documentName;
     ThePrinter.CentredLine(QString::fromLatin1(ReportTitle));
     ThePrinter.NewLine();
-    ThePrinter.CentredLine(name);
+    ThePrinter.CentredLine(heading);
     ThePrinter.NewLine();
 }
 

@@ -6,9 +6,9 @@
 
 inline const char *const ReportTitle = "The Corvelle's Tallymere 1.0";
 
-/// Applies the print settings and prints the title and the report's own name, each centred and followed by an empty
-/// line.
-void PrintReportTitle(const QString &name);
+/// Applies the print settings and prints the title and the report's own heading, each centred and followed by an empty
+/// line. The document is called by `documentName`, since headings stand in capitals.
+void PrintReportTitle(const QString &heading, const QString &documentName);
 
 /// A row of a date and two amounts; an amount whose number is below 0 stands in red on the screen.
 struct DatedRow {

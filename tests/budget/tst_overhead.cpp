@@ -162,6 +162,7 @@ private Q_SLOTS:
         PrintOverhead();
         QCOMPARE(desk.Printed.size(), 1);
         QCOMPARE(desk.Printed[0].Font.Name, u"Courier"_s);
+        QCOMPARE(desk.Printed[0].Name, u"Overhead"_s);
         QCOMPARE(desk.Printed[0].Lines,
                  (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
                               {},

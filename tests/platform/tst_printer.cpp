@@ -168,6 +168,19 @@ private Q_SLOTS:
         QCOMPARE(m_printed[0].Font.Size, 8.0F);
         QVERIFY(m_printed[1].Font == ThePrinter.Font);
     }
+
+    void ANameIsOfOneDocument()
+    {
+        ThePrinter.DocumentName = QStringLiteral("Budget");
+        ThePrinter.EndDoc(); // nothing is printed yet
+        ThePrinter.Print(QStringLiteral("x"));
+        ThePrinter.EndDoc();
+        ThePrinter.Print(QStringLiteral("y"));
+        ThePrinter.EndDoc();
+        QCOMPARE(m_printed.size(), 2);
+        QCOMPARE(m_printed[0].Name, QStringLiteral("Budget"));
+        QCOMPARE(m_printed[1].Name, QString());
+    }
 };
 
 REGISTER_TEST(TestPrinter)

@@ -4,6 +4,7 @@
 
 #include "foundation/State.h"
 #include "platform/desk/Desk.h"
+#include "platform/desk/Printer.h"
 
 #include <QMap>
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 // This header needs no window.
 #pragma once
 
-#include "platform/desk/Printer.h"
+#include "platform/desk/PrintJob.h"
 
 #include <QDateTime>
 #include <QString>

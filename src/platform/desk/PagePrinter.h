@@ -1,7 +1,7 @@
 // Documents on paper: through the installed printer, or as PDF where there is none.
 #pragma once
 
-#include "platform/desk/Printer.h"
+#include "platform/desk/PrintJob.h"
 
 class QPagedPaintDevice;
 class QPainter;

@@ -3,6 +3,8 @@
 #include "platform/desk/Desk.h"
 #include "platform/values/Numbers.h"
 
+#include <utility>
+
 Printer &Printer::Tab(int column)
 {
     const auto blanks = qMax(column, 1) - 1;
@@ -54,7 +56,7 @@ void Printer::EndDoc()
     m_line.clear(); // a column that was only moved to is no line
     if (!m_started)
         return;
-    const PrintJob job{m_startFont, m_lines};
+    const PrintJob job{m_startFont, m_lines, std::exchange(DocumentName, {})};
     m_lines.clear();
     m_started = false;
     TheDesk.PrintDocument(job);

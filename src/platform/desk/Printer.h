@@ -1,31 +1,14 @@
 // The printed page as lines of text with columns. Fonts are set before printing; EndDoc sends the document off.
 #pragma once
 
-#include <QString>
-#include <QStringList>
-
-struct PrintFont {
-    QString Name;
-    float Size = 0;
-    bool Bold = false;
-    bool Italic = false;
-    bool Underline = false;
-    bool Strikethru = false;
-    qint32 Color = 0; ///< 0x00BBGGRR
-    bool operator==(const PrintFont &) const = default;
-};
-
-/// A finished document: its lines, trailing blanks cut off, and the font that was set last before its first line.
-struct PrintJob {
-    PrintFont Font;
-    QStringList Lines;
-};
+#include "platform/desk/PrintJob.h"
 
 /// Only this class knows columns. They count from 1.
 class Printer
 {
 public:
     PrintFont Font;
+    QString DocumentName; ///< of the document under way; the next one starts without a name
 
     /// Moves to column n; below 1 counts as 1. A line that is already past it goes on in that column of the next line.
     Printer &Tab(int column);
