@@ -3,182 +3,157 @@
 #include "foundation/FileRoutine.h"
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
+// The fields of each file, once for reading and writing.
 namespace {
 
-QString DataPath(const char *name)
+/// The order is not the record's.
+void CreditorFields(auto &file)
 {
-    return State.ApplicationPath + QLatin1Char('\\') + QLatin1String(name);
+    const auto redim = [] { State.Creditors.Redim(State.NumberOfCreditors); };
+    file.List(State.NumberOfCreditors, redim, [&](int i) {
+        CreditorRecord &creditor = State.Creditors(i);
+        file.ByText(creditor.CreditorDueDate);
+        file.Value(creditor.CreditorName);
+        file.ByText(creditor.CreditorAmount);
+    });
 }
 
-void Rewrite(const char *title, const char *name, const std::function<void(OutputFile &)> &fill)
+void RegularFields(auto &file)
 {
-    RunWriter(QLatin1String(title), DataPath(name), OldFile::MustExist, fill);
+    const auto redim = [] { State.Regulars.Redim(State.NumberOfRegulars); };
+    file.List(State.NumberOfRegulars, redim, [&](int i) {
+        RegularRecord &regular = State.Regulars(i);
+        file.Value(regular.RegularItem);
+        file.ByText(regular.RegularAmount);
+    });
 }
 
-/// The entries of a list within a record that lie beyond its bound: they come after the others, each of their two
-/// values fails with a message of its own, and they take nothing from the file.
-void FailBeyond(int bound, int count, Loader &loader)
+void PayPeriodFields(auto &file)
 {
-    if (count > bound)
-        loader.Fail(RuntimeError::SubscriptOutOfRange, 2 * qint64(count - bound));
+    const auto redim = [] { State.ExtraPayPeriods.Redim(State.NumberOfExtraPayPeriods); };
+    file.List(State.NumberOfExtraPayPeriods, redim, [&](int i) {
+        ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
+        file.DashedDate(payPeriod.PayPeriodDate);
+        file.Pairs(payPeriod.NumberOfExtraItems, MostExtraItems, [&](int item) {
+            file.Value(payPeriod.ExtraItems(item).ExtraItem);
+            file.ByText(payPeriod.ExtraItems(item).ExtraItemAmount);
+        });
+    });
+}
+
+void ProjectFields(auto &file)
+{
+    const auto redim = [] {
+        State.ProjectNames.Redim(State.NumberOfProjects);
+        State.ProjectAmounts.Redim(State.NumberOfProjects);
+        State.ProjectEntryCounts.Redim(State.NumberOfProjects);
+        State.ProjectEntryDates.Redim(State.NumberOfProjects);
+        State.ProjectEntryAmounts.Redim(State.NumberOfProjects);
+    };
+    file.List(State.NumberOfProjects, redim, [&](int i) {
+        file.Value(State.ProjectNames(i));
+        file.Value(State.ProjectAmounts(i));
+        file.Pairs(State.ProjectEntryCounts(i), MostProjectEntries, [&](int entry) {
+            file.Value(State.ProjectEntryDates(i)(entry));
+            file.ByText(State.ProjectEntryAmounts(i)(entry));
+        });
+    });
+}
+
+void SettingFields(auto &file)
+{
+    file.Value(State.ForecastPeriods);
+    file.Value(State.PaycheckAmount);
+    file.Value(State.PayFrequency);
+    file.Value(State.FirstPayDate);
+    file.Value(State.SecondPayDate);
+    file.Value(State.MonthEndPay);
+    file.Value(State.SalesTax);
+    file.Value(State.CurrentStoreFile);
+    file.Value(State.AverageNetPercentage);
+}
+
+QString DataPath(const QString &name)
+{
+    return State.ApplicationPath + u'\\' + name;
+}
+
+void Load(const QString &title, const QString &name, const std::function<void(Loader &)> &fields)
+{
+    LoadFile(title, DataPath(name), fields);
+}
+
+void Save(const QString &title, const QString &name, const std::function<void(ListWriter &)> &fields)
+{
+    SaveFile(title, DataPath(name), OldFile::MustExist, fields);
 }
 
 } // namespace
 
 void InputCreditors()
 {
-    Loader loader(QStringLiteral("Input Creditors"), DataPath("creditor.txt"));
-    loader.Read(State.NumberOfCreditors);
-    if (State.NumberOfCreditors == 0)
-        return;
-    loader.Step([](InputFile &) { State.Creditors.Redim(State.NumberOfCreditors); });
-    for (int i = 1; i <= State.NumberOfCreditors; ++i) {
-        CreditorRecord &creditor = State.Creditors(i);
-        loader.ReadByText(creditor.CreditorDueDate);
-        loader.Read(creditor.CreditorName);
-        loader.ReadByText(creditor.CreditorAmount);
-    }
+    Load(u"Input Creditors"_s, u"creditor.txt"_s, CreditorFields<Loader>);
 }
 
 void InputRegulars()
 {
-    Loader loader(QStringLiteral("Input Regulars"), DataPath("regulars.txt"));
-    loader.Read(State.NumberOfRegulars);
-    if (State.NumberOfRegulars == 0)
-        return;
-    loader.Step([](InputFile &) { State.Regulars.Redim(State.NumberOfRegulars); });
-    for (int i = 1; i <= State.NumberOfRegulars; ++i) {
-        loader.Read(State.Regulars(i).RegularItem);
-        loader.ReadByText(State.Regulars(i).RegularAmount);
-    }
+    Load(u"Input Regulars"_s, u"regulars.txt"_s, RegularFields<Loader>);
 }
 
 void InputPayPeriods()
 {
-    Loader loader(QStringLiteral("Input Pay Periods"), DataPath("extra.txt"));
-    loader.Read(State.NumberOfExtraPayPeriods);
-    if (State.NumberOfExtraPayPeriods == 0)
-        return;
-    loader.Step([](InputFile &) { State.ExtraPayPeriods.Redim(State.NumberOfExtraPayPeriods); });
-    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
-        ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
-        loader.Step([&](InputFile &file) { payPeriod.PayPeriodDate = Format(file.InputString(), DateFormat::Dashes); });
-        loader.Read(payPeriod.NumberOfExtraItems);
-        const int items = payPeriod.NumberOfExtraItems;
-        for (int item = 1; item <= qMin(items, MostExtraItems); ++item) {
-            loader.Read(payPeriod.ExtraItems(item).ExtraItem);
-            loader.ReadByText(payPeriod.ExtraItems(item).ExtraItemAmount);
-        }
-        FailBeyond(MostExtraItems, items, loader);
-    }
+    Load(u"Input Pay Periods"_s, u"extra.txt"_s, PayPeriodFields<Loader>);
 }
 
 void InputProjects()
 {
-    Loader loader(QStringLiteral("Input Projects"), DataPath("projects.txt"));
-    loader.Read(State.NumberOfProjects);
-    if (State.NumberOfProjects == 0)
-        return;
-    loader.Step([](InputFile &) {
-        State.ProjectNames.Redim(State.NumberOfProjects);
-        State.ProjectAmounts.Redim(State.NumberOfProjects);
-        State.ProjectEntryCounts.Redim(State.NumberOfProjects);
-        State.ProjectEntryDates.Redim(State.NumberOfProjects);
-        State.ProjectEntryAmounts.Redim(State.NumberOfProjects);
-    });
-    for (int i = 1; i <= State.NumberOfProjects; ++i) {
-        loader.Read(State.ProjectNames(i));
-        loader.Read(State.ProjectAmounts(i));
-        loader.Read(State.ProjectEntryCounts(i));
-        const int entries = State.ProjectEntryCounts(i);
-        for (int entry = 1; entry <= qMin(entries, MostProjectEntries); ++entry) {
-            loader.Step([&](InputFile &file) { State.ProjectEntryDates(i)(entry) = file.InputString(); });
-            loader.ReadByText(State.ProjectEntryAmounts(i)(entry));
-        }
-        FailBeyond(MostProjectEntries, entries, loader);
-    }
+    Load(u"Input Projects"_s, u"projects.txt"_s, ProjectFields<Loader>);
 }
 
 void SaveCreditors()
 {
-    Rewrite("Save Creditors", "creditor.txt", [](OutputFile &file) {
-        file.Write(State.NumberOfCreditors);
-        for (int i = 1; i <= State.NumberOfCreditors; ++i) {
-            const CreditorRecord &creditor = State.Creditors(i);
-            file.Write(creditor.CreditorDueDate);
-            file.Write(creditor.CreditorName);
-            file.Write(creditor.CreditorAmount);
-        }
-    });
+    Save(u"Save Creditors"_s, u"creditor.txt"_s, CreditorFields<ListWriter>);
 }
 
 void SaveRegulars()
 {
-    Rewrite("Save Regulars", "regulars.txt", [](OutputFile &file) {
-        file.Write(State.NumberOfRegulars);
-        for (int i = 1; i <= State.NumberOfRegulars; ++i) {
-            file.Write(State.Regulars(i).RegularItem);
-            file.Write(State.Regulars(i).RegularAmount);
-        }
-    });
+    Save(u"Save Regulars"_s, u"regulars.txt"_s, RegularFields<ListWriter>);
 }
 
 void SavePayPeriods()
 {
-    Rewrite("Save Pay Periods", "extra.txt", [](OutputFile &file) {
-        file.Write(State.NumberOfExtraPayPeriods);
-        for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
-            const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
-            file.Write(payPeriod.PayPeriodDate.Text());
-            file.Write(payPeriod.NumberOfExtraItems);
-            for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item) {
-                file.Write(payPeriod.ExtraItems(item).ExtraItem);
-                file.Write(payPeriod.ExtraItems(item).ExtraItemAmount);
-            }
-        }
-    });
+    Save(u"Save Pay Periods"_s, u"extra.txt"_s, PayPeriodFields<ListWriter>);
 }
 
 void SaveProjects()
 {
-    Rewrite("Save Projects", "projects.txt", [](OutputFile &file) {
-        file.Write(State.NumberOfProjects);
-        for (int i = 1; i <= State.NumberOfProjects; ++i) {
-            file.Write(State.ProjectNames(i));
-            file.Write(State.ProjectAmounts(i));
-            file.Write(State.ProjectEntryCounts(i));
-            for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry) {
-                file.Write(std::as_const(State.ProjectEntryDates)(i)(entry).Text());
-                file.Write(std::as_const(State.ProjectEntryAmounts)(i)(entry));
-            }
-        }
-    });
+    Save(u"Save Projects"_s, u"projects.txt"_s, ProjectFields<ListWriter>);
+}
+
+void ReadEnvironmentSettings(const StatementRunner &run)
+{
+    InputFile file;
+    run([&] { file.Open(DataPath(u"environm.ini"_s)); });
+    ValueReader reader(file, run);
+    SettingFields(reader);
 }
 
 void SaveEnvironmentSettings()
 {
-    Rewrite("Save Environment Settings", "environm.ini", [](OutputFile &file) {
-        file.Write(State.ForecastPeriods);
-        file.Write(State.PaycheckAmount);
-        file.Write(State.PayFrequency);
-        file.Write(State.FirstPayDate);
-        file.Write(State.SecondPayDate);
-        file.Write(State.MonthEndPay);
-        file.Write(State.SalesTax);
-        file.Write(State.CurrentStoreFile);
-        file.Write(State.AverageNetPercentage);
-    });
+    Save(u"Save Environment Settings"_s, u"environm.ini"_s, SettingFields<ListWriter>);
 }
 
 void InitializeFiles()
 {
-    RunFileSteps(QStringLiteral("Initialize Files"), [] {
-        for (const char *name : {"creditor.txt", "extra.txt", "mastshop.txt", "projects.txt", "regulars.txt"}) {
-            DeleteFile(DataPath(name));
+    RunFileSteps(u"Initialize Files"_s, [] {
+        for (const QString &name :
+             {u"creditor.txt"_s, u"extra.txt"_s, u"mastshop.txt"_s, u"projects.txt"_s, u"regulars.txt"_s}) {
             OutputFile file;
-            file.Open(DataPath(name));
+            file.Collect();
             file.Write(qint16(0));
-            file.Close();
+            file.Replace(DataPath(name), OldFile::MustExist);
         }
     });
 }

@@ -6,7 +6,7 @@
 // copy.
 #pragma once
 
-class InputFile;
+#include "foundation/FileRoutine.h"
 
 void InputCreditors();
 void InputRegulars();
@@ -18,7 +18,8 @@ void SaveRegulars();
 void SavePayPeriods();
 void SaveProjects();
 
-/// The nine settings, written on the way out.
+/// The nine settings: read by the start, whose handler runs the opening and each read, and written on the way out.
+void ReadEnvironmentSettings(const StatementRunner &run);
 void SaveEnvironmentSettings();
 
 /// Resets the household: creditor.txt, extra.txt, mastshop.txt, projects.txt and regulars.txt in this order are deleted

@@ -7,12 +7,74 @@ namespace {
 constexpr int MostMessages = 25;
 }
 
-Loader::Loader(const QString &title, const QString &path) : m_title(title)
+void ValueReader::Value(qint16 &target)
 {
-    Step([&](InputFile &file) { file.Open(path); });
+    Run([&] { target = m_file.InputInteger(); });
 }
 
-Loader::~Loader()
+void ValueReader::Value(Currency &target)
+{
+    Run([&] { target = m_file.InputCurrency(); });
+}
+
+void ValueReader::Value(float &target)
+{
+    Run([&] { target = m_file.InputSingle(); });
+}
+
+void ValueReader::Value(bool &target)
+{
+    Run([&] { target = m_file.InputBoolean(); });
+}
+
+void ValueReader::Value(QString &target)
+{
+    Run([&] { target = m_file.InputString(); });
+}
+
+void ValueReader::Value(DateText &target)
+{
+    Run([&] { target = m_file.InputString(); });
+}
+
+void ValueReader::ByText(qint16 &target)
+{
+    Run([&] { target = ToInteger(m_file.InputString(), Dialect::File); });
+}
+
+void ValueReader::ByText(Currency &target)
+{
+    Run([&] { target = ToCurrency(m_file.InputString(), Dialect::File); });
+}
+
+void ValueReader::ByText(float &target)
+{
+    // Rounded twice, to double and then to Single, as files have always been read.
+    Run([&] { target = ToSingle(ToDouble(m_file.InputString(), Dialect::File)); });
+}
+
+void ValueReader::DashedDate(DateText &target)
+{
+    Run([&] { target = Format(m_file.InputString(), DateFormat::Dashes); });
+}
+
+Loader::Loader(const QString &title)
+    : ValueReader(m_file,
+                  [this](const std::function<void()> &statement) {
+                      ResumeNext(statement, [this](const RuntimeError &error) { Failed(error, 1); });
+                  }),
+      m_title(title)
+{
+}
+
+void Loader::Failed(const RuntimeError &error, qint64 times)
+{
+    for (qint64 shown = m_errors; shown < MostMessages && shown < m_errors + times; ++shown)
+        ShowMessage(error.Text(), m_title, Icon::Stop);
+    m_errors += times;
+}
+
+void Loader::ShowTheRest() const
 {
     if (m_errors > MostMessages)
         ShowMessage(
@@ -20,56 +82,46 @@ Loader::~Loader()
             m_title, Icon::Stop);
 }
 
-void Loader::Step(const std::function<void(InputFile &)> &statement)
+void Loader::List(qint16 &count, const std::function<void()> &redim, const std::function<void(int)> &fields)
 {
-    ResumeNext([&] { statement(m_file); }, [this](const RuntimeError &error) { Tell(error, 1); });
+    Value(count);
+    if (count == 0) // the arrays stay as they are
+        return;
+    Run(redim);
+    for (int i = 1; i <= count; ++i)
+        fields(i);
 }
 
-void Loader::Fail(RuntimeError::Code code, qint64 times)
+void Loader::Pairs(qint16 &count, int bound, const std::function<void(int)> &fields)
 {
-    Tell(RuntimeError(code), times);
+    Value(count);
+    for (int i = 1; i <= qMin<int>(count, bound); ++i)
+        fields(i);
+    if (count > bound)
+        Failed(RuntimeError(RuntimeError::SubscriptOutOfRange), 2 * qint64(count - bound));
 }
 
-void Loader::Tell(const RuntimeError &error, qint64 times)
+void LoadFile(const QString &title, const QString &path, const std::function<void(Loader &)> &fields)
 {
-    for (qint64 shown = m_errors; shown < MostMessages && shown < m_errors + times; ++shown)
-        ShowMessage(error.Text(), m_title, Icon::Stop);
-    m_errors += times;
+    Loader loader(title);
+    loader.Run([&] { loader.m_file.Open(path); });
+    fields(loader);
+    loader.m_file.Close();
+    loader.ShowTheRest();
 }
 
-void Loader::Read(qint16 &target)
+void ListWriter::List(qint16 count, const std::function<void()> &, const std::function<void(int)> &fields)
 {
-    Step([&](InputFile &file) { target = file.InputInteger(); });
+    m_file.Write(count);
+    for (int i = 1; i <= count; ++i)
+        fields(i);
 }
 
-void Loader::Read(Currency &target)
+void ListWriter::Pairs(qint16 count, int, const std::function<void(int)> &fields)
 {
-    Step([&](InputFile &file) { target = file.InputCurrency(); });
-}
-
-void Loader::Read(bool &target)
-{
-    Step([&](InputFile &file) { target = file.InputBoolean(); });
-}
-
-void Loader::Read(QString &target)
-{
-    Step([&](InputFile &file) { target = file.InputString(); });
-}
-
-void Loader::ReadByText(qint16 &target)
-{
-    Step([&](InputFile &file) { target = ToInteger(file.InputString(), Dialect::File); });
-}
-
-void Loader::ReadByText(Currency &target)
-{
-    Step([&](InputFile &file) { target = ToCurrency(file.InputString(), Dialect::File); });
-}
-
-void Loader::ReadByText(float &target)
-{
-    Step([&](InputFile &file) { target = ToSingle(ToDouble(file.InputString(), Dialect::File)); });
+    m_file.Write(count);
+    for (int i = 1; i <= count; ++i)
+        fields(i);
 }
 
 void RunFileSteps(const QString &title, const std::function<void()> &steps)
@@ -77,16 +129,14 @@ void RunFileSteps(const QString &title, const std::function<void()> &steps)
     ResumeNext(steps, [&](const RuntimeError &error) { ShowMessage(error.Text(), title, Icon::Stop); });
 }
 
-void RunWriter(const QString &title, const QString &path, OldFile oldFile,
-               const std::function<void(OutputFile &)> &fill)
+void SaveFile(const QString &title, const QString &path, OldFile oldFile,
+              const std::function<void(ListWriter &)> &fields)
 {
     RunFileSteps(title, [&] {
         OutputFile file;
         file.Collect();
-        fill(file);
-        if (oldFile == OldFile::MustExist || FileExists(path))
-            DeleteFile(path);
-        file.Open(path);
-        file.Close();
+        ListWriter writer(file);
+        fields(writer);
+        file.Replace(path, oldFile);
     });
 }

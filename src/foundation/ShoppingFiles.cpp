@@ -3,11 +3,42 @@
 #include "foundation/FileRoutine.h"
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
+
+void MasterFields(auto &file)
+{
+    const auto redim = [] { State.MasterShoppingList.Redim(State.NumberOfMasterItems); };
+    file.List(State.NumberOfMasterItems, redim, [&](int i) {
+        MasterItemRecord &item = State.MasterShoppingList(i);
+        file.Value(item.Item);
+        file.Value(item.Unit);
+        file.ByText(item.UnitPrice);
+        file.Value(item.Store);
+        file.Value(item.Taxable);
+    });
+}
+
+void CurrentFields(auto &file)
+{
+    const auto redim = [] { State.CurrentShoppingList.Redim(State.NumberOfCurrentItems); };
+    file.List(State.NumberOfCurrentItems, redim, [&](int i) {
+        CurrentItemRecord &item = State.CurrentShoppingList(i);
+        file.Value(item.Item);
+        file.Value(item.Unit);
+        file.ByText(item.UnitPrice);
+        file.Value(item.Store);
+        file.ByText(item.Quantity);
+        file.Value(item.Taxable);
+        file.ByText(item.CouponValue);
+        file.Value(item.FullPrice);
+    });
+}
 
 QString MasterPath()
 {
-    return State.ApplicationPath + QStringLiteral("\\mastshop.txt");
+    return State.ApplicationPath + u"\\mastshop.txt"_s;
 }
 
 QString CurrentPath()
@@ -19,71 +50,21 @@ QString CurrentPath()
 
 void InputMasterShoppingList()
 {
-    Loader loader(QStringLiteral("Input Master Shopping List"), MasterPath());
-    loader.Read(State.NumberOfMasterItems);
-    if (State.NumberOfMasterItems == 0)
-        return;
-    loader.Step([](InputFile &) { State.MasterShoppingList.Redim(State.NumberOfMasterItems); });
-    for (int i = 1; i <= State.NumberOfMasterItems; ++i) {
-        MasterItemRecord &item = State.MasterShoppingList(i);
-        loader.Read(item.Item);
-        loader.Read(item.Unit);
-        loader.ReadByText(item.UnitPrice);
-        loader.Read(item.Store);
-        loader.Read(item.Taxable);
-    }
+    LoadFile(u"Input Master Shopping List"_s, MasterPath(), MasterFields<Loader>);
 }
 
 void InputCurrentShoppingList()
 {
-    Loader loader(QStringLiteral("Input Current Shopping List"), CurrentPath());
-    loader.Read(State.NumberOfCurrentItems);
-    if (State.NumberOfCurrentItems == 0)
-        return;
-    loader.Step([](InputFile &) { State.CurrentShoppingList.Redim(State.NumberOfCurrentItems); });
-    for (int i = 1; i <= State.NumberOfCurrentItems; ++i) {
-        CurrentItemRecord &item = State.CurrentShoppingList(i);
-        loader.Read(item.Item);
-        loader.Read(item.Unit);
-        loader.ReadByText(item.UnitPrice);
-        loader.Read(item.Store);
-        loader.ReadByText(item.Quantity);
-        loader.Read(item.Taxable);
-        loader.ReadByText(item.CouponValue);
-        loader.Read(item.FullPrice);
-    }
+    LoadFile(u"Input Current Shopping List"_s, CurrentPath(), CurrentFields<Loader>);
 }
 
 void SaveMasterShoppingList()
 {
     // Not asked whether it is there: a missing catalogue is an error, a missing store list is not.
-    RunWriter(QStringLiteral("Save Master Shopping List"), MasterPath(), OldFile::MustExist, [](OutputFile &file) {
-        file.Write(State.NumberOfMasterItems);
-        for (int i = 1; i <= State.NumberOfMasterItems; ++i) {
-            const MasterItemRecord &item = State.MasterShoppingList(i);
-            file.Write(item.Item);
-            file.Write(item.Unit);
-            file.Write(item.UnitPrice);
-            file.Write(item.Store);
-            file.Write(item.Taxable);
-        }
-    });
+    SaveFile(u"Save Master Shopping List"_s, MasterPath(), OldFile::MustExist, MasterFields<ListWriter>);
 }
 
 void SaveCurrentShoppingList()
 {
-    RunWriter(QStringLiteral("Save Current Shopping List"), CurrentPath(), OldFile::MayBeMissing, [](OutputFile &file) {
-        file.Write(State.NumberOfCurrentItems);
-        for (int i = 1; i <= State.NumberOfCurrentItems; ++i) {
-            const CurrentItemRecord &item = State.CurrentShoppingList(i);
-            file.Write(item.Item);
-            file.Write(item.Unit);
-            file.Write(item.UnitPrice);
-            file.Write(item.Store);
-            file.Write(item.Quantity);
-            file.Write(item.Taxable);
-            file.Write(item.CouponValue);
-            file.Write(item.FullPrice);
-        }
-    });
+    SaveFile(u"Save Current Shopping List"_s, CurrentPath(), OldFile::MayBeMissing, CurrentFields<ListWriter>);
 }

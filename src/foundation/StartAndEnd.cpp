@@ -28,20 +28,9 @@ void InitializeVariables()
     State.StoresDirectory = State.ApplicationPath + QStringLiteral("\\stores\\");
     State.HelpFile = State.ApplicationPath + QStringLiteral("\\help\\budget help.hlp");
 
-    InputFile settings;
-    step([&] { settings.Open(State.ApplicationPath + QStringLiteral("\\environm.ini")); });
-    step([&] { State.ForecastPeriods = settings.InputInteger(); });
-    step([&] { State.PaycheckAmount = settings.InputCurrency(); });
-    step([&] { State.PayFrequency = settings.InputInteger(); });
-    step([&] { State.FirstPayDate = settings.InputInteger(); });
-    step([&] { State.SecondPayDate = settings.InputInteger(); });
-    step([&] { State.MonthEndPay = settings.InputInteger(); });
-    step([&] { State.SalesTax = settings.InputSingle(); });
-    step([&] { State.CurrentStoreFile = settings.InputString(); });
-    step([&] { State.AverageNetPercentage = settings.InputSingle(); });
+    ReadEnvironmentSettings(step);
     if (abandoned)
         return;
-    settings.Close();
 
     State.CurrentPayPeriod = Format(TheDesk.Now().date(), DateFormat::Dashes);
     State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};

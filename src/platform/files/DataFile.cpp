@@ -7,7 +7,11 @@
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -53,11 +57,72 @@ QString WithPlatformSeparators(QString path)
     RaiseError(QFileInfo(QFileInfo(path).path()).isDir() ? RuntimeError::FileNotFound : RuntimeError::PathNotFound);
 }
 
-/// The permission bits are asked, not the user's rights: a write-protected household stays so for root as well.
+/// A file without a write bit is protected from every user, root included; any other one from those who may not write
+/// to it, although the folder may let them delete it.
 bool IsWriteProtected(const QFileInfo &file)
 {
     constexpr auto writeBits = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    return file.exists() && !(file.permissions() & writeBits);
+    return file.exists() &&
+           (!(file.permissions() & writeBits) ||
+            ::faccessat(AT_FDCWD, QFile::encodeName(file.filePath()).constData(), W_OK, AT_EACCESS) != 0);
+}
+
+/// A pipe would hold the program up until somebody reads it. A device of characters says itself what it takes.
+bool IsWritable(const QFileInfo &file)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(file.filePath()).constData(), &status) != 0)
+        return !file.exists();
+    return (S_ISREG(status.st_mode) || S_ISCHR(status.st_mode)) && !IsWriteProtected(file);
+}
+
+/// Where a file that is to be written lies. A folder in another letter case is found; the file itself is made in the
+/// spelling that is asked for, or a second list whose name differs in case alone would be overwritten. A symbolic link
+/// in any spelling leads to its target. Empty without a name.
+QString WritingPath(const QString &givenPath)
+{
+    const QFileInfo given(WithPlatformSeparators(givenPath));
+    if (given.fileName().isEmpty())
+        return {};
+    if (const QString existing = ExistingPath(givenPath); QFileInfo(existing).isSymLink())
+        return existing;
+    return ExistingPath(given.path()) + QLatin1Char('/') + given.fileName();
+}
+
+/// Error 61 if the disk lacks the room for a file of so many bytes once the old one is gone.
+void RequireRoom(const QFileInfo &oldFile, qint64 bytes)
+{
+    const QByteArray path = QFile::encodeName(oldFile.canonicalFilePath());
+    struct stat old = {};
+    struct statvfs disk = {};
+    if (::stat(path.constData(), &old) != 0 || ::statvfs(path.constData(), &disk) != 0 || disk.f_blocks == 0)
+        return; // a disk that does not tell its room is known to be full only by writing to it
+    const qint64 block = qint64(disk.f_frsize);
+    // The room of a file that has another name as well does not become free.
+    const qint64 freed = old.st_nlink == 1 ? qint64(old.st_blocks) * 512 : 0;
+    if (qint64(disk.f_bavail) * block + freed < (bytes + block - 1) / block * block)
+        RaiseError(RuntimeError::DiskFull);
+}
+
+/// The file of that name if it may be deleted, else errors 53 and 75.
+QFileInfo Deletable(const QString &path)
+{
+    const QFileInfo file(ExistingPath(path));
+    if (!file.exists())
+        RaiseMissing(file.filePath());
+    if (!file.isFile() || IsWriteProtected(file))
+        RaiseError(RuntimeError::PathFileAccess);
+    return file;
+}
+
+/// What is deleted is what a symbolic link leads to. The link stays, and the new file is made in its target's place.
+void Remove(const QFileInfo &file)
+{
+    std::error_code error;
+    if (!std::filesystem::remove(QFile::encodeName(file.canonicalFilePath()).toStdString(), error))
+        RaiseError(error == std::errc::device_or_resource_busy || error == std::errc::text_file_busy
+                       ? RuntimeError::PermissionDenied
+                       : RuntimeError::PathFileAccess);
 }
 
 /// What to tell of a write that failed. The toolkit tells every failure alike, so the system's own number is needed;
@@ -65,6 +130,18 @@ bool IsWriteProtected(const QFileInfo &file)
 RuntimeError::Code WriteFailure(int systemError)
 {
     return systemError == ENOSPC || systemError == EDQUOT ? RuntimeError::DiskFull : RuntimeError::DeviceError;
+}
+
+/// The name of a new file is on the disk only when its folder is. A folder that cannot be asked for that does no harm:
+/// its file is there.
+void SynchronizeFolder(const QFileInfo &file)
+{
+    const QString folder = QFileInfo(file.canonicalFilePath()).path();
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle);
+    ::close(handle);
 }
 
 } // namespace
@@ -93,19 +170,9 @@ bool FileExists(const QString &path)
     return QFileInfo(ExistingPath(path)).isFile();
 }
 
-void DeleteFile(const QString &givenPath)
+void DeleteFile(const QString &path)
 {
-    const QString path = ExistingPath(givenPath);
-    const QFileInfo file(path);
-    if (!file.exists() && !file.isSymLink())
-        RaiseMissing(path);
-    if (file.isDir() || IsWriteProtected(file))
-        RaiseError(RuntimeError::PathFileAccess);
-    std::error_code error;
-    if (!std::filesystem::remove(QFile::encodeName(path).toStdString(), error))
-        RaiseError(error == std::errc::device_or_resource_busy || error == std::errc::text_file_busy
-                       ? RuntimeError::PermissionDenied
-                       : RuntimeError::PathFileAccess);
+    Remove(Deletable(path));
 }
 
 void InputFile::Open(const QString &givenPath)
@@ -241,16 +308,22 @@ void OutputFile::Collect()
     m_collecting = true;
 }
 
+void OutputFile::Replace(const QString &path, OldFile oldFile)
+{
+    if (oldFile == OldFile::MustExist || FileExists(path)) {
+        const QFileInfo old = Deletable(path);
+        RequireRoom(old, m_collected.size());
+        Remove(old);
+    }
+    Open(path);
+    Close();
+}
+
 void OutputFile::Open(const QString &givenPath)
 {
     m_file.close();
-    // A folder in another letter case is found; the file itself is made in the spelling that is asked for, or a second
-    // list whose name differs in case alone would be overwritten.
-    const QFileInfo given(WithPlatformSeparators(givenPath));
-    const QString path =
-        given.fileName().isEmpty() ? QString() : ExistingPath(given.path()) + QLatin1Char('/') + given.fileName();
-    const QFileInfo info(path);
-    if (path.isEmpty() || info.isDir() || IsWriteProtected(info))
+    const QString path = WritingPath(givenPath);
+    if (path.isEmpty() || !IsWritable(QFileInfo(path)))
         RaiseError(RuntimeError::PathFileAccess);
     m_file.setFileName(path);
     errno = 0;
@@ -261,7 +334,7 @@ void OutputFile::Open(const QString &givenPath)
     }
     if (WriteFailure(errno) == RuntimeError::DiskFull)
         RaiseError(RuntimeError::DiskFull);
-    RaiseError(QFileInfo(info.path()).isDir() ? RuntimeError::PathFileAccess : RuntimeError::PathNotFound);
+    RaiseError(QFileInfo(QFileInfo(path).path()).isDir() ? RuntimeError::PathFileAccess : RuntimeError::PathNotFound);
 }
 
 void OutputFile::Close()
@@ -269,12 +342,15 @@ void OutputFile::Close()
     if (!m_file.isOpen())
         return;
     errno = 0;
-    const bool flushed = m_file.flush();
-    const int flushError = errno;
+    bool written = m_file.flush();
+    // On the disk, not only on its way there: the old file is gone. A device that cannot be asked for that says EINVAL.
+    written = written && (::fsync(m_file.handle()) == 0 || errno == EINVAL);
+    const int writeError = errno;
     errno = 0;
     m_file.close();
-    if (!flushed || m_file.error() != QFile::NoError)
-        RaiseError(WriteFailure(flushed ? errno : flushError));
+    if (!written || m_file.error() != QFile::NoError)
+        RaiseError(WriteFailure(written ? errno : writeError));
+    SynchronizeFolder(QFileInfo(m_file.fileName()));
 }
 
 void OutputFile::Write(qint16 value)

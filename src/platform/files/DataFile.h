@@ -20,7 +20,8 @@ QString ExistingPath(const QString &path);
 /// Whether there is a file of that name, in any letter case.
 bool FileExists(const QString &path);
 
-/// Deletes a file: error 53 where there is none, 75 where it has no write bit, for every user, or cannot be deleted.
+/// Deletes a file, or what a symbolic link leads to: error 53 where there is none; 75 where it is no plain file, has no
+/// write bit, for every user, cannot be written by this user, or cannot be deleted.
 void DeleteFile(const QString &path);
 
 /// A data file opened for input. Every read raises error 52 while no file is open.
@@ -33,8 +34,9 @@ public:
 
     /// The greatest file that is taken; the greatest lawful household is well below it.
     static constexpr qint64 GreatestSize = qint64(512) << 20;
-    /// The longest value in bytes; a longer one is passed over with error 7.
-    static constexpr qsizetype GreatestValue = 64 * 1024;
+    /// The longest value in bytes; a longer one is passed over with error 7. An entry field holds 32,767 characters of
+    /// up to three bytes, and what the program has written it must read.
+    static constexpr qsizetype GreatestValue = 128 * 1024;
 
     /// Error 53 or 76 where there is none, 75 where it is no plain file or cannot be read, 7 beyond GreatestSize.
     void Open(const QString &path);
@@ -60,16 +62,22 @@ private:
     bool m_open = false;
 };
 
+/// Whether a writer asks for the old file before it deletes it. Most do not: a missing file is an error to them.
+enum class OldFile { MustExist, MayBeMissing };
+
 /// A data file opened for output. What cannot be written is told at the write or at the latest at Close:
-/// error 61 for a full disk, 57 for a failing device.
+/// error 61 for a full disk, 57 for a failing device. After Close the file is on the disk. A symbolic link is followed.
 class OutputFile
 {
 public:
-    /// Takes what is written from now on into memory; the next Open writes it out. So an error among the values comes
-    /// before any file is touched.
+    /// Takes what is written from now on into memory; the next Open or Replace writes it out. So an error among the
+    /// values comes before any file is touched.
     void Collect();
+    /// Deletes the old file and makes the new one of what was collected. What can fail before the deletion does, and
+    /// then the old file stays: the errors of DeleteFile, and error 61 on a disk without the room.
+    void Replace(const QString &path, OldFile oldFile);
     /// Creates or empties the file; error 76 where its folder is missing, 75 where it has no write bit, for every user,
-    /// or cannot be created.
+    /// cannot be written by this user or is a pipe, or cannot be created.
     void Open(const QString &path);
     void Close();
 
