@@ -1,6 +1,7 @@
 // The household's data files: what is written byte for byte, what is read, and how their failures are told.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "InChild.h"
 #include "TestProgram.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/ShoppingFiles.h"
@@ -11,6 +12,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -468,6 +470,7 @@ private Q_SLOTS:
         QTest::newRow("looks like a Boolean") << QStringLiteral("#TRUE#");
         QTest::newRow("a mark that is no sign") << QStringLiteral("\uFEFFRent");
         QTest::newRow("long") << QString(10000, QLatin1Char('x'));
+        QTest::newRow("all that a field can hold") << QString(32767, QChar(0x20AC)); // 98,301 bytes
     }
     void NamesComeBackWithEverySign()
     {
@@ -729,7 +732,21 @@ private Q_SLOTS:
         desk.WriteFile(QStringLiteral("extra.txt"), "2\n1/1/2004\n-3\n1/15/2004\n1\nGift\n20\n");
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(-3));
+        QCOMPARE(ItemsOf(State.ExtraPayPeriods(1)), 0);
+        QCOMPARE(ItemsOf(State.ExtraPayPeriods(2)), 1);
         QCOMPARE(State.ExtraPayPeriods(2).ExtraItems(1), (ExtraItemRecord{QStringLiteral("Gift"), Count(200000)}));
+    }
+
+    void ANegativeCountOfEntriesReadsNone()
+    {
+        FakeDesk desk;
+        desk.WriteFile(QStringLiteral("projects.txt"), "2\nRoof\n100\n-3\nTrip\n50\n1\n1/1/2004\n20\n");
+        InputProjects();
+        QCOMPARE(State.ProjectEntryCounts(1), qint16(-3));
+        QCOMPARE(EntriesOf(1), 0);
+        QCOMPARE(State.ProjectNames(2), QStringLiteral("Trip"));
+        QCOMPARE(EntriesOf(2), 1);
+        QCOMPARE(State.ProjectEntryAmounts(2)(1), Count(200000));
     }
 
     void OneItemBeyondTheBoundTellsTwiceAndMisalignsTheRest()
@@ -742,6 +759,7 @@ private Q_SLOTS:
         desk.WriteFile(QStringLiteral("extra.txt"), file);
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(201));
+        QCOMPARE(ItemsOf(State.ExtraPayPeriods(1)), 200);
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(200),
                  (ExtraItemRecord{QStringLiteral("Item 200"), Count(2000000)}));
         // The failed reads took nothing: the 201st item's name and amount are the next record's date and count.
@@ -768,6 +786,7 @@ private Q_SLOTS:
         desk.WriteFile(QStringLiteral("projects.txt"), file);
         InputProjects();
         QCOMPARE(State.ProjectEntryCounts(1), qint16(101));
+        QCOMPARE(EntriesOf(1), 100);
         QCOMPARE(State.ProjectEntryAmounts(1)(100), Count(1000000));
         QCOMPARE(State.ProjectNames(2), QStringLiteral("1/1/2004"));
         QCOMPARE(State.ProjectAmounts(2), Count(1010000));
@@ -897,6 +916,27 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeMessage(), Told(NoAccess, SaveTitle(list)));
         QCOMPARE(desk.ReadFile(QLatin1String(list.File)), QByteArray("as it was"));
         QCOMPARE(State.*list.Count, qint16(1));
+    }
+
+    void AFileOfAnotherUserStaysAsItWas_data() { ListRows(); }
+    void AFileOfAnotherUserStaysAsItWas()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can lay down the file of another user");
+        FakeDesk desk;
+        const DataList &list = FetchedList();
+        PutOneOfEach();
+        desk.WriteFile(QLatin1String(list.File), "as it was");
+        QCOMPARE(::chmod(QFile::encodeName(desk.Folder()).constData(), 0777), 0); // which would allow the deletion
+        QCOMPARE(InChild([&] {
+                     constexpr uid_t nobody = 65534;
+                     if (::setuid(nobody) != 0)
+                         return 2;
+                     list.Save();
+                     return desk.TakeMessage() == Told(NoAccess, SaveTitle(list)) ? 0 : 1;
+                 }),
+                 0);
+        QCOMPARE(desk.ReadFile(QLatin1String(list.File)), QByteArray("as it was"));
     }
 
     void ReadOnlySettingsStayAsTheyWere()

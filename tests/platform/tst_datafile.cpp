@@ -1,5 +1,6 @@
 // The delimited data files: what is written, what is read back, and what every failure is called.
-#include "../support/ErrorOf.h"
+#include "ErrorOf.h"
+#include "InChild.h"
 #include "TestProgram.h"
 #include "platform/files/DataFile.h"
 #include "platform/values/Locale.h"
@@ -9,11 +10,59 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <csignal>
+#include <grp.h>
 #include <limits>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <sys/syscall.h>
 
 namespace {
+
+/// What was synchronised with the disk, and the error with which that fails; 0 for none.
+QStringList Synchronised;
+int SynchronisingFails = 0;
+
+} // namespace
+
+// Stands before the C library's own routine of this name.
+int fsync(int handle)
+{
+    Synchronised += QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(handle));
+    if (SynchronisingFails == 0)
+        return int(::syscall(SYS_fsync, handle));
+    errno = SynchronisingFails;
+    return -1;
+}
+
+namespace {
+
+constexpr uid_t Nobody = 65534;
+
+/// Gives up the rights of root, in a child.
+bool BecomeNobody()
+{
+    return ::setgroups(0, nullptr) == 0 && ::setgid(Nobody) == 0 && ::setuid(Nobody) == 0;
+}
+
+/// Puts a disk of so many bytes in the place of a folder, in a child, whose disks are then its own.
+bool MountSmallDisk(const QString &folder, int bytes)
+{
+    if (::unshare(CLONE_NEWNS) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+        return false;
+    return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           ::mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0,
+                   QByteArray("size=" + QByteArray::number(bytes)).constData()) == 0;
+}
+
+/// The room left on the disk of a folder.
+qint64 RoomOf(const QString &folder)
+{
+    struct statvfs disk = {};
+    return ::statvfs(QFile::encodeName(folder).constData(), &disk) == 0 ? qint64(disk.f_bavail * disk.f_frsize) : -1;
+}
 
 /// Reads one value of a kind (i Integer, c Currency in ten-thousandths, f Single, b Boolean, s String, l line) and
 /// tells it as text; "error 62" and the like for what cannot be read.
@@ -67,7 +116,12 @@ private:
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(m_folder.isValid()); }
-    void init() { SetUserLocale(QLocale(QLocale::German, QLocale::Germany)); } // files ignore the user's locale
+    void init()
+    {
+        SetUserLocale(QLocale(QLocale::German, QLocale::Germany)); // files ignore the user's locale
+        Synchronised.clear();
+        SynchronisingFails = 0;
+    }
     void cleanup()
     {
         SetUserLocale(QLocale::c());
@@ -359,7 +413,7 @@ private Q_SLOTS:
         QTest::newRow("a folder") << QStringLiteral("stores") << 75 << 75;
         QTest::newRow("a folder with its slash") << QStringLiteral("stores\\") << 75 << 75;
         QTest::newRow("a file in the place of a folder") << QStringLiteral("plain.txt/creditor.txt") << 76 << 76;
-        QTest::newRow("a pipe is no data file") << QStringLiteral("pipe") << 75 << 0;
+        QTest::newRow("a pipe is no data file") << QStringLiteral("pipe") << 75 << 75;
     }
     void OpeningTellsWhatIsWrong()
     {
@@ -371,10 +425,8 @@ private Q_SLOTS:
         QCOMPARE(::mkfifo(QFile::encodeName(Path(QStringLiteral("pipe"))).constData(), 0600), 0);
         InputFile input;
         QCOMPARE(ErrorOf([&] { input.Open(Path(name)); }), reading);
-        if (writing != 0) {
-            OutputFile output;
-            QCOMPARE(ErrorOf([&] { output.Open(Path(name)); }), writing);
-        }
+        OutputFile output;
+        QCOMPARE(ErrorOf([&] { output.Open(Path(name)); }), writing);
     }
 
     void ADeviceThatNeverEndsIsNoDataFile()
@@ -503,6 +555,97 @@ private Q_SLOTS:
         QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("5\r\n"));
     }
 
+    void AFileThatThisUserMayNotWriteStays_data()
+    {
+        QTest::addColumn<uint>("owner");
+        QTest::addColumn<uint>("mode");
+        QTest::newRow("of another user") << 0U << 0644U;
+        QTest::newRow("of another user, readable by nobody else") << 0U << 0600U;
+        QTest::newRow("his own, but only the others may write") << uint(Nobody) << 0466U;
+    }
+    void AFileThatThisUserMayNotWriteStays()
+    {
+        QFETCH(uint, owner);
+        QFETCH(uint, mode);
+        if (::geteuid() != 0)
+            QSKIP("only root can lay down the files of two users");
+        Put(QStringLiteral("creditor.txt"), "5\r\n");
+        const QByteArray path = QFile::encodeName(Path(QStringLiteral("creditor.txt")));
+        QCOMPARE(::chown(path.constData(), owner, owner), 0);
+        QCOMPARE(::chmod(path.constData(), mode), 0);
+        QCOMPARE(::chmod(QFile::encodeName(m_folder.path()).constData(), 0777), 0);
+        const auto asNobody = [](const std::function<int()> &run) {
+            return InChild([&] { return BecomeNobody() ? run() : 200; });
+        };
+        QCOMPARE(asNobody([&] { return ErrorOf([&] { DeleteFile(QFile::decodeName(path)); }); }), 75);
+        QCOMPARE(asNobody([&] {
+                     OutputFile file;
+                     return ErrorOf([&] { file.Open(QFile::decodeName(path)); });
+                 }),
+                 75);
+        QCOMPARE(asNobody([&] {
+                     OutputFile file;
+                     file.Collect();
+                     file.Write(qint16(6));
+                     return ErrorOf([&] { file.Replace(QFile::decodeName(path), OldFile::MustExist); });
+                 }),
+                 75);
+        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("5\r\n"));
+        // It was no matter of the folder, which would have let him delete it.
+        QCOMPARE(asNobody([&] { return ::unlink(path.constData()) == 0 ? 0 : 1; }), 0);
+    }
+
+    void OnlyAPlainFileIsDeleted()
+    {
+        const QByteArray pipe = QFile::encodeName(Path(QStringLiteral("pipe")));
+        QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+        QVERIFY(QFile::link(Path(QStringLiteral("pipe")), Path(QStringLiteral("link"))));
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("pipe"))); }), 75);
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("link"))); }), 75);
+        QCOMPARE(::access(pipe.constData(), F_OK), 0);
+    }
+
+    // ---- Symbolic links
+
+    void ALinkIsFollowedAndStays_data()
+    {
+        QTest::addColumn<QString>("link");
+        QTest::newRow("as it is asked for") << QStringLiteral("creditor.txt");
+        QTest::newRow("in capitals") << QStringLiteral("CREDITOR.TXT");
+    }
+    void ALinkIsFollowedAndStays()
+    {
+        QFETCH(QString, link);
+        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("cloud")));
+        Put(QStringLiteral("cloud/lists.txt"), "5\r\n");
+        QVERIFY(QFile::link(Path(QStringLiteral("cloud/lists.txt")), Path(link)));
+        OutputFile file;
+        file.Collect();
+        file.Write(qint16(6));
+        file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MustExist);
+        QCOMPARE(Get(QStringLiteral("cloud/lists.txt")), QByteArray("6\r\n"));
+        QCOMPARE(QFile::symLinkTarget(Path(link)), Path(QStringLiteral("cloud/lists.txt")));
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::System), QStringList{link});
+        QVERIFY(Synchronised.contains(Path(QStringLiteral("cloud")))); // the folder that has a new file
+        DeleteFile(Path(QStringLiteral("creditor.txt")));
+        QVERIFY(!QFile::exists(Path(QStringLiteral("cloud/lists.txt"))));
+        QVERIFY(QFileInfo(Path(link)).isSymLink());
+    }
+
+    void ALinkToNothingIsAMissingFile()
+    {
+        QVERIFY(QFile::link(Path(QStringLiteral("elsewhere.txt")), Path(QStringLiteral("creditor.txt"))));
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("creditor.txt"))); }), 53);
+        OutputFile file;
+        file.Collect();
+        file.Write(qint16(6));
+        QCOMPARE(ErrorOf([&] { file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MustExist); }), 53);
+        QVERIFY(!QFile::exists(Path(QStringLiteral("elsewhere.txt"))));
+        file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MayBeMissing);
+        QCOMPARE(Get(QStringLiteral("elsewhere.txt")), QByteArray("6\r\n"));
+        QVERIFY(QFileInfo(Path(QStringLiteral("creditor.txt"))).isSymLink());
+    }
+
     void AFolderIsNotDeleted()
     {
         QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("stores")));
@@ -525,6 +668,84 @@ private Q_SLOTS:
         file.Open(QStringLiteral("/dev/full"));
         file.Write(qint16(1)); // still waits in memory
         QCOMPARE(ErrorOf([&] { file.Close(); }), 61);
+    }
+
+    void AFullDiskIsNoticedBeforeTheOldFileGoes_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("hasTwoNames");
+        QTest::addColumn<int>("error");
+        // The old file takes 16 KiB, 8 KiB are left.
+        constexpr int kib = 1024;
+        QTest::newRow("smaller than the old one") << 4 * kib << false << 0;
+        QTest::newRow("all the room that there will be") << 24 * kib << false << 0;
+        QTest::newRow("a byte more takes another block") << 24 * kib + 1 << false << 61;
+        QTest::newRow("far more") << 60 * kib << false << 61;
+        QTest::newRow("a file with two names: what is left") << 8 * kib << true << 0;
+        QTest::newRow("a file with two names frees nothing") << 8 * kib + 1 << true << 61;
+    }
+    void AFullDiskIsNoticedBeforeTheOldFileGoes()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, hasTwoNames);
+        QFETCH(int, error);
+        constexpr int noDisk = 200;
+        constexpr int notAsExpected = 201;
+        const QString folder = m_folder.path();
+        const int told = InChild([&] {
+            if (!MountSmallDisk(folder, 64 * 1024))
+                return noDisk;
+            const QByteArray old(16 * 1024, 'o');
+            const auto put = [&](const QString &name, const QByteArray &bytes) {
+                QFile file(Path(name));
+                return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+            };
+            if (!put(QStringLiteral("creditor.txt"), old) ||
+                !put(QStringLiteral("filler"), QByteArray(RoomOf(folder) - 8 * 1024, 'f')) ||
+                RoomOf(folder) != 8 * 1024)
+                return notAsExpected;
+            if (hasTwoNames && ::link(QFile::encodeName(Path(QStringLiteral("creditor.txt"))).constData(),
+                                      QFile::encodeName(Path(QStringLiteral("second"))).constData()) != 0)
+                return notAsExpected;
+            OutputFile file;
+            file.Collect();
+            file.Write(QString(size - 4, QLatin1Char('n'))); // and two quotes and the line's end
+            const int number = ErrorOf([&] { file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MustExist); });
+            const QByteArray left = Get(QStringLiteral("creditor.txt"));
+            return number == 0 ? (left.size() == size ? 0 : notAsExpected) : left == old ? number : notAsExpected;
+        });
+        if (told == noDisk)
+            QSKIP("no disk can be mounted here");
+        QCOMPARE(told, error);
+    }
+
+    void AFileIsOnTheDiskWhenItIsClosed()
+    {
+        OutputFile file;
+        file.Open(Path(QStringLiteral("creditor.txt")));
+        file.Write(qint16(6));
+        QCOMPARE(Synchronised, QStringList());
+        file.Close();
+        QCOMPARE(Synchronised, (QStringList{Path(QStringLiteral("creditor.txt")), m_folder.path()}));
+    }
+
+    void WhatDoesNotReachTheDiskIsAnError_data()
+    {
+        QTest::addColumn<int>("systemError");
+        QTest::addColumn<int>("error");
+        QTest::newRow("a failing device") << EIO << 57;
+        QTest::newRow("a full disk") << ENOSPC << 61;
+        QTest::newRow("the user's share is used up") << EDQUOT << 61;
+        QTest::newRow("a device that cannot be asked") << EINVAL << 0;
+    }
+    void WhatDoesNotReachTheDiskIsAnError()
+    {
+        QFETCH(int, systemError);
+        OutputFile file;
+        file.Open(Path(QStringLiteral("creditor.txt")));
+        file.Write(qint16(6));
+        SynchronisingFails = systemError;
+        QTEST(ErrorOf([&] { file.Close(); }), "error");
     }
 
     void AFullDiskIsNoticedDuringALongFile()
