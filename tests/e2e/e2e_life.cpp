@@ -322,6 +322,38 @@ private Q_SLOTS:
         QTRY_COMPARE(toys["A"].Second->text(), "9");
     }
 
+    // The window prints when it is left; the box that tells of the file must not take the click that left it.
+    void ABoxAfterAPdfLeavesTheClickAlone()
+    {
+        ToyBox toys;
+        QTemporaryDir folder;
+        const auto end = TheDesk.EndProgram;
+        InstallRealDesk(folder.path());
+        TheDesk.EndProgram = end;
+        ShowAtRest("A", Left);
+        ShowAtRest("B", Right);
+        When("B Deactivate", [] { TheDesk.PrintDocument({{}, {QStringLiteral("a line")}, QStringLiteral("Budget")}); });
+        QStringList before;
+        QTimer answering;
+        connect(&answering, &QTimer::timeout, this, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (box && box == QApplication::activeWindow()) {
+                answering.stop();
+                before = Log;
+                QVERIFY(Key("Return"));
+            }
+        });
+        answering.start(50);
+        TakeLog();
+        QVERIFY(ClickControl(*toys["A"].Button));
+        QTRY_VERIFY(!before.isEmpty());
+        QVERIFY(before.contains("B Deactivate"));
+        QCOMPARE(before.last(), "A Click");
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        Linger();
+        QCOMPARE(Active(), "A");
+    }
+
     void AMenuIsNoMove()
     {
         ToyBox toys;

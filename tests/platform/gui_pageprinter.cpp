@@ -3,7 +3,10 @@
 #include "TestProgram.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/PagePrinter.h"
+#include "platform/desk/Printer.h"
+#include "platform/values/Locale.h"
 
+#include <QPaintEngine>
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QProcess>
@@ -11,6 +14,8 @@
 #include <QTemporaryDir>
 #include <csignal>
 #include <sys/resource.h>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -77,6 +82,45 @@ Place PlaceOf(const QString &word, const QString &path)
     return place;
 }
 
+/// A printer that fails at some point, as one does that is switched off or runs out of paper.
+class TestPrinter : public QPdfWriter
+{
+public:
+    enum Failure { Never, AtTheStart, AtTheSecondPage, AtTheEnd };
+
+    TestPrinter(Failure failure, const QString &path)
+        : QPdfWriter(failure == AtTheStart ? path + "/nowhere" : path), m_failure(failure), m_engine(failure)
+    {
+    }
+    bool newPage() override { return m_failure != AtTheSecondPage && QPdfWriter::newPage(); }
+
+protected:
+    QPaintEngine *paintEngine() const override
+    {
+        return m_failure == AtTheEnd ? const_cast<Engine *>(&m_engine) : QPdfWriter::paintEngine();
+    }
+
+private:
+    /// Draws nothing and cannot finish.
+    class Engine : public QPaintEngine
+    {
+    public:
+        explicit Engine(Failure failure) : QPaintEngine(AllFeatures), m_ends(failure != AtTheEnd) {}
+        bool begin(QPaintDevice *) override { return true; }
+        bool end() override { return m_ends; }
+        void updateState(const QPaintEngineState &) override {}
+        void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+        void drawTextItem(const QPointF &, const QTextItem &) override {}
+        Type type() const override { return User; }
+
+    private:
+        bool m_ends;
+    };
+
+    Failure m_failure;
+    Engine m_engine;
+};
+
 constexpr double Margin = 15 / 25.4 * 72; // points
 
 } // namespace
@@ -86,6 +130,11 @@ class gui_pageprinter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init()
+    {
+        TheDesk.Now = [] { return QDateTime(QDate(2004, 1, 5), QTime(9, 30, 1)); };
+    }
+
     void APageHoldsWhatFitsAndNoLineIsLost_data()
     {
         QTest::addColumn<int>("lines");
@@ -233,16 +282,97 @@ private Q_SLOTS:
             QSKIP("this machine has a printer, and a test prints nothing on it");
         TheDesk.Now = [] { return QDateTime(QDate(2004, 1, 5), QTime(9, 30, 1)); };
         const QString folder = m_folder.filePath("house/printed"); // not there yet
-        const PrintJob job{Courier(8), Numbered(200)};
+        const PrintJob job{Courier(8), Numbered(200), QStringLiteral("Savings Forecast")};
         const QString first = PrintToPaperOrPdf(job, folder);
-        QCOMPARE(first, folder + "/2004-01-05 09-30-01.pdf");
-        const QString second = PrintToPaperOrPdf(job, folder); // in the same second; nothing is overwritten
-        QCOMPARE(second, folder + "/2004-01-05 09-30-01 (2).pdf");
-        QCOMPARE(QDir(folder).entryList(QDir::Files).size(), 2);
+        QCOMPARE(first, folder + "/2004-01-05 Savings Forecast.pdf");
+        QCOMPARE(PrintToPaperOrPdf(job, folder), folder + "/2004-01-05 Savings Forecast (2).pdf");
+        QCOMPARE(PrintToPaperOrPdf(job, folder), folder + "/2004-01-05 Savings Forecast (3).pdf");
+        QCOMPARE(QDir(folder).entryList(QDir::Files).size(), 3);
         const QStringList pages = PagesOf(first);
         QVERIFY(pages.size() >= 3);
         QVERIFY(pages[0].contains("Line 1\n"));
         QVERIFY(pages.last().contains("Line 200"));
+    }
+
+    void AFileIsCalledByItsDocument_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("as it is") << "New roof"
+                                  << "New roof";
+        QTest::newRow("letters of every kind") << u"Žižkov €"_s << u"Žižkov €"_s;
+        QTest::newRow("a folder's separator") << "Car/boat"
+                                              << "Car-boat";
+        QTest::newRow("no way out of the folder") << "../../etc/passwd"
+                                                  << "..-..-etc-passwd";
+        QTest::newRow("signs that other disks refuse") << "a\\b:c*d?e\"f<g>h|i"
+                                                       << "a-b-c-d-e-f-g-h-i";
+        QTest::newRow("many in a row") << "who???"
+                                       << "who-";
+        QTest::newRow("a line end") << "one\ntwo"
+                                    << "one-two";
+        QTest::newRow("blanks around") << "  roof "
+                                       << "roof";
+        QTest::newRow("too long for a file") << QString(300, QChar(0x20AC)) << QString(60, QChar(0x20AC));
+        QTest::newRow("no name") << ""
+                                 << "Report";
+    }
+    void AFileIsCalledByItsDocument()
+    {
+        QFETCH(QString, document);
+        QFETCH(QString, file);
+        TheDesk.Now = [] { return QDateTime(QDate(2026, 11, 21), QTime(9, 30, 1)); };
+        const QString folder = m_folder.filePath("named");
+        QCOMPARE(PrintToPaperOrPdf({Courier(8), Numbered(1), document}, folder, nullptr),
+                 folder + "/2026-11-21 " + file + ".pdf");
+        QVERIFY(QDir(folder).removeRecursively());
+    }
+
+    void PaperIsThatOfTheUsersCountry_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<double>("width"); // in points
+        QTest::newRow("none chosen") << QLocale::c() << 612.0;
+        QTest::newRow("United States") << QLocale(QLocale::English, QLocale::UnitedStates) << 612.0;
+        QTest::newRow("Germany") << QLocale(QLocale::German, QLocale::Germany) << 595.0;
+        QTest::newRow("United Kingdom") << QLocale(QLocale::English, QLocale::UnitedKingdom) << 595.0;
+    }
+    void PaperIsThatOfTheUsersCountry()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(double, width);
+        const QLocale before = UserLocale();
+        SetUserLocale(locale);
+        const QString path = PrintToPaperOrPdf({Courier(8), Numbered(1)}, m_folder.filePath("paper"), nullptr);
+        SetUserLocale(before);
+        QVERIFY(qAbs(PlaceOf("Line", path).PageWidth - width) < 1);
+    }
+
+    void APrinterThatFailsLeavesAPdf_data()
+    {
+        QTest::addColumn<int>("failure");
+        QTest::newRow("at the start") << int(TestPrinter::AtTheStart);
+        QTest::newRow("at the second page") << int(TestPrinter::AtTheSecondPage);
+        QTest::newRow("at the end") << int(TestPrinter::AtTheEnd);
+    }
+    void APrinterThatFailsLeavesAPdf()
+    {
+        QFETCH(int, failure);
+        TestPrinter printer(TestPrinter::Failure(failure), m_folder.filePath("paper.out"));
+        const PrintJob job{Courier(8), Numbered(200), QStringLiteral("Budget")};
+        const QString path = PrintToPaperOrPdf(job, m_folder.filePath("failed"), &printer);
+        const QStringList pages = PagesOf(path);
+        QVERIFY(pages.size() >= 3);
+        QVERIFY(pages[0].contains("Line 1\n"));
+        QVERIFY(pages.last().contains("Line 200"));
+    }
+
+    void APrinterThatWorksLeavesNone()
+    {
+        TestPrinter printer(TestPrinter::Never, m_folder.filePath("paper.out"));
+        const QString folder = m_folder.filePath("none");
+        QCOMPARE(PrintToPaperOrPdf({Courier(8), Numbered(200)}, folder, &printer), QString());
+        QVERIFY(!QDir(folder).exists());
     }
 
     void WhereTheFolderCannotBeMadeThePagesGoToTheDocuments()

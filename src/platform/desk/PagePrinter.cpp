@@ -1,6 +1,7 @@
 #include "platform/desk/PagePrinter.h"
 
 #include "platform/desk/Desk.h"
+#include "platform/values/Locale.h"
 #include "platform/values/RuntimeError.h"
 
 #include <QDir>
@@ -17,7 +18,7 @@
 
 namespace {
 
-constexpr qreal Margin = 15; // millimetres
+constexpr QMarginsF PageMargins(15, 15, 15, 15); // millimetres
 constexpr int CharactersWide = 80;
 
 QFont PageFont(const PrintFont &font, QPagedPaintDevice &device)
@@ -48,18 +49,31 @@ QString WritableFolder(const QString &folder)
     return documents;
 }
 
-QString FreePdfPath(const QString &folder)
+/// A document's name as part of a file's name: signs that some disk or desktop cannot take become "-".
+QString InFileName(QString name)
 {
-    const QString stamp = TheDesk.Now().toString(QStringLiteral("yyyy-MM-dd hh-mm-ss"));
-    QString path = QStringLiteral("%1/%2.pdf").arg(folder, stamp);
+    static const QRegularExpression refused(QStringLiteral(R"([\x00-\x1F\x7F/\\:*?"<>|]+)"));
+    name.replace(refused, QStringLiteral("-"));
+    constexpr qsizetype greatestLength = 60; // in the longest letters still below the 255 bytes that disks take
+    name = name.left(greatestLength).simplified();
+    return name.isEmpty() ? QStringLiteral("Report") : name;
+}
+
+/// "2026-11-21 Savings Forecast.pdf", and with "(2)" and so on where that is taken.
+QString FreePdfPath(const QString &folder, const QString &documentName)
+{
+    const QString name =
+        TheDesk.Now().toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char(' ') + InFileName(documentName);
+    QString path = QStringLiteral("%1/%2.pdf").arg(folder, name);
     for (int copy = 2; QFile::exists(path); ++copy)
-        path = QStringLiteral("%1/%2 (%3).pdf").arg(folder, stamp).arg(copy);
+        path = QStringLiteral("%1/%2 (%3).pdf").arg(folder, name).arg(copy);
     return path;
 }
 
 QPageSize::PageSizeId PaperOf(const QLocale &locale)
 {
-    return locale.measurementSystem() == QLocale::MetricSystem ? QPageSize::A4 : QPageSize::Letter;
+    // The British measure roads in miles, but not paper.
+    return locale.measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter : QPageSize::A4;
 }
 
 } // namespace
@@ -95,34 +109,39 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
         }
         top += metrics.lineSpacing();
     }
-    painter.end();
+    if (!painter.end())
+        RaiseError(RuntimeError::DeviceError);
     return pages;
 }
 
 QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
 {
-    const QMarginsF margins(Margin, Margin, Margin, Margin);
     QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull()) // printers may be installed without one being the default
         info = QPrinterInfo::availablePrinters().value(0);
-    if (!info.isNull()) {
-        QPrinter printer(info, QPrinter::HighResolution);
-        printer.setDocName(job.Lines.value(2).trimmed());
-        printer.setPageMargins(margins, QPageLayout::Millimeter);
-        // A printer that fails does not take the pages with it: they become PDF like without one.
-        if (ResumeNext([&] { DrawDocument(job, printer); }, [](const RuntimeError &) {}))
-            return {};
-    }
-    const QString path = FreePdfPath(WritableFolder(folder));
+    if (info.isNull())
+        return PrintToPaperOrPdf(job, folder, nullptr);
+    QPrinter printer(info, QPrinter::HighResolution);
+    printer.setDocName(job.Name);
+    printer.setPageMargins(PageMargins, QPageLayout::Millimeter);
+    return PrintToPaperOrPdf(job, folder, &printer);
+}
+
+QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPaintDevice *printer)
+{
+    // A printer that fails does not take the pages with it: they become PDF like without one.
+    if (printer && ResumeNext([&] { DrawDocument(job, *printer); }, [](const RuntimeError &) {}))
+        return {};
+    const QString path = FreePdfPath(WritableFolder(folder), job.Name);
     QSaveFile file(path); // a disk that fills up leaves no half document behind
     if (!file.open(QIODevice::WriteOnly))
         RaiseError(RuntimeError::DeviceError);
     {
         QPdfWriter pdf(&file);
         pdf.setCreator(AppTitle);
-        pdf.setTitle(job.Lines.value(2).trimmed());
-        pdf.setPageSize(QPageSize(PaperOf(QLocale::system())));
-        pdf.setPageMargins(margins, QPageLayout::Millimeter);
+        pdf.setTitle(job.Name);
+        pdf.setPageSize(QPageSize(PaperOf(UserLocale())));
+        pdf.setPageMargins(PageMargins, QPageLayout::Millimeter);
         DrawDocument(job, pdf);
     }
     if (!file.commit())

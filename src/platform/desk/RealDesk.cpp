@@ -12,7 +12,10 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <cstdlib>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -112,6 +115,56 @@ QString AskFile(const FileQuestion &question)
 
 } // namespace
 
+namespace {
+
+/// Tells of the documents that have become files. The leaving of a window prints, and a box would swallow the click
+/// that left it; so the box comes once that click has done its work, and names all the files there are by then.
+class PdfNotice : public QObject
+{
+public:
+    PdfNotice()
+    {
+        m_timer.setSingleShot(true);
+        connect(&m_timer, &QTimer::timeout, this, [this] { UserIsBusy() ? m_timer.start(Rest) : Show(); });
+    }
+
+    void Add(const QString &path)
+    {
+        m_paths += path;
+        m_timer.start(Rest);
+    }
+
+    /// Now, whatever the user does.
+    void Show()
+    {
+        m_timer.stop();
+        if (m_paths.isEmpty())
+            return;
+        const QStringList paths = std::exchange(m_paths, {});
+        const QString words = paths.size() == 1
+                                  ? QStringLiteral("No printer could be used. The printed pages are in the file\n%1")
+                                  : QStringLiteral("No printer could be used. The printed pages are in the files\n%1");
+        ShowMessage(words.arg(paths.join(QLatin1Char('\n'))), AppTitle, Icon::Information);
+    }
+
+private:
+    // The window system tells of the move to another window first, and of the press that caused it a moment later.
+    static constexpr int Rest = 200; // milliseconds
+
+    static bool UserIsBusy()
+    {
+        // A menu, or a box or dialog of the desk; a modal window of the program is a place to work in like any other.
+        QWidget *modal = QApplication::activeModalWidget();
+        return QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget() ||
+               (modal && !qobject_cast<Form *>(modal));
+    }
+
+    QTimer m_timer;
+    QStringList m_paths;
+};
+
+} // namespace
+
 void InstallRealDesk(const QString &printedFolder)
 {
     TheDesk.ShowMessage = ShowBox;
@@ -119,11 +172,11 @@ void InstallRealDesk(const QString &printedFolder)
     TheDesk.ShowHelp = [](const HelpQuestion &) {
         ShowMessage(QStringLiteral("The help pages are not part of this version yet."), AppTitle, Icon::Information);
     };
-    TheDesk.PrintDocument = [printedFolder](const PrintJob &job) {
+    const auto notice = std::make_shared<PdfNotice>();
+    TheDesk.PrintDocument = [printedFolder, notice](const PrintJob &job) {
         const QString pdf = PrintToPaperOrPdf(job, printedFolder);
         if (!pdf.isEmpty())
-            ShowMessage(QStringLiteral("No printer could be used. The printed pages are in the file\n%1").arg(pdf),
-                        AppTitle, Icon::Information);
+            notice->Add(pdf);
     };
     TheDesk.Now = [] { return QDateTime::currentDateTime(); };
     TheDesk.ProgramFolder = [] { return QCoreApplication::applicationDirPath(); };
@@ -140,6 +193,10 @@ void InstallRealDesk(const QString &printedFolder)
             while (QApplication::overrideCursor())
                 QApplication::restoreOverrideCursor();
     };
-    // At once: no window gets another event, and nothing else is saved.
-    TheDesk.EndProgram = [] { std::_Exit(EXIT_SUCCESS); };
+    // At once: no window gets another event, and nothing else is saved. A click that leaves both a window that prints
+    // and the program is answered before that.
+    TheDesk.EndProgram = [notice] {
+        notice->Show();
+        std::_Exit(EXIT_SUCCESS);
+    };
 }

@@ -1,0 +1,206 @@
+// The real desk: its own boxes, and what they wait for.
+#include "InChild.h"
+#include "TestProgram.h"
+#include "ToyWindows.h"
+#include "platform/desk/RealDesk.h"
+
+#include <QMenu>
+#include <QMessageBox>
+#include <QPrinterInfo>
+#include <QTemporaryDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Looks at every box that comes, leaves it a while and answers it with its button.
+class Reader : public QObject
+{
+public:
+    struct Box {
+        QString Title;
+        QString Text;
+        QMessageBox::Icon TheIcon;
+        QStringList LogBefore;
+        bool IsAlone; ///< no other box stood open
+    };
+    QList<Box> Read;
+
+    Reader()
+    {
+        connect(&m_timer, &QTimer::timeout, this, &Reader::Look);
+        m_timer.start(20);
+    }
+
+private:
+    void Look()
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || box == m_box)
+            return;
+        Read += Box{box->windowTitle(), box->text(), box->icon(), Log, !m_box};
+        m_box = box;
+        QTimer::singleShot(500, box, [box] { box->button(QMessageBox::Ok)->click(); });
+    }
+    QTimer m_timer;
+    QPointer<QMessageBox> m_box;
+};
+
+void PrintDocument(const QString &name)
+{
+    PrintJob job;
+    job.Lines = QStringList{u"a line"_s};
+    job.Name = name;
+    TheDesk.PrintDocument(job);
+}
+
+QPoint MiddleOf(const QWidget &control)
+{
+    return control.mapTo(control.window(), control.rect().center());
+}
+
+/// The window system has moved the focus to a window, as at the user's press on it, which follows.
+void MoveTo(ToyWindow &window)
+{
+    window.activateWindow();
+    QTRY_COMPARE(TheWindows.Active(), &window);
+}
+
+} // namespace
+
+class gui_realdesk : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    QString Printed(const QString &name) const { return m_folder.filePath(u"printed/2026-11-21 "_s + name); }
+
+    /// Windows A and B, of which B prints when it is left.
+    void ShowWindows()
+    {
+        const auto end = TheDesk.EndProgram;
+        InstallRealDesk(m_folder.filePath(u"printed"_s));
+        TheDesk.EndProgram = end;
+        TheDesk.Now = [] { return QDateTime(QDate(2026, 11, 21), QTime(9, 30)); };
+        Show("A");
+        Show("B");
+        Settle();
+        QTest::qWait(750); // until a move is the user's own
+        TakeLog();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_folder.isValid());
+        if (!QPrinterInfo::availablePrinters().isEmpty())
+            QSKIP("this machine has a printer, and a test prints nothing on it");
+    }
+    void cleanup() { QDir(m_folder.filePath(u"printed"_s)).removeRecursively(); }
+
+    void TheBoxAfterAPdfLeavesTheClickAlone()
+    {
+        ToyBox toys;
+        ShowWindows();
+        Reader reader;
+        When("B Deactivate", [] { PrintDocument(u"Budget"_s); });
+        MoveTo(toys["A"]);
+        QVERIFY(QFile::exists(Printed(u"Budget.pdf"_s)));
+        QWindow *window = toys["A"].windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, MiddleOf(*toys["A"].Button));
+        QTest::qWait(600); // however long the button is held
+        QCOMPARE(reader.Read.size(), 0);
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, MiddleOf(*toys["A"].Button));
+        QVERIFY(Log.contains(u"A Click"_s));
+        QTRY_COMPARE(reader.Read.size(), 1);
+        QVERIFY(reader.Read[0].LogBefore.contains(u"A Click"_s));
+        QCOMPARE(reader.Read[0].Title, AppTitle);
+        QCOMPARE(reader.Read[0].Text,
+                 u"No printer could be used. The printed pages are in the file\n"_s + Printed(u"Budget.pdf"_s));
+        QCOMPARE(reader.Read[0].TheIcon, QMessageBox::Information);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(Active(), u"A"_s);
+        QTest::qWait(500);
+        QCOMPARE(reader.Read.size(), 1); // once
+    }
+
+    void SeveralDocumentsAreOneBox()
+    {
+        ToyBox toys;
+        ShowWindows();
+        Reader reader;
+        PrintDocument(u"Budget"_s);
+        PrintDocument(u"Overhead"_s);
+        QCOMPARE(reader.Read.size(), 0); // not before the handler is done
+        QTRY_COMPARE(reader.Read.size(), 1);
+        QCOMPARE(reader.Read[0].Text, u"No printer could be used. The printed pages are in the files\n"_s +
+                                          Printed(u"Budget.pdf"_s) + u'\n' + Printed(u"Overhead.pdf"_s));
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        PrintDocument(u"Budget"_s);
+        QTRY_COMPARE(reader.Read.size(), 2);
+        QCOMPARE(reader.Read[1].Text.section(u'\n', 1), Printed(u"Budget (2).pdf"_s));
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+    }
+
+    void TheBoxWaitsForTheBoxOfTheClick()
+    {
+        ToyBox toys;
+        ShowWindows();
+        Reader reader;
+        When("B Deactivate", [] { PrintDocument(u"Budget"_s); });
+        When("A Click", [] { ShowMessage(u"refused"_s, u"A"_s, Icon::Stop); });
+        MoveTo(toys["A"]);
+        QTest::mouseClick(toys["A"].windowHandle(), Qt::LeftButton, Qt::NoModifier, MiddleOf(*toys["A"].Button));
+        QTRY_COMPARE(reader.Read.size(), 2);
+        QCOMPARE(reader.Read[0].Text, u"refused"_s);
+        QVERIFY(reader.Read[1].IsAlone);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+    }
+
+    void TheBoxWaitsForAMenu()
+    {
+        ToyBox toys;
+        ShowWindows();
+        Reader reader;
+        QMenu menu;
+        menu.addAction(u"Open"_s, [] { Tell(u"chosen"_s); });
+        PrintDocument(u"Budget"_s);
+        menu.popup(toys["B"].mapToGlobal(QPoint(20, 20)));
+        QTest::qWait(600);
+        QCOMPARE(reader.Read.size(), 0);
+        QTest::keyClick(&menu, Qt::Key_Down);
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QTRY_COMPARE(reader.Read.size(), 1);
+        QVERIFY(reader.Read[0].LogBefore.contains(u"chosen"_s));
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+    }
+
+    // The click that leaves both the window and the program.
+    void TheBoxComesBeforeTheProgramEnds()
+    {
+        ToyBox toys;
+        ShowWindows();
+        const QString said = m_folder.filePath(u"said"_s);
+        QCOMPARE(InChild([&] {
+                     InstallRealDesk(m_folder.filePath(u"printed"_s));
+                     Reader reader;
+                     QTimer::singleShot(300, &reader, [&] {
+                         QFile file(said);
+                         if (file.open(QIODevice::WriteOnly))
+                             file.write(reader.Read.isEmpty() ? "nothing" : reader.Read[0].Text.toUtf8());
+                     });
+                     PrintDocument(u"Budget"_s);
+                     TheDesk.EndProgram();
+                     return 1; // never reached
+                 }),
+                 0);
+        QFile file(said);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().startsWith("No printer could be used."));
+    }
+};
+
+REGISTER_TEST(gui_realdesk)
+#include "gui_realdesk.moc"
