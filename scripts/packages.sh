@@ -9,6 +9,8 @@ packages_to_run=(
     qt6-base-dev        # Qt 6: core, widgets, printing, and what runs them under X
     qt6-svg-dev         # draws the icons
     libxcb1-dev         # talks to the X server about windows of other programs
+    libxcb-ewmh-dev     # the same in the terms of today's window managers
+    libxcb-icccm4-dev   # and in those that all windows share
     qt6-wayland         # what runs Qt programs on a Wayland desktop without X
     qt6-gtk-platformtheme # fonts, colours and file dialogs of a GNOME desktop
     fonts-dejavu-core   # a font on a machine that has none

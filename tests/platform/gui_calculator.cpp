@@ -155,6 +155,22 @@ private Q_SLOTS:
         QVERIFY(users.waitForFinished());
     }
 
+    void OneThatCouldNotBeBroughtForwardIsClosedWithItsSuccessor()
+    {
+        const QString calculator = QStringLiteral("kcalc");
+        Install(calculator);
+        StartCalculator();
+        QTRY_VERIFY(Runs(ProcessOf(calculator)));
+        const int first = ProcessOf(calculator);
+        QCOMPARE(ErrorOf(BringCalculatorForward), 5); // nothing here can raise it
+        StartCalculator();
+        QTRY_VERIFY(ProcessOf(calculator) != first && Runs(ProcessOf(calculator)));
+        QVERIFY(Runs(first)); // the user may still work in it
+        CloseCalculator();
+        QTRY_VERIFY(!Runs(first));
+        QTRY_VERIFY(!Runs(ProcessOf(calculator)));
+    }
+
     void AUsersCalculatorCountsAsNoneOfOurs()
     {
         Install(QStringLiteral("xcalc"));

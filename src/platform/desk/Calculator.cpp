@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <csignal>
+#include <utility>
 
 namespace {
 
@@ -28,7 +29,7 @@ constexpr UsualCalculator UsualCalculators[] = {
 /// Eleven keyboard steps down and twenty-five to the right.
 constexpr QPoint PlaceBeside(250, 110);
 
-/// The calculator that this program started; no process before the first start.
+/// A calculator that this program started; no process before the first start.
 struct StartedCalculator {
     qint64 ProcessId = 0;
     QByteArray StartTime; ///< tells the process from a later one that was given the same number
@@ -36,7 +37,9 @@ struct StartedCalculator {
     bool KeepsToOneInstance = false;
     bool Wanted = false; ///< the user has asked for it, so it keeps the keyboard
 };
-StartedCalculator Started;
+StartedCalculator Started; // the last one
+/// Those before it. One that could not be brought forward runs on beside its successor and ends with the program.
+QList<StartedCalculator> StartedBefore;
 
 struct InstalledCalculator {
     QString Path;
@@ -69,10 +72,10 @@ QByteArray StartTimeOf(qint64 processId)
     return ended ? QByteArray() : figures.value(startTime);
 }
 
-bool Runs()
+bool Runs(const StartedCalculator &calculator = Started)
 {
-    return Started.ProcessId != 0 && !Started.StartTime.isEmpty() &&
-           StartTimeOf(Started.ProcessId) == Started.StartTime;
+    return calculator.ProcessId != 0 && !calculator.StartTime.isEmpty() &&
+           StartTimeOf(calculator.ProcessId) == calculator.StartTime;
 }
 
 /// The name under which the oldest of the calculators is started, to know its window by.
@@ -95,9 +98,9 @@ qint64 Launch(const QString &path)
     return process.startDetached(&processId) ? processId : 0;
 }
 
-DesktopWindow CalculatorWindow()
+DesktopWindow CalculatorWindow(const StartedCalculator &calculator = Started)
 {
-    return FindDesktopWindow(Started.ProcessId, InstanceName().toLatin1());
+    return FindDesktopWindow(calculator.ProcessId, InstanceName().toLatin1());
 }
 
 /// Waits for the window of a calculator that has just been started, without holding up anything; then places it, and
@@ -174,6 +177,8 @@ void StartCalculator()
     const qint64 processId = calculator.Path.isEmpty() ? 0 : Launch(calculator.Path);
     if (processId == 0)
         RaiseError(RuntimeError::FileNotFound);
+    if (Runs())
+        StartedBefore += Started;
     Started = {processId, StartTimeOf(processId), calculator.Path, calculator.Kind.KeepsToOneInstance, Started.Wanted};
     if (DesktopWindowsReachable())
         new Placement(QCoreApplication::instance());
@@ -194,10 +199,12 @@ void BringCalculatorForward()
 
 void CloseCalculator()
 {
-    if (Runs()) {
-        const DesktopWindow window = CalculatorWindow();
+    StartedBefore += std::exchange(Started, {});
+    for (const StartedCalculator &calculator : std::exchange(StartedBefore, {})) {
+        if (!Runs(calculator))
+            continue;
+        const DesktopWindow window = CalculatorWindow(calculator);
         if (window == 0 || !CloseDesktopWindow(window))
-            ::kill(pid_t(Started.ProcessId), SIGTERM);
+            ::kill(pid_t(calculator.ProcessId), SIGTERM);
     }
-    Started = {};
 }

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <memory>
 #include <xcb/xcb.h>
+#include <xcb/xcb_ewmh.h>
+#include <xcb/xcb_icccm.h>
 
 namespace {
 
@@ -24,9 +26,20 @@ xcb_connection_t *Connection()
     return x11 ? x11->connection() : nullptr;
 }
 
+constexpr int FirstScreen = 0;
+
 xcb_window_t RootWindow(xcb_connection_t *connection)
 {
     return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
+/// The connection together with the names that window managers go by.
+xcb_ewmh_connection_t *Manager(xcb_connection_t *connection)
+{
+    static xcb_ewmh_connection_t manager = {};
+    if (manager.connection != connection)
+        xcb_ewmh_init_atoms_replies(&manager, xcb_ewmh_init_atoms(connection, &manager), nullptr);
+    return &manager;
 }
 
 xcb_atom_t Atom(xcb_connection_t *connection, const QByteArray &name)
@@ -34,29 +47,6 @@ xcb_atom_t Atom(xcb_connection_t *connection, const QByteArray &name)
     const ReplyPointer<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
         connection, xcb_intern_atom(connection, 0, quint16(name.size()), name.constData()), nullptr));
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
-
-QByteArray Property(xcb_connection_t *connection, xcb_window_t window, const QByteArray &name)
-{
-    constexpr quint32 greatestLength = 16384; // in units of four bytes
-    const ReplyPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        connection,
-        xcb_get_property(connection, 0, window, Atom(connection, name), XCB_GET_PROPERTY_TYPE_ANY, 0, greatestLength),
-        nullptr));
-    if (!reply)
-        return {};
-    return QByteArray(static_cast<const char *>(xcb_get_property_value(reply.get())),
-                      xcb_get_property_value_length(reply.get()));
-}
-
-/// A property that lists windows, atoms or numbers.
-QList<quint32> NumbersProperty(xcb_connection_t *connection, xcb_window_t window, const QByteArray &name)
-{
-    const QByteArray bytes = Property(connection, window, name);
-    QList<quint32> numbers(bytes.size() / qsizetype(sizeof(quint32)));
-    std::copy_n(bytes.constData(), numbers.size() * qsizetype(sizeof(quint32)),
-                reinterpret_cast<char *>(numbers.data()));
-    return numbers;
 }
 
 /// The tree's answer for a window; its children stand bottom-most first.
@@ -74,38 +64,67 @@ ReplyPointer<xcb_get_geometry_reply_t> Geometry(xcb_connection_t *connection, xc
 
 bool HasWindowManager(xcb_connection_t *connection)
 {
-    return !Property(connection, RootWindow(connection), "_NET_SUPPORTING_WM_CHECK").isEmpty();
+    xcb_ewmh_connection_t *manager = Manager(connection);
+    xcb_window_t window = 0;
+    return xcb_ewmh_get_supporting_wm_check_reply(
+        manager, xcb_ewmh_get_supporting_wm_check(manager, RootWindow(connection)), &window, nullptr);
 }
 
 /// The windows of all programs, oldest first where a window manager keeps the list.
-QList<quint32> ProgramWindows(xcb_connection_t *connection)
+QList<xcb_window_t> ProgramWindows(xcb_connection_t *connection)
 {
-    if (HasWindowManager(connection))
-        return NumbersProperty(connection, RootWindow(connection), "_NET_CLIENT_LIST");
+    if (HasWindowManager(connection)) {
+        xcb_ewmh_connection_t *manager = Manager(connection);
+        xcb_ewmh_get_windows_reply_t list = {};
+        if (!xcb_ewmh_get_client_list_reply(manager, xcb_ewmh_get_client_list(manager, FirstScreen), &list, nullptr))
+            return {};
+        const QList<xcb_window_t> windows(list.windows, list.windows + list.windows_len);
+        xcb_ewmh_get_windows_reply_wipe(&list);
+        return windows;
+    }
     const auto tree = Tree(connection, RootWindow(connection));
     if (!tree)
         return {};
     const xcb_window_t *children = xcb_query_tree_children(tree.get());
-    return QList<quint32>(children, children + xcb_query_tree_children_length(tree.get()));
+    return QList<xcb_window_t>(children, children + xcb_query_tree_children_length(tree.get()));
 }
 
-void Send(xcb_connection_t *connection, xcb_window_t receiver, quint32 mask, const xcb_client_message_event_t &event)
+bool IsOfProcess(xcb_connection_t *connection, xcb_window_t window, qint64 processId)
 {
-    xcb_send_event(connection, 0, receiver, mask, reinterpret_cast<const char *>(&event));
-    // The program may end right after this; the answer to any question tells that the message has arrived.
+    xcb_ewmh_connection_t *manager = Manager(connection);
+    quint32 process = 0;
+    return xcb_ewmh_get_wm_pid_reply(manager, xcb_ewmh_get_wm_pid(manager, window), &process, nullptr) &&
+           process == quint32(processId);
+}
+
+bool HasInstanceName(xcb_connection_t *connection, xcb_window_t window, const QByteArray &name)
+{
+    xcb_icccm_get_wm_class_reply_t names = {};
+    if (!xcb_icccm_get_wm_class_reply(connection, xcb_icccm_get_wm_class(connection, window), &names, nullptr))
+        return false;
+    const bool same = names.instance_name == name;
+    xcb_icccm_get_wm_class_reply_wipe(&names);
+    return same;
+}
+
+/// Whether a window understands a message of the protocols between programs and window managers.
+bool Understands(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t message)
+{
+    xcb_icccm_get_wm_protocols_reply_t protocols = {};
+    const auto question = xcb_icccm_get_wm_protocols(connection, window, Manager(connection)->WM_PROTOCOLS);
+    if (!xcb_icccm_get_wm_protocols_reply(connection, question, &protocols, nullptr))
+        return false;
+    xcb_atom_t *const end = protocols.atoms + protocols.atoms_len;
+    const bool understands = std::find(protocols.atoms, end, message) != end;
+    xcb_icccm_get_wm_protocols_reply_wipe(&protocols);
+    return understands;
+}
+
+/// The program may end right after a message; the answer to any question tells that the message has arrived.
+void WaitForArrival(xcb_connection_t *connection)
+{
     const ReplyPointer<xcb_get_input_focus_reply_t> arrived(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
-}
-
-xcb_client_message_event_t MessageTo(xcb_window_t window, xcb_atom_t type, quint32 first)
-{
-    xcb_client_message_event_t event = {};
-    event.response_type = XCB_CLIENT_MESSAGE;
-    event.format = 32;
-    event.window = window;
-    event.type = type;
-    event.data.data32[0] = first;
-    return event;
 }
 
 } // namespace
@@ -120,20 +139,21 @@ DesktopWindow FindDesktopWindow(qint64 processId, const QByteArray &instanceName
     xcb_connection_t *connection = Connection();
     if (!connection)
         return 0;
-    for (const quint32 window : ProgramWindows(connection)) {
-        if (NumbersProperty(connection, window, "_NET_WM_PID") == QList<quint32>{quint32(processId)})
+    for (const xcb_window_t window : ProgramWindows(connection))
+        if (IsOfProcess(connection, window, processId) || HasInstanceName(connection, window, instanceName))
             return window;
-        // The class property holds the instance name, a zero byte and the class name.
-        if (Property(connection, window, "WM_CLASS").startsWith(instanceName + '\0'))
-            return window;
-    }
     return 0;
 }
 
 DesktopWindow ActiveDesktopWindow()
 {
     xcb_connection_t *connection = Connection();
-    return connection ? NumbersProperty(connection, RootWindow(connection), "_NET_ACTIVE_WINDOW").value(0) : 0;
+    if (!connection)
+        return 0;
+    xcb_ewmh_connection_t *manager = Manager(connection);
+    xcb_window_t active = 0;
+    xcb_ewmh_get_active_window_reply(manager, xcb_ewmh_get_active_window(manager, FirstScreen), &active, nullptr);
+    return active;
 }
 
 void MoveDesktopWindow(DesktopWindow window, QPoint distance)
@@ -171,9 +191,10 @@ void ActivateDesktopWindow(DesktopWindow window)
         xcb_flush(connection);
         return;
     }
-    constexpr quint32 onBehalfOfTheUser = 2; // a wish of the program alone may be refused
-    Send(connection, RootWindow(connection), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-         MessageTo(window, Atom(connection, "_NET_ACTIVE_WINDOW"), onBehalfOfTheUser));
+    // A wish of the program alone may be refused, so it is told as the user's.
+    xcb_ewmh_request_change_active_window(Manager(connection), FirstScreen, window, XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER,
+                                          XCB_CURRENT_TIME, XCB_NONE);
+    WaitForArrival(connection);
 }
 
 bool CloseDesktopWindow(DesktopWindow window)
@@ -182,8 +203,15 @@ bool CloseDesktopWindow(DesktopWindow window)
     if (!connection)
         return false;
     const xcb_atom_t closing = Atom(connection, "WM_DELETE_WINDOW");
-    if (!NumbersProperty(connection, window, "WM_PROTOCOLS").contains(closing))
+    if (!Understands(connection, window, closing))
         return false;
-    Send(connection, window, XCB_EVENT_MASK_NO_EVENT, MessageTo(window, Atom(connection, "WM_PROTOCOLS"), closing));
+    xcb_client_message_event_t event = {};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = Manager(connection)->WM_PROTOCOLS;
+    event.data.data32[0] = closing;
+    xcb_send_event(connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char *>(&event));
+    WaitForArrival(connection);
     return true;
 }
