@@ -38,7 +38,7 @@ struct LoanDesign {
 constexpr EntryRule<LoanDesign> Rules[] = {
     {&LoanDesign::txtAmount, Numeric, "Amount is no amount"},
     {&LoanDesign::txtCount, Numeric, "Count is no number"},
-    {&LoanDesign::txtName, NotEmpty, "Name is empty", &LoanDesign::txtAmount},
+    {&LoanDesign::txtName, NotEmpty, "Name is empty", &LoanDesign::txtAmount, 31},
 };
 
 const QString Loan = u"frmLoan"_s;
@@ -122,26 +122,27 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("focus");
+        QTest::addColumn<int>("help");
         QTest::newRow("all fail: the first one speaks") << "x"
                                                         << "x"
                                                         << ""
                                                         << "Amount is no amount"
-                                                        << "txtAmount";
+                                                        << "txtAmount" << 30;
         QTest::newRow("the second") << "1"
                                     << "x"
                                     << ""
                                     << "Count is no number"
-                                    << "txtCount";
-        QTest::newRow("a rule with a focus of its own") << "1"
-                                                        << "2"
-                                                        << ""
-                                                        << "Name is empty"
-                                                        << "txtAmount";
+                                    << "txtCount" << 30;
+        QTest::newRow("with a focus and a help page of its own") << "1"
+                                                                 << "2"
+                                                                 << ""
+                                                                 << "Name is empty"
+                                                                 << "txtAmount" << 31;
         QTest::newRow("all hold") << "1"
                                   << "2"
                                   << "Car"
                                   << ""
-                                  << "cmdCalculate";
+                                  << "cmdCalculate" << 0;
     }
     void TheFirstRuleThatFailsIsShownAndMovesTheFocus()
     {
@@ -150,12 +151,13 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, text);
         QFETCH(QString, focus);
+        QFETCH(int, help);
         Loans desk;
         Fill(amount, count, name);
         Control(u"cmdCalculate"_s).setFocus();
         Press(u"cmdCalculate"_s);
         if (!text.isEmpty())
-            QCOMPARE(desk.TakeMessage(), (Message{text, u"Loans"_s, Icon::Warning, Buttons::OkHelp, 30}));
+            QCOMPARE(desk.TakeMessage(), (Message{text, u"Loans"_s, Icon::Warning, Buttons::OkHelp, help}));
         QCOMPARE(LoanWindow::Accepted, text.isEmpty());
         QCOMPARE(Focus(), focus);
     }

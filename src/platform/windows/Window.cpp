@@ -43,15 +43,18 @@ void WindowBase::Trap(const std::function<void()> &steps)
     TrapUnknownError(m_look.Title, steps);
 }
 
-void WindowBase::ShowText(const QString &text) const
+void WindowBase::ShowText(const QString &text, int helpContext) const
 {
+    const bool help = m_look.TheButtons == Buttons::OkHelp;
     ShowMessage(text, m_look.Title, m_look.TheIcon, m_look.TheButtons,
-                m_look.TheButtons == Buttons::OkHelp ? m_look.HelpContext : 0);
+                !help         ? 0
+                : helpContext ? helpContext
+                              : m_look.HelpContext);
 }
 
-void WindowBase::Refuse(const QString &text, QWidget *field)
+void WindowBase::Refuse(const QString &text, QWidget *field, int helpContext)
 {
-    ShowText(text);
+    ShowText(text, helpContext);
     // A window that is refused while another one is active comes to the front, or the user would not see the field.
     if (TheWindows.Active() != this && isVisible())
         TheWindows.Show(objectName());

@@ -29,6 +29,7 @@ struct EntryRule {
     bool (*Holds)(const QString &text);
     const char *Text;
     QLineEdit *UiForm::*Focus = nullptr; ///< where the focus goes if not to the field itself
+    int HelpContext = 0;                 ///< of the refusal's help button if not the window's
 };
 
 /// What needs no knowledge of the window's design.
@@ -54,10 +55,10 @@ protected:
 
     /// Runs steps; an error ends them with the unknown-error box under the window's title.
     void Trap(const std::function<void()> &steps);
-    /// Shows a message of the window.
-    void ShowText(const QString &text) const;
+    /// Shows a message of the window. A help context of 0 is the window's.
+    void ShowText(const QString &text, int helpContext = 0) const;
     /// Shows why an entry is refused and moves the focus to where it can be mended.
-    void Refuse(const QString &text, QWidget *field);
+    void Refuse(const QString &text, QWidget *field, int helpContext = 0);
     /// Closes the window as its exit button does.
     void Close();
 
@@ -83,7 +84,7 @@ protected:
         for (const EntryRule<UiForm> &rule : rules) {
             if (rule.Holds((ui.*rule.Field)->text()))
                 continue;
-            Refuse(QString::fromUtf8(rule.Text), ui.*(rule.Focus ? rule.Focus : rule.Field));
+            Refuse(QString::fromUtf8(rule.Text), ui.*(rule.Focus ? rule.Focus : rule.Field), rule.HelpContext);
             return false;
         }
         return true;
