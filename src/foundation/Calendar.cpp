@@ -7,6 +7,14 @@ namespace {
 // With pay at the month's end every date from the 28th on counts as the month's end, February or not.
 constexpr int MonthEndLimit = 28;
 
+/// The last day of the month `months` months after the one of `date`. The month behind it is computed first, so that
+/// the calendar ends with the November of the year 9999 here.
+QDate LastDayOfMonth(QDate date, int months)
+{
+    const QDate behind = AddMonths(date, months + 1);
+    return AddDays(behind, -behind.day());
+}
+
 QDate NextSemimonthly(QDate date)
 {
     const int limit = State.SecondPayDate == 0 ? MonthEndLimit : State.SecondPayDate;
@@ -15,34 +23,40 @@ QDate NextSemimonthly(QDate date)
         return DateSerial(date.year(), date.month() + 1, State.FirstPayDate);
     if (State.SecondPayDate != 0)
         return DateSerial(date.year(), date.month(), State.SecondPayDate);
-    const QDate nextMonth = AddMonths(date, 1);
-    return DateSerial(nextMonth.year(), nextMonth.month(), 0);
+    return LastDayOfMonth(date, 0);
 }
 
-/// Invalid for a MonthEndPay that is neither yes nor no.
-QDate NextMonthly(const DateText &date)
+QDate NextMonthly(QDate date)
 {
     if (State.MonthEndPay == 0)
-        return AddMonths(date.Date(), 1); // once clamped to the 28th or 29th, the chain stays there
-    if (State.MonthEndPay != -1)
-        return {};
-    const QDate afterNext = AddMonths(date.Date(), 2);
-    return DateSerial(afterNext.year(), afterNext.month(), 0);
+        return AddMonths(date, 1); // once clamped to the 28th or 29th, the chain stays there
+    return LastDayOfMonth(date, 1);
+}
+
+/// Monthly pay needs a MonthEndPay that is either yes or no.
+bool HasNextPayPeriod(qint16 frequency)
+{
+    return frequency == Weekly || frequency == Biweekly || frequency == Semimonthly ||
+           (frequency == Monthly && (State.MonthEndPay == 0 || State.MonthEndPay == -1));
 }
 
 } // namespace
 
+QDate NextPayPeriod(QDate date, qint16 frequency)
+{
+    if (!HasNextPayPeriod(frequency))
+        return {};
+    switch (frequency) {
+    case Semimonthly: return NextSemimonthly(date);
+    case Monthly: return NextMonthly(date);
+    default: return AddDays(date, frequency); // Weekly and Biweekly are numbers of days
+    }
+}
+
 DateText NextPayPeriod(const DateText &date, qint16 frequency)
 {
-    QDate next;
-    switch (frequency) {
-    case Weekly: next = AddDays(date.Date(), 7); break;
-    case Biweekly: next = AddDays(date.Date(), 14); break;
-    case Semimonthly: next = NextSemimonthly(date.Date()); break;
-    case Monthly: next = NextMonthly(date); break;
-    default: break;
-    }
-    return next.isValid() ? DateText(next) : DateText();
+    // Where there is no next pay period the date is not looked at: it may be the empty text of the one before.
+    return HasNextPayPeriod(frequency) ? DateText(NextPayPeriod(date.Date(), frequency)) : DateText();
 }
 
 QString OrdinalDueLabel(const QString &name, int day)

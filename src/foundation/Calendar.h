@@ -7,6 +7,8 @@
 /// looks at State.FirstPayDate and State.SecondPayDate, monthly pay at State.MonthEndPay.
 /// Raises error 13 if `date` is no date, error 5 beyond the year 9999.
 DateText NextPayPeriod(const DateText &date, qint16 frequency);
+/// The same on a date without text, for whoever walks many pay periods; an invalid date stands for the empty text.
+QDate NextPayPeriod(QDate date, qint16 frequency);
 
 /// "Rent - 1st", "Cable - 11th", "Phone - 22nd".
 QString OrdinalDueLabel(const QString &name, int day);

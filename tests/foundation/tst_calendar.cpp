@@ -14,9 +14,13 @@ QString Short(const QString &dashes)
     return QStringLiteral("%1/%2/%3").arg(parts[0].toInt()).arg(parts[1].toInt()).arg(parts[2].toInt());
 }
 
+/// The next pay period's text. The calendar on days without text has to agree with it.
 QString Next(const QString &date, int frequency)
 {
-    return NextPayPeriod(DateText(date), qint16(frequency)).Text();
+    const QString text = NextPayPeriod(DateText(date), qint16(frequency)).Text();
+    if (const QDate day = NextPayPeriod(ToDate(date), qint16(frequency)); DateText(day).Text() != text)
+        QTest::qFail("the calendar on days differs from the one on texts", __FILE__, __LINE__);
+    return text;
 }
 
 } // namespace
@@ -72,8 +76,10 @@ private Q_SLOTS:
         const QStringList dates = chain.split(QLatin1Char(' '));
         DateText date(dates.first());
         for (const QString &expected : dates.mid(1)) {
+            const QDate day = NextPayPeriod(date.Date(), qint16(frequency));
             date = NextPayPeriod(date, qint16(frequency));
             QCOMPARE(date.Text(), Short(expected));
+            QCOMPARE(day, date.Date());
         }
     }
 
@@ -128,6 +134,16 @@ private Q_SLOTS:
         State.MonthEndPay = qint16(monthEndPay);
         QCOMPARE(Next(QStringLiteral("01-15-2004"), frequency), QString());
     }
+    void UnknownSettingsNeverLookAtTheDate()
+    {
+        FakeDesk desk;
+        State.MonthEndPay = 1;
+        for (const qint16 frequency : {qint16(21), Monthly}) {
+            QCOMPARE(NextPayPeriod(DateText(QStringLiteral("payday")), frequency).Text(), QString());
+            QVERIFY(NextPayPeriod(DateText(), frequency).IsEmpty());
+            QVERIFY(!NextPayPeriod(QDate(), frequency).isValid());
+        }
+    }
 
     void AnyDateFormIsTakenAndTheShortFormComesOut_data()
     {
@@ -177,6 +193,7 @@ private Q_SLOTS:
         QTest::newRow("semimonthly") << eve << 15 << 0;
         QTest::newRow("monthly") << eve << 30 << 0;
         QTest::newRow("monthly, month's end") << eve << 30 << -1;
+        QTest::newRow("the month behind the month's end") << QStringLiteral("11/15/9999") << 30 << -1;
     }
     void BeyondTheYear9999IsAnInvalidCall()
     {
@@ -189,9 +206,17 @@ private Q_SLOTS:
         State.MonthEndPay = qint16(monthEndPay);
         QCOMPARE(ErrorOf([&] { Next(from, frequency); }), 5);
     }
+    void TheMonthBehindASemimonthlyMonthsEndIsComputedToo()
+    {
+        FakeDesk desk;
+        State.FirstPayDate = 15;
+        QCOMPARE(Next(QStringLiteral("11/15/9999"), Semimonthly), QStringLiteral("11/30/9999"));
+        QCOMPARE(ErrorOf([&] { Next(QStringLiteral("12/15/9999"), Semimonthly); }), 5);
+    }
     void TheLastDayOfTheYear9999IsReached()
     {
         FakeDesk desk;
+        QCOMPARE(Next(QStringLiteral("10/15/9999"), Weekly), QStringLiteral("10/22/9999"));
         QCOMPARE(Next(QStringLiteral("12/24/9999"), Weekly), QStringLiteral("12/31/9999"));
     }
 

@@ -196,6 +196,9 @@ private Q_SLOTS:
         QTest::newRow("day 0 is the last day before") << 2004 << 3 << 0 << QDate(2004, 2, 29);
         QTest::newRow("day 31 of a short month") << 2004 << 4 << 31 << QDate(2004, 5, 1);
         QTest::newRow("a negative day") << 2004 << 1 << -1 << QDate(2003, 12, 30);
+        QTest::newRow("month -11 is January of the year before") << 2004 << -11 << 5 << QDate(2003, 1, 5);
+        QTest::newRow("month -12 is December of two years before") << 2004 << -12 << 5 << QDate(2002, 12, 5);
+        QTest::newRow("month 24 is December of the next year") << 2004 << 24 << 5 << QDate(2005, 12, 5);
         QTest::newRow("all at once") << 2003 << 14 << 30 << QDate(2004, 3, 1);
     }
     void BuildingADateRollsOverBothWays()
@@ -217,6 +220,8 @@ private Q_SLOTS:
         QCOMPARE(ErrorOf([] { DateSerial(0, 1, 1); }), 5);
         QCOMPARE(AddDays(QDate(9999, 12, 30), 1), QDate(9999, 12, 31));
         QCOMPARE(DateSerial(9999, 12, 31), QDate(9999, 12, 31));
+        QCOMPARE(AddDays(QDate(100, 1, 2), -1), QDate(100, 1, 1));
+        QCOMPARE(ErrorOf([] { AddDays(QDate(), 1); }), 5);
     }
 
     void ADateTextKnowsItsDayAndItsText()
@@ -226,6 +231,13 @@ private Q_SLOTS:
         QCOMPARE(text.JulianDay(), QDate(1997, 5, 24).toJulianDay());
         QCOMPARE(text.Text(), QStringLiteral("5/24/1997"));
         QVERIFY(!(text == DateText(QStringLiteral("05-24-1997")))); // equal as dates, not as texts
+        const DateText computed(QDate(1997, 5, 4));
+        QCOMPARE(computed.Text(), QStringLiteral("5/4/1997"));
+        QVERIFY(!computed.IsEmpty());
+        const DateText invalid{QDate()};
+        QVERIFY(invalid.IsEmpty());
+        QCOMPARE(invalid.Text(), QString());
+        QCOMPARE(ErrorOf([&] { Q_UNUSED(invalid.Date()) }), 13);
         const DateText none(QStringLiteral("soon"));
         QCOMPARE(ErrorOf([&] { none.JulianDay(); }), 13);
         QCOMPARE(ErrorOf([&] { none.JulianDay(); }), 13);

@@ -10,6 +10,9 @@ namespace {
 
 constexpr int FirstYear = 100;
 constexpr int LastYear = 9999;
+// The same bounds as Julian days, which are compared without taking a date apart: January 1, 100 and December 31, 9999.
+constexpr qint64 FirstDay = 1757585;
+constexpr qint64 LastDay = 5373484;
 
 const QStringList MonthNames{QStringLiteral("january"), QStringLiteral("february"), QStringLiteral("march"),
                              QStringLiteral("april"),   QStringLiteral("may"),      QStringLiteral("june"),
@@ -96,7 +99,7 @@ std::optional<QDate> Parse(const QString &source)
 
 QDate InRange(QDate date)
 {
-    if (!date.isValid() || date.year() < FirstYear || date.year() > LastYear)
+    if (date.toJulianDay() < FirstDay || date.toJulianDay() > LastDay) // what is no date lies before the first
         RaiseError(RuntimeError::InvalidProcedureCall);
     return date;
 }
@@ -128,7 +131,10 @@ QDate AddMonths(QDate date, int months)
 
 QDate DateSerial(int year, int month, int day)
 {
-    return InRange(QDate(year, 1, 1).addMonths(month - 1).addDays(day - 1));
+    constexpr int months = 12;
+    const int counted = month - 1; // from January, in either direction
+    const int years = counted / months - (counted % months < 0 ? 1 : 0);
+    return InRange(QDate(year + years, counted - years * months + 1, 1).addDays(day - 1));
 }
 
 QString Format(QDate date, DateFormat format)

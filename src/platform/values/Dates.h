@@ -39,13 +39,14 @@ QString FormatClock(QTime time);
 QString FormatLongDate(const QString &text);
 
 /// A date that is kept as text and compared again and again: text is parsed at the first need and once, and a
-/// computed date is put into text ("m/d/yyyy") only when somebody reads it.
+/// computed date is put into text ("m/d/yyyy") only when somebody reads it. A QDate that is not valid is the empty
+/// text.
 class DateText
 {
 public:
     DateText() = default;
     DateText(const QString &text) : m_text(text) {}
-    DateText(QDate date) : m_julianDay(date.toJulianDay()), m_textPending(true) {}
+    DateText(QDate date) : m_julianDay(date.isValid() ? date.toJulianDay() : 0), m_textPending(date.isValid()) {}
 
     const QString &Text() const
     {
