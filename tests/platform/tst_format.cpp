@@ -81,6 +81,51 @@ private Q_SLOTS:
         QCOMPARE(Format(0.85F, NumberFormat::GeneralNumber), QStringLiteral("0.85"));
     }
 
+    void APercentageShowsTheSameDigitsEverywhere_data()
+    {
+        QTest::addColumn<float>("fraction");
+        QTest::addColumn<QString>("shown");
+        const auto row = [](float fraction, const char *shown) {
+            QTest::addRow("%s", qPrintable(PlainText(fraction))) << fraction << QString::fromLatin1(shown);
+        };
+        row(0.0F, "0.00");
+        row(0.06F, "6.00");
+        row(0.9F, "90.00");
+        row(0.06625F, "6.63"); // its double times a hundred lies below 6.625
+        row(0.07125F, "7.13");
+        row(0.06635F, "6.64");
+        row(0.06624999F, "6.62");
+        row(0.00005F, "0.01");
+        row(-0.06625F, "-6.63");
+        row(-0.00001F, "0.00");
+        row(12.5F, "1250.00");
+    }
+    void APercentageShowsTheSameDigitsEverywhere()
+    {
+        QFETCH(float, fraction);
+        QFETCH(QString, shown);
+        QCOMPARE(PerCent(fraction), shown);
+        QCOMPARE(Format(fraction, NumberFormat::Percent), shown + QLatin1Char('%'));
+        SetUserLocale(German);
+        QCOMPARE(PerCent(fraction), QString(shown).replace(QLatin1Char('.'), QLatin1Char(',')));
+        QCOMPARE(Format(fraction, NumberFormat::Percent), PerCent(fraction) + QLatin1Char('%'));
+    }
+
+    void APercentageIsReadDigitByDigit()
+    {
+        // In binary, 6.63 divided by 100 is another single than 0.0663.
+        for (int hundredths = 0; hundredths <= 10000; ++hundredths) {
+            const QString typed = Format(Decimal(hundredths, 2).ToDouble(), NumberFormat::Fixed);
+            const float fraction = Decimal(hundredths, 4).ToFloat();
+            QCOMPARE(FractionOf(typed), fraction);
+            QCOMPARE(PerCent(fraction), typed);
+        }
+        QCOMPARE(FractionOf(QStringLiteral("6.625")), 0.06625F);
+        QCOMPARE(FractionOf(QStringLiteral("-6.625")), -0.06625F);
+        QCOMPARE(ErrorOf([] { FractionOf(QStringLiteral("6%")); }), 13);
+        QCOMPARE(ErrorOf([] { FractionOf(QStringLiteral("1e39")); }), 6);
+    }
+
     void ADoubleIsRoundedOnItsDecimalValue()
     {
         QCOMPARE(Format(0.125, NumberFormat::Fixed), QStringLiteral("0.13"));
@@ -95,6 +140,8 @@ private Q_SLOTS:
     {
         QCOMPARE(ErrorOf([] { Format(std::numeric_limits<double>::infinity(), NumberFormat::Fixed); }), 6);
         QCOMPARE(ErrorOf([] { Format(std::numeric_limits<double>::quiet_NaN(), NumberFormat::Fixed); }), 6);
+        QCOMPARE(ErrorOf([] { Format(std::numeric_limits<float>::infinity(), NumberFormat::Percent); }), 6);
+        QCOMPARE(ErrorOf([] { PerCent(std::numeric_limits<float>::quiet_NaN()); }), 6);
     }
 
     void ANumberIsShownAsItIs()

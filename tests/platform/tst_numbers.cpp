@@ -237,7 +237,7 @@ private Q_SLOTS:
         QCOMPARE(ErrorOf([&] { ToCurrency(nines); }), 6);
         QCOMPARE(ErrorOf([&] { ToDouble(nines); }), 6);
         QCOMPARE(ErrorOf([&] { ToInteger(nines); }), 6);
-        QCOMPARE(ErrorOf([&] { PlainDigits(nines); }), 6);
+        QCOMPARE(ErrorOf([&] { ToDecimal(nines); }), 6);
         QCOMPARE(ToCurrency(zeros + QLatin1Char('7')).TenThousandths(), qint64(70000));
         QCOMPARE(ToCurrency(QLatin1String("0.") + nines).TenThousandths(), qint64(10000));
         QCOMPARE(ToCurrency(QLatin1String("0.") + zeros + QLatin1Char('1')).TenThousandths(), qint64(0));
@@ -252,7 +252,7 @@ private Q_SLOTS:
         for (const char *text : {"0e99999999999", "-0e-99999999999", "0.000e2147483647"}) {
             QCOMPARE(ToCurrency(QLatin1String(text)).TenThousandths(), qint64(0));
             QCOMPARE(ToDouble(QLatin1String(text)), 0.0);
-            QCOMPARE(PlainDigits(QLatin1String(text)), QStringLiteral("0"));
+            QCOMPARE(ToDecimal(QLatin1String(text)).PlainText(), QStringLiteral("0"));
         }
         QCOMPARE(NumericPrefix(QStringLiteral("1e-99999999999")), 0.0);
         QCOMPARE(ErrorOf([] { NumericPrefix(QStringLiteral("1e99999999999")); }), 6);
@@ -409,7 +409,7 @@ private Q_SLOTS:
             QVERIFY2(ToSingle(PlainText(value), Dialect::File) == value, qPrintable(PlainText(value)));
     }
 
-    void PlainDigitsKeepEveryDecimal_data()
+    void ADecimalKeepsEveryDigit_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("digits");
@@ -425,10 +425,10 @@ private Q_SLOTS:
         QTest::newRow("nothing") << QStringLiteral("0.00") << QStringLiteral("0");
         QTest::newRow("next to nothing") << QStringLiteral("1e-99999999") << QStringLiteral("0");
     }
-    void PlainDigitsKeepEveryDecimal()
+    void ADecimalKeepsEveryDigit()
     {
         QFETCH(QString, text);
-        QTEST(PlainDigits(text), "digits");
+        QTEST(ToDecimal(text).PlainText(), "digits");
     }
 
     void ATextBoxShowsAtMostSevenDigitsOfASingle_data()

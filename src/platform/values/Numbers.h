@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/values/Currency.h"
+#include "platform/values/Decimal.h"
 
 #include <QString>
 
@@ -22,9 +23,9 @@ qint16 ToInteger(const QString &text, Dialect dialect = Dialect::User);
 double ToDouble(const QString &text, Dialect dialect = Dialect::User);
 float ToSingle(const QString &text, Dialect dialect = Dialect::User);
 
-/// A numeric text as plain digits with "." as the point, a zero before it and none at the end, exactly, however many
-/// decimals it has. Error 13 on other text, 6 beyond the range of a double.
-QString PlainDigits(const QString &text, Dialect dialect = Dialect::User);
+/// The same exactly, however many decimals the text has; what is as good as 0 in a double is 0.
+Decimal ToDecimal(const QString &text, Dialect dialect = Dialect::User);
+Decimal ToDecimal(Currency amount);
 
 /// The plain numbers that a data file holds: sign, digits, ".", exponent. No symbol and no separators.
 bool IsPlainNumber(const QString &text);
