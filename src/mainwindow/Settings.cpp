@@ -15,14 +15,12 @@ namespace {
 constexpr double LastFirstPayDate = 27;
 constexpr double LastSecondPayDate = 28;
 
-QString PerCent(float fraction)
+/// Stores the fraction of a percentage, unless the text is what the window shows of the present one: then its further
+/// decimals, which the text leaves out, are kept.
+void TakePercentage(float &fraction, const QString &perCent)
 {
-    return Format(ToSingle(double(fraction) * 100), NumberFormat::Fixed);
-}
-
-float Fraction(const QString &perCent)
-{
-    return ToSingle(double(ToSingle(perCent)) / 100);
+    if (perCent != PerCent(fraction))
+        fraction = FractionOf(perCent);
 }
 
 /// A number that no double can hold lies beyond every range.
@@ -79,8 +77,8 @@ void TakeEnvironmentEntry(const EnvironmentEntry &entry)
 {
     State.ForecastPeriods = ToInteger(entry.ForecastPeriods);
     State.PaycheckAmount = ToCurrency(entry.PaycheckAmount);
-    State.SalesTax = Fraction(entry.SalesTax);
-    State.AverageNetPercentage = Fraction(entry.AverageNetPercentage);
+    TakePercentage(State.SalesTax, entry.SalesTax);
+    TakePercentage(State.AverageNetPercentage, entry.AverageNetPercentage);
 }
 
 const QList<PayFrequencyOption> &PayFrequencyOptions()

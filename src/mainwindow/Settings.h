@@ -30,7 +30,8 @@ QString BoundedForecastPeriods(const QString &text);
 QString SteppedForecastPeriods(const QString &text, int step, int maximum);
 
 /// Stores the entry, setting by setting in the order of the record; an error leaves those before it stored.
-/// Percentages become fractions in single precision. Error 6 for a number beyond its type, 13 for no number.
+/// Percentages become fractions in single precision; one that still shows the present fraction leaves it as it is, so
+/// that opening and leaving the window never changes it. Error 6 for a number beyond its type, 13 for no number.
 void TakeEnvironmentEntry(const EnvironmentEntry &entry);
 
 /// One pay frequency that can be chosen, in order of option from 0.

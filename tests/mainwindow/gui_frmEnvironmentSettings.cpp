@@ -516,6 +516,31 @@ private Q_SLOTS:
         QCOMPARE(State.PayFrequency, Biweekly);
     }
 
+    void ATypedPercentageShowsOneFigureEverywhereAndNeverDrifts_data() { LeavingStoresTheFields_data(); }
+    void ATypedPercentageShowsOneFigureEverywhereAndNeverDrifts()
+    {
+        QFETCH(int, way);
+        GuiDesk desk;
+        desk.StartProgram();
+        Show(Window);
+        Type(Window, Tax, u"6.625"_s);
+        Type(Window, Net, u"85.375"_s);
+        Leave(way);
+        for (int time = 0; time < 10; ++time) {
+            Show(u"frmMain"_s);
+            const QStringList lines = RowsOf(u"frmMain"_s, u"lstBudgetState"_s);
+            QCOMPARE(lines[4], u"Average Net Percentage: 85.38%"_s);
+            QCOMPARE(lines[8], u"Current Sales Tax: 6.63%"_s);
+            Show(Window);
+            QCOMPARE(TextOf(Window, Tax), u"6.63"_s);
+            QCOMPARE(TextOf(Window, Net), u"85.38"_s);
+            Leave(way);
+            QVERIFY(!TheWindows.Loaded(Window));
+        }
+        QCOMPARE(State.SalesTax, 0.06625F);
+        QCOMPARE(State.AverageNetPercentage, 0.85375F);
+    }
+
     void TheForecastIsClamped_data()
     {
         QTest::addColumn<QString>("text");

@@ -4,6 +4,8 @@
 #include "TestProgram.h"
 #include "mainwindow/Settings.h"
 
+#include <cstring>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -48,6 +50,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::newRow("nothing") << 0.0F << u"0.00"_s;
         QTest::newRow("a third decimal of five rounds up") << 0.07125F << u"7.13"_s;
+        QTest::newRow("also where its double lies below") << 0.06625F << u"6.63"_s;
         QTest::newRow("a single's own error does not show") << 0.07F << u"7.00"_s;
         QTest::newRow("more than everything") << 12.5F << u"1250.00"_s;
     }
@@ -179,6 +182,57 @@ private Q_SLOTS:
         QCOMPARE(State.PaycheckAmount, Currency::FromTenThousandths(12345000));
         QCOMPARE(State.SalesTax, 0.0825F);
         QCOMPARE(State.AverageNetPercentage, 0.85F);
+    }
+
+    void AnUntouchedPercentageStaysAsItIs_data()
+    {
+        QTest::addColumn<float>("fraction");
+        for (const float fraction :
+             {0.06625F, 0.0663F, 0.06F, 0.9F, 1.0F / 3, 0.0700001F, 1e-6F, 0.0F, -0.01F, 12.34567F})
+            QTest::addRow("%.9g", double(fraction)) << fraction;
+    }
+    void AnUntouchedPercentageStaysAsItIs()
+    {
+        QFETCH(float, fraction);
+        FakeDesk desk;
+        State.ForecastPeriods = 26;
+        State.SalesTax = fraction;
+        State.AverageNetPercentage = fraction;
+        for (int time = 0; time < 10; ++time)
+            TakeEnvironmentEntry(ShownEnvironment());
+        QVERIFY(std::memcmp(&State.SalesTax, &fraction, sizeof fraction) == 0);
+        QVERIFY(std::memcmp(&State.AverageNetPercentage, &fraction, sizeof fraction) == 0);
+    }
+
+    void APercentageIsStoredAsItIsTyped_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<float>("stored");
+        QTest::newRow("three decimals") << u"6.625"_s << 0.06625F;
+        QTest::newRow("two decimals of the same digits") << u"6.63"_s << 0.0663F;
+        QTest::newRow("what binary division would miss") << u"0.06"_s << 0.0006F;
+        QTest::newRow("another way to write what is shown") << u"7"_s << 0.07F;
+        QTest::newRow("what was shown before") << u"6.00"_s << 0.06F;
+    }
+    void APercentageIsStoredAsItIsTyped()
+    {
+        QFETCH(QString, typed);
+        QFETCH(float, stored);
+        FakeDesk desk;
+        State.SalesTax = State.AverageNetPercentage = 0.07F; // shows 7.00
+        TakeEnvironmentEntry({u"26"_s, u"1"_s, typed, typed});
+        QCOMPARE(State.SalesTax, stored);
+        QCOMPARE(State.AverageNetPercentage, stored);
+    }
+
+    void AValueThatChangedInTheMeantimeIsReplacedByTheText()
+    {
+        FakeDesk desk;
+        State.AverageNetPercentage = 0.85555F;
+        const EnvironmentEntry shown = ShownEnvironment();
+        State.AverageNetPercentage = 0.7F; // another window has changed it
+        TakeEnvironmentEntry({u"26"_s, u"1"_s, u"6"_s, shown.AverageNetPercentage});
+        QCOMPARE(State.AverageNetPercentage, 0.8556F);
     }
 
     void AnErrorKeepsWhatWasStoredBefore_data()
