@@ -64,7 +64,7 @@ void SubtractExtras(Run &run, qint64 day)
             continue;
         for (int item = 1; item <= ItemsOf(payPeriod); ++item) {
             const ExtraItemRecord &extra = payPeriod.ExtraItems(item);
-            if (extra.ExtraItemAmount < Currency())
+            if (extra.ExtraItemAmount.IsNegative())
                 run.Subtract(extra.ExtraItemAmount, BudgetLine::Credit,
                              [&] { return QStringLiteral("CREDIT - ") + extra.ExtraItem; });
             else
@@ -89,17 +89,17 @@ void SubtractProjects(Run &run, qint64 day)
 /// Takes in what the last budget run passed forward.
 void ReceiveCredit(Run &run)
 {
-    if (State.BudgetCredit == Currency())
+    if (State.BudgetCredit == Currency::Zero)
         return;
     run.Tell(-State.BudgetCredit, BudgetLine::Credit, [] { return QStringLiteral("CREDIT - Budget"); });
     State.BudgetBalance += State.BudgetCredit;
-    State.BudgetCredit = Currency();
+    State.BudgetCredit = Currency::Zero;
 }
 
 /// Pays in advance for a deficit of the next period: both periods end on the same figure.
 void LevelDeficitAhead(Run &run)
 {
-    if (State.NextPeriodShortfall == Currency())
+    if (State.NextPeriodShortfall == Currency::Zero)
         return;
     State.NextPeriodShortfall = State.NextPeriodShortfall.Abs();
     State.BudgetBalance = LevelledBalance(State.BudgetBalance, State.NextPeriodShortfall);
@@ -173,13 +173,13 @@ void CalculateBudget(BudgetPage *page)
     SubtractProjects(run, start.toJulianDay());
 
     if (State.LookingAhead) {
-        State.NextPeriodShortfall = std::min(State.BudgetBalance, Currency());
+        State.NextPeriodShortfall = std::min(State.BudgetBalance, Currency::Zero);
     } else {
         ReceiveCredit(run);
         LevelDeficitAhead(run);
     }
     if (page) {
-        page->ResultLabel = State.BudgetBalance < Currency() ? QStringLiteral("DEFICIT") : QStringLiteral("SAVINGS");
+        page->ResultLabel = State.BudgetBalance.IsNegative() ? QStringLiteral("DEFICIT") : QStringLiteral("SAVINGS");
         page->Result = State.BudgetBalance;
     }
     if (!State.LookingAhead)

@@ -44,7 +44,7 @@ OverheadStatement CalculateOverhead()
     }
     statement.Result = State.BudgetBalance;
     statement.ResultLabel =
-        statement.Result < Currency() ? QStringLiteral("DEFICIT") : QStringLiteral("Remaining Funds");
+        statement.Result.IsNegative() ? QStringLiteral("DEFICIT") : QStringLiteral("Remaining Funds");
     return statement;
 }
 

@@ -36,8 +36,8 @@ std::vector<DatedRow> ForecastRows()
     for (int row = 1; row <= State.ForecastPeriods; ++row) {
         const QString &savings = Forecast.ForecastSavingsAmounts(row);
         const QString &accumulated = Forecast.ForecastAccumulated(row);
-        rows.push_back({Forecast.ForecastDates(row), savings, accumulated, ToCurrency(savings) < Currency(),
-                        ToCurrency(accumulated) < Currency()});
+        rows.push_back({Forecast.ForecastDates(row), savings, accumulated, ToCurrency(savings).IsNegative(),
+                        ToCurrency(accumulated).IsNegative()});
     }
     return rows;
 }
@@ -46,7 +46,7 @@ QString PickForecastRow(int row, const QString &accumulated)
 {
     const QString date = row > State.ForecastPeriods ? QString() : QString(Forecast.ForecastDates(row));
     Forecast.ForecastPickRow = ToInteger(row);
-    Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency() : ToCurrency(accumulated);
+    Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency::Zero : ToCurrency(accumulated);
     State.ProjectDateFromForecast = false;
     return date;
 }

@@ -91,7 +91,7 @@ void frmBudget::ShowPage(const BudgetPage &page)
             lines.Insert(line.Label, FormatCurrency(line.Amount));
     }
     lines.InsertEmpty();
-    if (page.Result < Currency())
+    if (page.Result.IsNegative())
         lines.Write(page.ResultLabel, FormatCurrency(page.Result), GridColour::LightRed);
     else
         lines.Insert(page.ResultLabel, FormatCurrency(page.Result));

@@ -62,7 +62,7 @@ void frmMonthlyOverhead::ShowOverhead()
     lines.InsertEmpty();
     lines.Write(QStringLiteral("Total Overhead"), FormatCurrency(statement.TotalOverhead));
     // A deficit stands apart, with an empty row on both sides; what remains follows the total directly.
-    if (statement.Result < Currency()) {
+    if (statement.Result.IsNegative()) {
         lines.InsertEmpty();
         lines.Write(statement.ResultLabel, FormatCurrency(statement.Result), GridColour::LightRed);
         lines.InsertEmpty();

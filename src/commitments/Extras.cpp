@@ -153,7 +153,7 @@ QString OpenPayPeriodName()
 
 bool IsCredit(int slot)
 {
-    return std::as_const(OpenPayPeriod()).ExtraItems(slot).ExtraItemAmount < Currency();
+    return OpenPayPeriod().ExtraItems(slot).ExtraItemAmount.IsNegative();
 }
 
 QStringList PayPeriodNames()

@@ -102,7 +102,7 @@ std::optional<Message> ValidateProjectFunds(Currency amount)
 void AddProject(const QString &name, Currency amount)
 {
     const int picked = Forecast.ForecastPickRow;
-    if (picked > 0 && ToCurrency(Forecast.ForecastAccumulated(picked)) == Currency())
+    if (picked > 0 && ToCurrency(Forecast.ForecastAccumulated(picked)) == Currency::Zero)
         RaiseError(RuntimeError::DivisionByZero); // before anything is added: there is nothing to be proportional to
     const qint16 count = ToInteger(State.NumberOfProjects + 1);
     RedimProjects(count, true);
@@ -153,7 +153,7 @@ std::vector<DatedRow> ProjectRows(int project)
         const Currency amount = std::as_const(State.ProjectEntryAmounts)(project)(entry);
         total += amount;
         rows.push_back({FormatLongDate(std::as_const(State.ProjectEntryDates)(project)(entry)), FormatCurrency(amount),
-                        FormatCurrency(total), amount < Currency(), total < Currency()});
+                        FormatCurrency(total), amount.IsNegative(), total.IsNegative()});
     }
     return rows;
 }

@@ -94,6 +94,10 @@ private Q_SLOTS:
         QVERIFY(Count(7) == Count(7));
         QVERIFY(Count(7) != Count(8));
         QVERIFY(Currency() == Count(0));
+        QVERIFY(Currency::Zero == Count(0));
+        QVERIFY(!Currency::Zero.IsNegative());
+        QVERIFY(!Count(1).IsNegative());
+        QVERIFY(Count(-1).IsNegative());
     }
 
     void AnAmountAsADoubleIsInWholeUnits() { QCOMPARE(Count(-37500).ToDouble(), -3.75); }
