@@ -77,8 +77,8 @@ void SubtractExtras(Run &run, qint64 day)
 void SubtractProjects(Run &run, qint64 day)
 {
     for (int i = 1; i <= State.NumberOfProjects; ++i) {
-        const auto &dates = std::as_const(State.ProjectEntryDates)(i);
-        const auto &amounts = std::as_const(State.ProjectEntryAmounts)(i);
+        const auto &dates = State.ProjectEntryDates(i);
+        const auto &amounts = State.ProjectEntryAmounts(i);
         const int entries = EntriesOf(i);
         for (int entry = 1; entry <= entries; ++entry)
             if (dates(entry).JulianDay() == day)

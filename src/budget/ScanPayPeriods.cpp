@@ -45,7 +45,7 @@ void NewExtraPayPeriod()
     payPeriod = {};
     payPeriod.PayPeriodDate = Scan.ScanPickedDate;
     payPeriod.NumberOfExtraItems = 1;
-    payPeriod.ExtraItems(1).ExtraItem = QStringLiteral("New Item");
+    payPeriod.ExtraItems.At(1).ExtraItem = QStringLiteral("New Item");
 }
 
 void SortExtraPayPeriods()

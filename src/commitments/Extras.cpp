@@ -27,7 +27,7 @@ void CheckSlot(int slot)
 void ClearSlots(ExtraPayPeriodRecord &payPeriod)
 {
     for (int slot = 1; slot <= LastClearedSlot; ++slot)
-        payPeriod.ExtraItems(slot) = {};
+        payPeriod.ExtraItems.At(slot) = {};
 }
 
 QStringList Names()
@@ -104,13 +104,13 @@ void AddExtraItem(const ExtraItemRecord &item)
 {
     ExtraPayPeriodRecord &payPeriod = OpenPayPeriod();
     payPeriod.NumberOfExtraItems = ToInteger(payPeriod.NumberOfExtraItems + 1);
-    payPeriod.ExtraItems(payPeriod.NumberOfExtraItems) = item;
+    payPeriod.ExtraItems.At(payPeriod.NumberOfExtraItems) = item;
 }
 
 void ChangeExtraItem(int slot, const ExtraItemRecord &item)
 {
     CheckSlot(slot);
-    OpenPayPeriod().ExtraItems(slot) = item;
+    OpenPayPeriod().ExtraItems.At(slot) = item;
 }
 
 void DeleteExtraItem(int slot)
@@ -119,13 +119,13 @@ void DeleteExtraItem(int slot)
     ExtraPayPeriodRecord &payPeriod = OpenPayPeriod();
     ExtraPayPeriodRecord scratch;
     for (int i = 1; i <= payPeriod.NumberOfExtraItems; ++i)
-        scratch.ExtraItems(i) = payPeriod.ExtraItems(i);
+        scratch.ExtraItems.At(i) = payPeriod.ExtraItems(i);
     ClearSlots(payPeriod);
-    scratch.ExtraItems(slot).ExtraItem.clear();
+    scratch.ExtraItems.At(slot).ExtraItem.clear();
     int next = 0;
     for (int i = 1; i <= payPeriod.NumberOfExtraItems; ++i)
         if (!scratch.ExtraItems(i).ExtraItem.isEmpty())
-            payPeriod.ExtraItems(++next) = scratch.ExtraItems(i);
+            payPeriod.ExtraItems.At(++next) = scratch.ExtraItems(i);
     --payPeriod.NumberOfExtraItems;
 }
 

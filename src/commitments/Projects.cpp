@@ -33,7 +33,7 @@ QStringList Names()
 QStringList PanelOf(int project)
 {
     return {State.ProjectNames(project), FormatCurrency(State.ProjectAmounts(project)),
-            FormatLongDate(std::as_const(State.ProjectEntryDates)(project)(EntriesOf(project)))};
+            FormatLongDate(State.ProjectEntryDates(project)(EntriesOf(project)))};
 }
 
 /// What an entry has left in memory and not in the file, because it failed half-way, is dropped before the next edit.
@@ -113,8 +113,8 @@ void AddProject(const QString &name, Currency amount)
     for (int entry = 1; entry <= picked; ++entry) {
         const double savings = ToCurrency(Forecast.ForecastSavingsAmounts(entry)).ToDouble();
         const double accumulated = ToCurrency(Forecast.ForecastAccumulated(picked)).ToDouble();
-        State.ProjectEntryDates(count)(entry) = Forecast.ForecastDates(entry);
-        State.ProjectEntryAmounts(count)(entry) = Currency::FromDouble(savings / accumulated * amount.ToDouble());
+        State.ProjectEntryDates(count).At(entry) = Forecast.ForecastDates(entry);
+        State.ProjectEntryAmounts(count).At(entry) = Currency::FromDouble(savings / accumulated * amount.ToDouble());
     }
 }
 
@@ -150,9 +150,9 @@ std::vector<DatedRow> ProjectRows(int project)
     std::vector<DatedRow> rows;
     Currency total;
     for (int entry = 1; entry <= EntriesOf(project); ++entry) {
-        const Currency amount = std::as_const(State.ProjectEntryAmounts)(project)(entry);
+        const Currency amount = State.ProjectEntryAmounts(project)(entry);
         total += amount;
-        rows.push_back({FormatLongDate(std::as_const(State.ProjectEntryDates)(project)(entry)), FormatCurrency(amount),
+        rows.push_back({FormatLongDate(State.ProjectEntryDates(project)(entry)), FormatCurrency(amount),
                         FormatCurrency(total), amount.IsNegative(), total.IsNegative()});
     }
     return rows;

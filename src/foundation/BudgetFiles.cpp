@@ -37,8 +37,8 @@ void PayPeriodFields(auto &file)
         ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
         file.DashedDate(payPeriod.PayPeriodDate);
         file.Pairs(payPeriod.NumberOfExtraItems, MostExtraItems, [&](int item) {
-            file.Value(payPeriod.ExtraItems(item).ExtraItem);
-            file.ByText(payPeriod.ExtraItems(item).ExtraItemAmount);
+            file.Value(payPeriod.ExtraItems.At(item).ExtraItem);
+            file.ByText(payPeriod.ExtraItems.At(item).ExtraItemAmount);
         });
     });
 }
@@ -56,8 +56,8 @@ void ProjectFields(auto &file)
         file.Value(State.ProjectNames(i));
         file.Value(State.ProjectAmounts(i));
         file.Pairs(State.ProjectEntryCounts(i), MostProjectEntries, [&](int entry) {
-            file.Value(State.ProjectEntryDates(i)(entry));
-            file.ByText(State.ProjectEntryAmounts(i)(entry));
+            file.Value(State.ProjectEntryDates(i).At(entry));
+            file.ByText(State.ProjectEntryAmounts(i).At(entry));
         });
     });
 }

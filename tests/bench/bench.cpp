@@ -53,7 +53,7 @@ void PutPayPeriods(int count, int items)
         payPeriod.PayPeriodDate = PayDate(i);
         payPeriod.NumberOfExtraItems = qint16(items);
         for (int item = 1; item <= items; ++item)
-            payPeriod.ExtraItems(item) = {Name("Extra", item), Amount(item)};
+            payPeriod.ExtraItems.At(item) = {Name("Extra", item), Amount(item)};
     }
 }
 
@@ -70,8 +70,8 @@ void PutProjects(int count, int entries)
         State.ProjectAmounts(i) = Amount(i);
         State.ProjectEntryCounts(i) = qint16(entries);
         for (int entry = 1; entry <= entries; ++entry) {
-            State.ProjectEntryDates(i)(entry) = PayDate(entry);
-            State.ProjectEntryAmounts(i)(entry) = Amount(entry);
+            State.ProjectEntryDates(i).At(entry) = PayDate(entry);
+            State.ProjectEntryAmounts(i).At(entry) = Amount(entry);
         }
     }
 }

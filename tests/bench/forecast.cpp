@@ -53,7 +53,7 @@ void PutHousehold(int creditors, int periods)
     for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
         State.ExtraPayPeriods(i).PayPeriodDate = PayDate(3 * i);
         State.ExtraPayPeriods(i).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(i).ExtraItems(1) = {u"Extra"_s, State.PaycheckAmount};
+        State.ExtraPayPeriods(i).ExtraItems.At(1) = {u"Extra"_s, State.PaycheckAmount};
     }
     State.NumberOfProjects = 2;
     State.ProjectNames = {u"Boat"_s, u"Roof"_s};
@@ -63,8 +63,8 @@ void PutHousehold(int creditors, int periods)
     State.ProjectEntryAmounts.Redim(2);
     for (int project = 1; project <= 2; ++project) {
         for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry) {
-            State.ProjectEntryDates(project)(entry) = PayDate(entry - 1);
-            State.ProjectEntryAmounts(project)(entry) = Dollars(10);
+            State.ProjectEntryDates(project).At(entry) = PayDate(entry - 1);
+            State.ProjectEntryAmounts(project).At(entry) = Dollars(10);
         }
     }
 }

@@ -23,11 +23,11 @@ void TakeHousehold()
     State.ExtraPayPeriods.Redim(2);
     State.ExtraPayPeriods(1).PayPeriodDate = u"01-01-2004"_s;
     State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
-    State.ExtraPayPeriods(1).ExtraItems(1) = {u"Now"_s, Currency::FromTenThousandths(520 * Currency::Unit)};
-    State.ExtraPayPeriods(1).ExtraItems(2) = {u"Refund"_s, Currency::FromTenThousandths(-20 * Currency::Unit)};
+    State.ExtraPayPeriods(1).ExtraItems.At(1) = {u"Now"_s, Currency::FromTenThousandths(520 * Currency::Unit)};
+    State.ExtraPayPeriods(1).ExtraItems.At(2) = {u"Refund"_s, Currency::FromTenThousandths(-20 * Currency::Unit)};
     State.ExtraPayPeriods(2).PayPeriodDate = u"01-15-2004"_s;
     State.ExtraPayPeriods(2).NumberOfExtraItems = 1;
-    State.ExtraPayPeriods(2).ExtraItems(1) = {u"Then"_s, Currency::FromTenThousandths(1100 * Currency::Unit)};
+    State.ExtraPayPeriods(2).ExtraItems.At(1) = {u"Then"_s, Currency::FromTenThousandths(1100 * Currency::Unit)};
 }
 
 QString Caption()
@@ -160,15 +160,15 @@ private Q_SLOTS:
         State.NumberOfCreditors = State.NumberOfRegulars = State.NumberOfProjects = 1;
         State.Creditors = {{u"Rent\thouse"_s, 20, Currency::FromDouble(10)}};
         State.Regulars = {{u"Food\tbought"_s, Currency::FromDouble(20)}};
-        State.ExtraPayPeriods(1).ExtraItems(2).ExtraItem = u"Refund\tof tax"_s;
-        State.ExtraPayPeriods(2).ExtraItems(1).ExtraItem = u"Then\tlater"_s;
+        State.ExtraPayPeriods(1).ExtraItems.At(2).ExtraItem = u"Refund\tof tax"_s;
+        State.ExtraPayPeriods(2).ExtraItems.At(1).ExtraItem = u"Then\tlater"_s;
         State.ProjectNames = {u"Roof\ttiles"_s};
         State.ProjectAmounts = {Currency::FromDouble(30)};
         State.ProjectEntryCounts = {qint16(1)};
         State.ProjectEntryDates.Redim(1);
         State.ProjectEntryAmounts.Redim(1);
-        State.ProjectEntryDates(1)(1) = DateText(u"1/15/2004"_s);
-        State.ProjectEntryAmounts(1)(1) = Currency::FromDouble(30);
+        State.ProjectEntryDates(1).At(1) = DateText(u"1/15/2004"_s);
+        State.ProjectEntryAmounts(1).At(1) = Currency::FromDouble(30);
         Show(Window);
         Click(Window, u"cmdBudget"_s);
         QCOMPARE(Rows(), (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Rent\thouse - 20th | $10.00"_s,

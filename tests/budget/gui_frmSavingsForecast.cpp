@@ -28,7 +28,7 @@ void TakeHousehold(qint16 periods, const QList<double> &costs = {})
     for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
         State.ExtraPayPeriods(i).PayPeriodDate = Format(QDate(2004, 1, 1).addDays(14 * (i - 1)), DateFormat::Dashes);
         State.ExtraPayPeriods(i).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(i).ExtraItems(1) = {u"Cost"_s, Currency::FromDouble(costs[i - 1])};
+        State.ExtraPayPeriods(i).ExtraItems.At(1) = {u"Cost"_s, Currency::FromDouble(costs[i - 1])};
     }
 }
 

@@ -103,7 +103,7 @@ private Q_SLOTS:
         State.ExtraPayPeriods.Redim(1);
         State.ExtraPayPeriods(1).PayPeriodDate = u"02-12-2004"_s;
         State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(1).ExtraItems(1) = {u"Tires"_s, Currency::FromDouble(80.5)};
+        State.ExtraPayPeriods(1).ExtraItems.At(1) = {u"Tires"_s, Currency::FromDouble(80.5)};
         OpenForExtras();
         ClickRow(Window, List, 2);
         QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("2\r\n\"01-29-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"
@@ -141,7 +141,7 @@ private Q_SLOTS:
         State.ExtraPayPeriods.Redim(1);
         State.ExtraPayPeriods(1).PayPeriodDate = u"01-15-2004"_s;
         State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(1).ExtraItems(1) = {u"Tires"_s, Currency::FromDouble(80)};
+        State.ExtraPayPeriods(1).ExtraItems.At(1) = {u"Tires"_s, Currency::FromDouble(80)};
         OpenForExtras();
         ClickRow(Window, List, 1);
         QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("2\r\n\"01-15-2004\"\r\n1\r\n\"Tires\"\r\n80\r\n"

@@ -28,7 +28,7 @@ struct ForecastDesk : FakeDesk {
             ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
             payPeriod.PayPeriodDate = Format(QDate(2004, 1, 1).addDays(14 * (i - 1)), DateFormat::Dashes);
             payPeriod.NumberOfExtraItems = 1;
-            payPeriod.ExtraItems(1) = {u"Cost"_s, Currency::FromDouble(costs[i - 1])};
+            payPeriod.ExtraItems.At(1) = {u"Cost"_s, Currency::FromDouble(costs[i - 1])};
         }
     }
 };

@@ -53,7 +53,7 @@ public:
     void AddExtra(const char *name, Currency amount)
     {
         ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(State.NumberOfExtraPayPeriods);
-        payPeriod.ExtraItems(++payPeriod.NumberOfExtraItems) = {QString::fromLatin1(name), amount};
+        payPeriod.ExtraItems.At(++payPeriod.NumberOfExtraItems) = {QString::fromLatin1(name), amount};
     }
     void AddProject(const char *name)
     {
@@ -68,8 +68,8 @@ public:
     void AddEntry(const char *date, Currency amount)
     {
         const int entry = ++State.ProjectEntryCounts(State.NumberOfProjects);
-        State.ProjectEntryDates(State.NumberOfProjects)(entry) = DateText(QString::fromLatin1(date));
-        State.ProjectEntryAmounts(State.NumberOfProjects)(entry) = amount;
+        State.ProjectEntryDates(State.NumberOfProjects).At(entry) = DateText(QString::fromLatin1(date));
+        State.ProjectEntryAmounts(State.NumberOfProjects).At(entry) = amount;
     }
 
     BudgetPage Run()
@@ -304,8 +304,8 @@ private Q_SLOTS:
         Household household;
         household.AddPayPeriod("1/1/2004");
         household.AddExtra("In", Dollars(1));
-        State.ExtraPayPeriods(1).ExtraItems(0) = {QStringLiteral("Zero"), Dollars(2)};
-        State.ExtraPayPeriods(1).ExtraItems(2) = {QStringLiteral("Behind"), Dollars(4)};
+        State.ExtraPayPeriods(1).ExtraItems.At(0) = {QStringLiteral("Zero"), Dollars(2)};
+        State.ExtraPayPeriods(1).ExtraItems.At(2) = {QStringLiteral("Behind"), Dollars(4)};
         QCOMPARE(Told(household.RunPair()), QStringLiteral("In 1"));
     }
 
@@ -340,8 +340,8 @@ private Q_SLOTS:
         Household household;
         household.AddProject("Roof");
         State.ProjectAmounts(1) = Dollars(500);
-        State.ProjectEntryDates(1)(0) = DateText(QStringLiteral("1/1/2004"));
-        State.ProjectEntryAmounts(1)(0) = Dollars(5);
+        State.ProjectEntryDates(1).At(0) = DateText(QStringLiteral("1/1/2004"));
+        State.ProjectEntryAmounts(1).At(0) = Dollars(5);
         const BudgetPage page = household.RunPair();
         QCOMPARE(Told(page), QString());
         QCOMPARE(page.Result, Dollars(1000));

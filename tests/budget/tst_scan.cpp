@@ -23,7 +23,7 @@ void TakePayPeriods(const QStringList &dates)
     for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i) {
         State.ExtraPayPeriods(i).PayPeriodDate = dates[i - 1];
         State.ExtraPayPeriods(i).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(i).ExtraItems(1) = {u"Item %1"_s.arg(i), Currency::FromDouble(i)};
+        State.ExtraPayPeriods(i).ExtraItems.At(1) = {u"Item %1"_s.arg(i), Currency::FromDouble(i)};
     }
 }
 
@@ -130,7 +130,7 @@ private Q_SLOTS:
         ScanDesk desk;
         TakePayPeriods({u"1/1/2004"_s, u"1/15/2004"_s});
         State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
-        State.ExtraPayPeriods(1).ExtraItems(2) = {u"Second"_s, Currency::FromDouble(2)};
+        State.ExtraPayPeriods(1).ExtraItems.At(2) = {u"Second"_s, Currency::FromDouble(2)};
         State.NumberOfExtraPayPeriods = 0;
         Scan.ScanPickedDate = u"02-01-2004"_s;
         NewExtraPayPeriod();
@@ -181,7 +181,7 @@ private Q_SLOTS:
         ScanDesk desk;
         TakePayPeriods({u"2/1/2004"_s, u"1/1/2004"_s});
         State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
-        State.ExtraPayPeriods(1).ExtraItems(2) = {u"Second"_s, Currency::FromDouble(-5)};
+        State.ExtraPayPeriods(1).ExtraItems.At(2) = {u"Second"_s, Currency::FromDouble(-5)};
         SortExtraPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(1));
         QCOMPARE(State.ExtraPayPeriods(2).NumberOfExtraItems, qint16(2));

@@ -36,7 +36,7 @@ void TakeHousehold(const CommitmentsDesk &desk)
     State.ExtraPayPeriods.Redim(1);
     State.ExtraPayPeriods(1).PayPeriodDate = u"01-08-2004"_s;
     State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
-    State.ExtraPayPeriods(1).ExtraItems(1) = {u"Gift"_s, Dollars(50)};
+    State.ExtraPayPeriods(1).ExtraItems.At(1) = {u"Gift"_s, Dollars(50)};
 }
 
 void Open(const CommitmentsDesk &desk, const QByteArray &file)

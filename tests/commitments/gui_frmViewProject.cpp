@@ -24,8 +24,8 @@ void TakeProject(const QString &name, const QList<double> &installments)
     State.ProjectEntryDates.Redim(1);
     State.ProjectEntryAmounts.Redim(1);
     for (int i = 0; i < installments.size(); ++i) {
-        State.ProjectEntryDates(1)(i + 1) = QStringLiteral("01-0%1-2004").arg(i + 1);
-        State.ProjectEntryAmounts(1)(i + 1) = Dollars(installments[i]);
+        State.ProjectEntryDates(1).At(i + 1) = QStringLiteral("01-0%1-2004").arg(i + 1);
+        State.ProjectEntryAmounts(1).At(i + 1) = Dollars(installments[i]);
     }
     Projects.SelectedProject = 1;
 }
@@ -177,8 +177,8 @@ private Q_SLOTS:
         TakeProject(u"Long"_s, {});
         State.ProjectEntryCounts(1) = MostProjectEntries;
         for (int entry = 1; entry <= MostProjectEntries; ++entry) {
-            State.ProjectEntryDates(1)(entry) = u"01-01-2004"_s;
-            State.ProjectEntryAmounts(1)(entry) = Dollars(-1); // the last row's colour reaches below it
+            State.ProjectEntryDates(1).At(entry) = u"01-01-2004"_s;
+            State.ProjectEntryAmounts(1).At(entry) = Dollars(-1); // the last row's colour reaches below it
         }
         Show(Window);
         QCOMPARE(TheGrid().Text(100, 2), u"($100.00)"_s);

@@ -31,20 +31,20 @@ void TakeItems(int count)
     TakePayPeriods({u"01-05-2004"_s});
     State.ExtraPayPeriods(1).NumberOfExtraItems = qint16(count);
     for (int slot = 1; slot <= count; ++slot)
-        State.ExtraPayPeriods(1).ExtraItems(slot) = {QString::number(slot), Dollars(slot)};
+        State.ExtraPayPeriods(1).ExtraItems.At(slot) = {QString::number(slot), Dollars(slot)};
 }
 
 QString ItemsOf(int payPeriod)
 {
     QStringList told;
     for (int slot = 1; slot <= State.ExtraPayPeriods(payPeriod).NumberOfExtraItems; ++slot)
-        told += std::as_const(State.ExtraPayPeriods)(payPeriod).ExtraItems(slot).ExtraItem;
+        told += State.ExtraPayPeriods(payPeriod).ExtraItems(slot).ExtraItem;
     return told.join(u' ');
 }
 
 const ExtraItemRecord &Slot(int slot)
 {
-    return std::as_const(State.ExtraPayPeriods)(1).ExtraItems(slot);
+    return State.ExtraPayPeriods(1).ExtraItems(slot);
 }
 
 } // namespace
@@ -169,7 +169,7 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         TakeItems(4);
-        State.ExtraPayPeriods(1).ExtraItems(2).ExtraItem.clear();
+        State.ExtraPayPeriods(1).ExtraItems.At(2).ExtraItem.clear();
         DeleteExtraItem(1);
         QCOMPARE(ItemsOf(1), u"3 4 "_s);
     }
@@ -187,7 +187,7 @@ private Q_SLOTS:
         FakeDesk desk;
         TakePayPeriods({u"01-05-2004"_s, u"01-19-2004"_s, u"02-02-2004"_s});
         State.ExtraPayPeriods(3).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(3).ExtraItems(1) = {u"Gift"_s, Dollars(3)};
+        State.ExtraPayPeriods(3).ExtraItems.At(1) = {u"Gift"_s, Dollars(3)};
         Extras.SelectedExtraPayPeriod = 2;
         DeleteExtraPayPeriod();
         QCOMPARE(State.NumberOfExtraPayPeriods, qint16(2));

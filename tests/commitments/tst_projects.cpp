@@ -35,7 +35,7 @@ QList<double> InstallmentsOf(int project)
 {
     QList<double> amounts;
     for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry)
-        amounts += std::as_const(State.ProjectEntryAmounts)(project)(entry).ToDouble();
+        amounts += State.ProjectEntryAmounts(project)(entry).ToDouble();
     return amounts;
 }
 

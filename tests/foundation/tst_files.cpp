@@ -198,8 +198,8 @@ private Q_SLOTS:
         State.ExtraPayPeriods.Redim(2);
         State.ExtraPayPeriods(1).PayPeriodDate = DateText(QStringLiteral("5/24/1997"));
         State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
-        State.ExtraPayPeriods(1).ExtraItems(1) = {QStringLiteral("Gift"), Count(0)};
-        State.ExtraPayPeriods(1).ExtraItems(2) = {QStringLiteral("Refund"), Count(-200000)};
+        State.ExtraPayPeriods(1).ExtraItems.At(1) = {QStringLiteral("Gift"), Count(0)};
+        State.ExtraPayPeriods(1).ExtraItems.At(2) = {QStringLiteral("Refund"), Count(-200000)};
         State.ExtraPayPeriods(2).PayPeriodDate = DateText(QStringLiteral("some day"));
         SavePayPeriods();
         QCOMPARE(desk.ReadFile(QStringLiteral("extra.txt")),
@@ -228,10 +228,10 @@ private Q_SLOTS:
         State.ProjectEntryCounts = {qint16(2), qint16(0)};
         State.ProjectEntryDates.Redim(2);
         State.ProjectEntryAmounts.Redim(2);
-        State.ProjectEntryDates(1)(1) = DateText(QStringLiteral("1/1/2004"));
-        State.ProjectEntryAmounts(1)(1) = Count(5002500);
-        State.ProjectEntryDates(1)(2) = DateText(QStringLiteral("1/15/2004"));
-        State.ProjectEntryAmounts(1)(2) = Count(5002500);
+        State.ProjectEntryDates(1).At(1) = DateText(QStringLiteral("1/1/2004"));
+        State.ProjectEntryAmounts(1).At(1) = Count(5002500);
+        State.ProjectEntryDates(1).At(2) = DateText(QStringLiteral("1/15/2004"));
+        State.ProjectEntryAmounts(1).At(2) = Count(5002500);
         SaveProjects();
         QCOMPARE(desk.ReadFile(QStringLiteral("projects.txt")),
                  QByteArray("2\r\n\"Roof\"\r\n1000.5\r\n2\r\n\"1/1/2004\"\r\n500.25\r\n\"1/15/2004\"\r\n500.25\r\n"
@@ -479,7 +479,7 @@ private Q_SLOTS:
         PutOneOfEach();
         State.Creditors(1).CreditorName = State.Regulars(1).RegularItem = State.ProjectNames(1) = name;
         State.ExtraPayPeriods(1).NumberOfExtraItems = 1;
-        State.ExtraPayPeriods(1).ExtraItems(1).ExtraItem = name;
+        State.ExtraPayPeriods(1).ExtraItems.At(1).ExtraItem = name;
         for (const DataList &list : Lists) {
             desk.WriteFile(QLatin1String(list.File), "0\r\n");
             list.Save();
@@ -854,14 +854,14 @@ private Q_SLOTS:
         PutOneOfEach();
         State.ExtraPayPeriods(1).NumberOfExtraItems = 200;
         for (int item = 1; item <= 200; ++item)
-            State.ExtraPayPeriods(1).ExtraItems(item) = {QString::number(item), Count(item)};
+            State.ExtraPayPeriods(1).ExtraItems.At(item) = {QString::number(item), Count(item)};
         SavePayPeriods();
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(200));
         for (int item = 1; item <= 200; ++item)
             QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(item), (ExtraItemRecord{QString::number(item), Count(item)}));
         // The 201st cannot be stored.
-        QCOMPARE(ErrorOf([] { State.ExtraPayPeriods(1).ExtraItems(201) = {}; }), 9);
+        QCOMPARE(ErrorOf([] { State.ExtraPayPeriods(1).ExtraItems.At(201) = {}; }), 9);
     }
 
     void AProjectWith100EntriesComesBack()
@@ -871,8 +871,8 @@ private Q_SLOTS:
         PutOneOfEach();
         State.ProjectEntryCounts(1) = 100;
         for (int entry = 1; entry <= 100; ++entry) {
-            State.ProjectEntryDates(1)(entry) = DateText(QStringLiteral("1/1/%1").arg(2000 + entry));
-            State.ProjectEntryAmounts(1)(entry) = Count(entry);
+            State.ProjectEntryDates(1).At(entry) = DateText(QStringLiteral("1/1/%1").arg(2000 + entry));
+            State.ProjectEntryAmounts(1).At(entry) = Count(entry);
         }
         SaveProjects();
         InputProjects();

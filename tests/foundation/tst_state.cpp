@@ -66,7 +66,7 @@ void ExpectTheStart()
     QVERIFY(!State.PrintProjectView);
 
     QCOMPARE(State.TutorInstructions.Size(), 26);
-    for (const QString &page : std::as_const(State.TutorInstructions))
+    for (const QString &page : State.TutorInstructions)
         QCOMPARE(page, QString());
 
     QCOMPARE(State.PrintFontName, QString());
@@ -137,7 +137,7 @@ private Q_SLOTS:
     void TheBoundsOfTheRecords()
     {
         ExtraPayPeriodRecord payPeriod;
-        payPeriod.ExtraItems(200).ExtraItem = QStringLiteral("the last one");
+        payPeriod.ExtraItems.At(200).ExtraItem = QStringLiteral("the last one");
         QCOMPARE(payPeriod.ExtraItems(200).ExtraItem, QStringLiteral("the last one"));
         QCOMPARE(payPeriod.ExtraItems(0).ExtraItem, QString());
         QCOMPARE(ErrorOf([&] { payPeriod.ExtraItems(201); }), 9);

@@ -107,7 +107,7 @@ QString ToldState()
         add(QString::number(creditor.CreditorDueDate), creditor.CreditorName, amount(creditor.CreditorAmount));
     for (const RegularRecord &regular : State.Regulars)
         add(regular.RegularItem, amount(regular.RegularAmount));
-    for (const ExtraPayPeriodRecord &payPeriod : std::as_const(State.ExtraPayPeriods)) {
+    for (const ExtraPayPeriodRecord &payPeriod : State.ExtraPayPeriods) {
         add(payPeriod.PayPeriodDate.Text(), QString::number(payPeriod.NumberOfExtraItems));
         for (int i = 1; i <= payPeriod.NumberOfExtraItems; ++i)
             add(payPeriod.ExtraItems(i).ExtraItem, amount(payPeriod.ExtraItems(i).ExtraItemAmount));
@@ -115,8 +115,7 @@ QString ToldState()
     for (int project = 1; project <= State.ProjectNames.Size(); ++project) {
         add(State.ProjectNames(project), amount(State.ProjectAmounts(project)));
         for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry)
-            add(std::as_const(State.ProjectEntryDates)(project)(entry).Text(),
-                amount(std::as_const(State.ProjectEntryAmounts)(project)(entry)));
+            add(State.ProjectEntryDates(project)(entry).Text(), amount(State.ProjectEntryAmounts(project)(entry)));
     }
     for (const MasterItemRecord &item : State.MasterShoppingList)
         add(item.Item, item.Unit, amount(item.UnitPrice), item.Store, QString::number(item.Taxable));

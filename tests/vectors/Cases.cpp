@@ -79,8 +79,8 @@ void TakeHousehold(const QJsonObject &household)
         payPeriod.PayPeriodDate = extras[i - 1][u"PayPeriodDate"].toString();
         payPeriod.NumberOfExtraItems = Count(items);
         for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
-            payPeriod.ExtraItems(item) = {items[item - 1][u"ExtraItem"].toString(),
-                                          Money(items[item - 1][u"ExtraItemAmount"])};
+            payPeriod.ExtraItems.At(item) = {items[item - 1][u"ExtraItem"].toString(),
+                                             Money(items[item - 1][u"ExtraItemAmount"])};
     }
     const QJsonArray projects = household[u"Projects"].toArray();
     State.NumberOfProjects = Count(projects);
@@ -96,8 +96,8 @@ void TakeHousehold(const QJsonObject &household)
         State.ProjectAmounts(i) = Money(project[u"ProjectAmount"]);
         State.ProjectEntryCounts(i) = Count(entries);
         for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry) {
-            State.ProjectEntryDates(i)(entry) = entries[entry - 1][u"Date"].toString();
-            State.ProjectEntryAmounts(i)(entry) = Money(entries[entry - 1][u"Amount"]);
+            State.ProjectEntryDates(i).At(entry) = entries[entry - 1][u"Date"].toString();
+            State.ProjectEntryAmounts(i).At(entry) = Money(entries[entry - 1][u"Amount"]);
         }
     }
 }
@@ -131,7 +131,7 @@ void HoldProjectDatesAsPlanned()
 {
     for (int i = 1; i <= State.NumberOfProjects; ++i)
         for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry)
-            State.ProjectEntryDates(i)(entry) = FormatLongDate(State.ProjectEntryDates(i)(entry));
+            State.ProjectEntryDates(i).At(entry) = FormatLongDate(State.ProjectEntryDates(i)(entry));
 }
 
 void SaveProjectsAnew(const RecordingDesk &desk)

@@ -50,23 +50,25 @@ private:
     std::vector<Element> m_elements;
 };
 
-/// Elements 0 to Last, all there from the start; one that was never written costs no memory.
+/// Elements 0 to Last, all there from the start; one that was never written costs no memory. Reading leaves the array
+/// as it is, so that looking at a record never makes it grow; At() is for writing.
 template <class Element, int Last>
 class FixedArray
 {
 public:
-    Element &operator()(int index)
-    {
-        Check(index);
-        if (index >= int(m_elements.size()))
-            m_elements.resize(std::size_t(index) + 1);
-        return m_elements[std::size_t(index)];
-    }
     const Element &operator()(int index) const
     {
         static const Element untouched{};
         Check(index);
         return index < int(m_elements.size()) ? m_elements[std::size_t(index)] : untouched;
+    }
+    /// The element to write to.
+    Element &At(int index)
+    {
+        Check(index);
+        if (index >= int(m_elements.size()))
+            m_elements.resize(std::size_t(index) + 1);
+        return m_elements[std::size_t(index)];
     }
     static void Check(int index)
     {
