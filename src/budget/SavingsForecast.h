@@ -3,10 +3,9 @@
 #pragma once
 
 #include "foundation/Report.h"
+#include "foundation/State.h"
 #include "platform/values/Currency.h"
 #include "platform/values/OneBased.h"
-
-constexpr int MostForecastPeriods = 1000;
 
 /// The forecast's own state: it keeps its rows after a run, as texts with two decimals, and projects work from these
 /// texts. A test puts it back with one assignment.

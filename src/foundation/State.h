@@ -30,6 +30,8 @@ struct ExtraItemRecord {
     bool operator==(const ExtraItemRecord &) const = default;
 };
 
+constexpr int LeastForecastPeriods = 1;
+constexpr int MostForecastPeriods = 1000;
 constexpr int MostExtraItems = 200;
 constexpr int MostProjectEntries = 100;
 constexpr int MostTutorPages = 26;
@@ -80,7 +82,7 @@ struct SharedState {
     QString HelpFile;        ///< what F1 and the help buttons open
 
     // Settings, kept in environm.ini
-    qint16 ForecastPeriods = 0;     ///< pay periods that the savings forecast looks ahead, 1 to 1000
+    qint16 ForecastPeriods = 0;     ///< pay periods that the savings forecast looks ahead, within the bounds above
     Currency PaycheckAmount;        ///< net amount of one paycheck
     qint16 PayFrequency = 0;        ///< 7 weekly, 14 biweekly, 15 semimonthly, 30 monthly
     qint16 FirstPayDate = 0;        ///< day of the first semimonthly paycheck

@@ -65,7 +65,7 @@ double PPmt(double rate, double period, double periods, double presentValue, dou
     // A payment at the beginning of the first period comes before any interest.
     if (type != 0 && period == 1)
         return payment;
-    // FV tells the balance at the start of the period with the sign of a payment.
+    // FV gives the balance at the start of the period with the sign of a payment.
     double interest = FV(rate, period - 1, payment, presentValue, type) * rate;
     if (type != 0)
         interest = Quotient(interest, 1 + rate);

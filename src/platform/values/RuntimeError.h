@@ -1,5 +1,5 @@
-// The one error type of the program. It is thrown by the platform floor alone; who traps it, and in which words it
-// is told, is decided where a routine has a handler by design.
+// The one error type of the program. It is thrown by the platform floor alone; a routine that has a handler by
+// design traps it and words the message.
 #pragma once
 
 #include <QString>
@@ -30,7 +30,7 @@ public:
 
     explicit RuntimeError(Code code) : Number(code) {}
     QString Description() const;
-    /// "Error 53: File not found", the form in which file routines tell an error.
+    /// "Error 53: File not found", as file routines report an error.
     QString Text() const;
     const char *what() const noexcept override { return "RuntimeError"; }
 
