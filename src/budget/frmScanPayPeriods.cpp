@@ -20,6 +20,8 @@ void frmScanPayPeriods::lstScanPayPeriods_GotFocus()
     ui->lstScanPayPeriods->Clear();
     for (const QString &row : ScanRows())
         ui->lstScanPayPeriods->AddItem(row);
+    ui->lstScanPayPeriods->setToolTip(
+        State.ScanCalledFromExtras ? QStringLiteral("Click a date to add it to the extra pay periods") : QString());
 }
 
 void frmScanPayPeriods::lstScanPayPeriods_Click()
@@ -27,7 +29,7 @@ void frmScanPayPeriods::lstScanPayPeriods_Click()
     if (!PickScanDate(ui->lstScanPayPeriods->ListIndex()))
         return;
     TheWindows.Touch(QStringLiteral("frmExtras")); // the user may have closed it in the meantime
-    FillPayPeriodList();
+    Q_EMIT ThePayPeriodOutlet.PayPeriodAdded();
     TheWindows.Hide(objectName());
 }
 

@@ -16,7 +16,9 @@ frmExtras::frmExtras() : ListPanel(ExtraItemList), ui(std::make_unique<Ui::frmEx
                   .Delete = ui->cmdDeleteExtraItem,
                   .Quit = ui->cmdQuit,
                   .Commit = ui->cmdAddChangeExtraItem,
+                  .Amount = ui->txtExtraItemAmount,
                   .Fields = {ui->txtExtraItemAmount, ui->txtExtraItem}});
+    connect(&ThePayPeriodOutlet, &PayPeriodOutlet::PayPeriodAdded, this, &frmExtras::TakePickedPayPeriod);
     connect(ui->cmdAddPayPeriod, &QPushButton::clicked, this, &frmExtras::cmdAddPayPeriod_Click);
     // The check box raises its click also when code changes its value.
     connect(ui->chkCredit, &QCheckBox::toggled, this, &frmExtras::chkCredit_Click);
@@ -24,16 +26,6 @@ frmExtras::frmExtras() : ListPanel(ExtraItemList), ui(std::make_unique<Ui::frmEx
 }
 
 frmExtras::~frmExtras() = default;
-
-void frmExtras::Load()
-{
-    ::FillPayPeriodList = [this] { TakePickedPayPeriod(); };
-}
-
-void frmExtras::Unload()
-{
-    ::FillPayPeriodList = nullptr;
-}
 
 void frmExtras::FillPayPeriodList()
 {
@@ -100,7 +92,7 @@ void frmExtras::ReadClicked()
 void frmExtras::cmdAddPayPeriod_Click()
 {
     State.ScanCalledFromExtras = true;
-    TheWindows.Show(QStringLiteral("frmScanPayPeriods")); // a pick there comes back through FillPayPeriodList
+    TheWindows.Show(QStringLiteral("frmScanPayPeriods")); // a pick there comes back as TakePickedPayPeriod
 }
 
 void frmExtras::RowClicked()

@@ -15,8 +15,6 @@ class frmExtras : public ListPanel
 public:
     frmExtras();
     ~frmExtras() override;
-    void Load() override;
-    void Unload() override;
 
 protected:
     void ReadClicked() override;
