@@ -2,11 +2,16 @@
 
 #include "platform/desk/UnknownError.h"
 #include "platform/controls/ListBox.h"
+#include "platform/values/Format.h"
 #include "platform/windows/WindowRegister.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopeGuard>
+
+namespace {
+const Currency GreatestUsualAmount = Currency::FromTenThousandths(-999'999'900); // larger ones scroll
+}
 
 void ListPanel::TakeControls(const Controls &controls)
 {
@@ -22,6 +27,7 @@ void ListPanel::TakeControls(const Controls &controls)
         TheWindows.Unload(objectName());
     });
     EnterRing(controls.Fields);
+    KeepRoomFor(controls.Amount, FormatCurrency(GreatestUsualAmount));
 }
 
 void ListPanel::ReadClicked()
@@ -89,6 +95,15 @@ int ListPanel::SelectedRecord() const
 void ListPanel::Trap(const std::function<void()> &steps)
 {
     TrapUnknownError(m_list.Title, steps);
+}
+
+void ListPanel::KeepRoomFor(QLineEdit *field, const QString &text)
+{
+    constexpr int LettersOfHint = 17; // what the toolkit makes a field wide enough for, its frame included
+    field->ensurePolished();
+    const QFontMetrics metrics = field->fontMetrics();
+    const int frame = field->sizeHint().width() - LettersOfHint * metrics.horizontalAdvance(QLatin1Char('x'));
+    field->setMinimumWidth(frame + metrics.horizontalAdvance(text) + 1); // and the caret
 }
 
 void ListPanel::SetFields(const QStringList &texts)

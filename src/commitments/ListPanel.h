@@ -26,6 +26,7 @@ protected:
         QPushButton *Delete = nullptr;
         QPushButton *Quit = nullptr;
         QPushButton *Commit = nullptr;
+        QLineEdit *Amount = nullptr;
         QList<QLineEdit *> Fields; ///< as the list declares them; the first one gets the focus
     };
     /// Takes the window's controls and connects their events.
@@ -46,6 +47,8 @@ protected:
     /// Runs a handler's steps. An error ends them with the warning box.
     void Trap(const std::function<void()> &steps);
 
+    /// Makes a field wide enough for a text.
+    static void KeepRoomFor(QLineEdit *field, const QString &text);
     void SetFields(const QStringList &texts);
     void EmptyFields();
     void EnableFields(bool enabled);

@@ -13,6 +13,7 @@ frmCreditors::frmCreditors() : ListPanel(CreditorList), ui(std::make_unique<Ui::
                   .Delete = ui->cmdDeleteCreditor,
                   .Quit = ui->cmdQuit,
                   .Commit = ui->cmdAddChangeCreditor,
+                  .Amount = ui->txtCreditorAmount,
                   .Fields = {ui->txtCreditorDueDate, ui->txtCreditorAmount, ui->txtCreditor}});
 }
 

@@ -36,7 +36,9 @@ frmProjects::frmProjects() : ListPanel(ProjectList), ui(std::make_unique<Ui::frm
                   .Delete = ui->cmdDeleteProject,
                   .Quit = ui->cmdQuit,
                   .Commit = ui->cmdNew,
+                  .Amount = ui->txtProjectAmount,
                   .Fields = {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate}});
+    KeepRoomFor(ui->txtProjectCompletionDate, QStringLiteral("September 30, 2004")); // no date is longer
     for (QLineEdit *field : {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate})
         connect(field, &QLineEdit::textChanged, this, &frmProjects::UpdateNewButton);
     connect(ui->lstProjects, &ListBox::DoubleClick, this, &frmProjects::lstProjects_DblClick);

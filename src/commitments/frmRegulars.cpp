@@ -13,6 +13,7 @@ frmRegulars::frmRegulars() : ListPanel(RegularList), ui(std::make_unique<Ui::frm
                   .Delete = ui->cmdDeleteRegularItem,
                   .Quit = ui->cmdQuit,
                   .Commit = ui->cmdAddChangeRegularItem,
+                  .Amount = ui->txtRegularAmount,
                   .Fields = {ui->txtRegularAmount, ui->txtRegularItem}});
 }
 
