@@ -61,10 +61,10 @@ struct CurrentItemRecord {
     bool operator==(const CurrentItemRecord &) const = default;
 };
 
-/// How many items of a record are there: a damaged file may count more than a record holds.
+/// How many items of a record are there: a damaged file may count more than a record holds, or less than nothing.
 inline int ItemsOf(const ExtraPayPeriodRecord &payPeriod)
 {
-    return std::min<int>(payPeriod.NumberOfExtraItems, MostExtraItems);
+    return std::clamp<int>(payPeriod.NumberOfExtraItems, 0, MostExtraItems);
 }
 
 /// PayFrequency
@@ -156,7 +156,7 @@ inline SharedState State;
 /// How many entries of a project are there, likewise.
 inline int EntriesOf(int project)
 {
-    return std::min<int>(State.ProjectEntryCounts(project), MostProjectEntries);
+    return std::clamp<int>(State.ProjectEntryCounts(project), 0, MostProjectEntries);
 }
 
 inline void ResetState()
