@@ -686,6 +686,18 @@ private Q_SLOTS:
         QCOMPARE(RowsOf(panel.Window, panel.List), QStringList());
     }
 
+    void EscClosesTheWindow_data() { AddPanels(); }
+    void EscClosesTheWindow()
+    {
+        const Panel &panel = ThePanel();
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        ClickRow(panel.Window, panel.List, 0);
+        QTest::keyClick(&Find(panel.Window, FocusOf(panel.Window)), Qt::Key_Escape);
+        Settle();
+        QVERIFY(!TheWindows.Loaded(panel.Window));
+    }
+
     void F1AsksForThePageOfTheWindow_data() { AddPanels(); }
     void F1AsksForThePageOfTheWindow()
     {
