@@ -7,6 +7,8 @@
 #include "platform/values/Currency.h"
 #include "platform/values/OneBased.h"
 
+#include <QObject>
+
 /// The forecast's own state: it keeps its rows after a run, as texts with two decimals, and projects work from these
 /// texts. A test puts it back with one assignment.
 struct ForecastState {
@@ -31,3 +33,12 @@ std::vector<DatedRow> ForecastRows();
 /// cell, in the forecast's state and ends the picking. Returns the text of the date; a row below the last forecast row
 /// has none, whatever a longer forecast has left there before. Error 9 for the heading.
 QString PickForecastRow(int row, const QString &accumulated);
+
+/// Where the projects' window hears of the date that was picked.
+class CompletionDateOutlet : public QObject
+{
+    Q_OBJECT
+Q_SIGNALS:
+    void Picked(const QString &date);
+};
+inline CompletionDateOutlet TheCompletionDateOutlet;

@@ -3,8 +3,8 @@
 
 #include "platform/values/Dates.h"
 
+#include <QObject>
 #include <array>
-#include <functional>
 
 /// The scan's own state; a test puts it back with one assignment.
 struct ScanState {
@@ -40,5 +40,11 @@ bool PickScanDate(int row);
 /// file, so that the next edit saves the file and itself alone.
 void DropUnsavedPayPeriods();
 
-/// The extras window's list of pay periods. Empty while that window is not loaded.
-inline std::function<void()> FillPayPeriodList;
+/// Where whoever shows the extra pay periods hears of a new one.
+class PayPeriodOutlet : public QObject
+{
+    Q_OBJECT
+Q_SIGNALS:
+    void PayPeriodAdded();
+};
+inline PayPeriodOutlet ThePayPeriodOutlet;

@@ -3,6 +3,7 @@
 #include "budget/GridRendering.h"
 #include "budget/SavingsForecast.h"
 #include "foundation/State.h"
+#include "foundation/WindowNames.h"
 #include "platform/desk/Desk.h"
 #include "platform/values/Dates.h"
 #include "platform/windows/WindowRegister.h"
@@ -102,7 +103,7 @@ void frmSavingsForecast::PickCompletionDate()
     const int row = ui->grdSavingsForecast->CurrentRow();
     // A click on the heading is error 9, which nobody traps.
     const QString date = PickForecastRow(row, ui->grdSavingsForecast->Text(row, Accumulated));
-    TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmProjects"), QStringLiteral("txtProjectCompletionDate"))
-        .setText(date);
+    TheWindows.Touch(WindowName::frmProjects); // the user may have closed it in the meantime
+    Q_EMIT TheCompletionDateOutlet.Picked(date);
     TheWindows.Unload(objectName());
 }

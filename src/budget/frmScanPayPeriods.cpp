@@ -2,32 +2,32 @@
 
 #include "budget/ScanPayPeriods.h"
 #include "foundation/State.h"
+#include "foundation/WindowNames.h"
+#include "platform/controls/ListBox.h"
 #include "platform/windows/WindowRegister.h"
-#include "ui_frmScanPayPeriods.h"
 
-frmScanPayPeriods::frmScanPayPeriods() : ui(std::make_unique<Ui::frmScanPayPeriods>())
+frmScanPayPeriods::frmScanPayPeriods()
 {
-    ui->setupUi(this);
-    OnGotFocus(ui->lstScanPayPeriods, [this] { lstScanPayPeriods_GotFocus(); });
-    connect(ui->lstScanPayPeriods, &ListBox::Click, this, &frmScanPayPeriods::lstScanPayPeriods_Click);
+    OnGotFocus(ui.lstScanPayPeriods, [this] { FillList(); });
+    connect(ui.lstScanPayPeriods, &ListBox::Click, this, &frmScanPayPeriods::PickDate);
 }
 
-frmScanPayPeriods::~frmScanPayPeriods() = default;
-
-void frmScanPayPeriods::lstScanPayPeriods_GotFocus()
+void frmScanPayPeriods::FillList()
 {
     FillScanPayPeriods();
-    ui->lstScanPayPeriods->Clear();
+    ui.lstScanPayPeriods->Clear();
     for (const QString &row : ScanRows())
-        ui->lstScanPayPeriods->AddItem(row);
+        ui.lstScanPayPeriods->AddItem(row);
+    ui.lstScanPayPeriods->setToolTip(
+        State.ScanCalledFromExtras ? QStringLiteral("Click a date to add it to the extra pay periods") : QString());
 }
 
-void frmScanPayPeriods::lstScanPayPeriods_Click()
+void frmScanPayPeriods::PickDate()
 {
-    if (!PickScanDate(ui->lstScanPayPeriods->ListIndex()))
+    if (!PickScanDate(ui.lstScanPayPeriods->ListIndex()))
         return;
-    TheWindows.Touch(QStringLiteral("frmExtras")); // the user may have closed it in the meantime
-    FillPayPeriodList();
+    TheWindows.Touch(WindowName::frmExtras); // the user may have closed it in the meantime
+    Q_EMIT ThePayPeriodOutlet.PayPeriodAdded();
     TheWindows.Hide(objectName());
 }
 

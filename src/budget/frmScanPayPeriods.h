@@ -1,25 +1,16 @@
 // The window of the pay dates ahead: for looking only, or to pick the date of an extra pay period.
 #pragma once
 
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
+#include "ui_frmScanPayPeriods.h"
 
-#include <memory>
-
-namespace Ui {
-class frmScanPayPeriods;
-}
-
-class frmScanPayPeriods : public Form
+class frmScanPayPeriods : public Window<Ui::frmScanPayPeriods>
 {
-    Q_OBJECT
 public:
     frmScanPayPeriods();
-    ~frmScanPayPeriods() override;
     void Unload() override;
 
 private:
-    void lstScanPayPeriods_GotFocus();
-    void lstScanPayPeriods_Click();
-
-    std::unique_ptr<Ui::frmScanPayPeriods> ui;
+    void FillList();
+    void PickDate();
 };

@@ -1,27 +1,30 @@
 #include "commitments/ListPanel.h"
 
-#include "platform/desk/UnknownError.h"
 #include "platform/controls/ListBox.h"
-#include "platform/windows/WindowRegister.h"
+#include "platform/values/Format.h"
 
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScopeGuard>
+
+namespace {
+const Currency GreatestUsualAmount = Currency::FromTenThousandths(-999'999'900); // larger ones scroll
+}
 
 void ListPanel::TakeControls(const Controls &controls)
 {
     m_controls = controls;
-    connect(controls.Read, &QPushButton::clicked, this, [this] { ReadClicked(); });
-    connect(controls.Add, &QPushButton::clicked, this, [this] { AddClicked(); });
     connect(controls.List, &ListBox::Click, this, [this] { RowClicked(); });
-    connect(controls.Commit, &QPushButton::clicked, this, [this] { Trap([this] { CommitEntry(); }); });
-    connect(controls.Delete, &QPushButton::clicked, this, [this] { Trap([this] { DeleteClicked(); }); });
-    connect(controls.Quit, &QPushButton::clicked, this, [this] {
+    OnClick(controls.Read, [this] { ReadClicked(); });
+    OnClick(controls.Add, [this] { AddClicked(); });
+    OnClickTrapped(controls.Commit, [this] { CommitEntry(); });
+    OnClickTrapped(controls.Delete, [this] { DeleteClicked(); });
+    OnClick(controls.Quit, [this] {
         m_controls.Add->setEnabled(false);
         m_controls.Delete->setEnabled(false);
-        TheWindows.Unload(objectName());
+        Close();
     });
     EnterRing(controls.Fields);
+    KeepRoomFor(controls.Amount, FormatCurrency(GreatestUsualAmount));
 }
 
 void ListPanel::ReadClicked()
@@ -86,9 +89,13 @@ int ListPanel::SelectedRecord() const
     return m_controls.List->ListIndex() + 1;
 }
 
-void ListPanel::Trap(const std::function<void()> &steps)
+void ListPanel::KeepRoomFor(QLineEdit *field, const QString &text)
 {
-    TrapUnknownError(m_list.Title, steps);
+    constexpr int LettersOfHint = 17; // what the toolkit makes a field wide enough for, its frame included
+    field->ensurePolished();
+    const QFontMetrics metrics = field->fontMetrics();
+    const int frame = field->sizeHint().width() - LettersOfHint * metrics.horizontalAdvance(QLatin1Char('x'));
+    field->setMinimumWidth(frame + metrics.horizontalAdvance(text) + 1); // and the caret
 }
 
 void ListPanel::SetFields(const QStringList &texts)

@@ -4,20 +4,19 @@
 #pragma once
 
 #include "commitments/CommitmentList.h"
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
 
 class ListBox;
-class QLineEdit;
 class QPushButton;
 
-class ListPanel : public Form
+class ListPanel : public WindowBase
 {
     Q_OBJECT
-public:
-    int HelpContext() const override { return m_list.HelpContext; }
-
 protected:
-    explicit ListPanel(const CommitmentList &list) : m_list(list) {}
+    explicit ListPanel(const CommitmentList &list)
+        : WindowBase({.Title = list.Title, .HelpContext = list.HelpContext}), m_list(list)
+    {
+    }
 
     struct Controls {
         ListBox *List = nullptr;
@@ -26,6 +25,7 @@ protected:
         QPushButton *Delete = nullptr;
         QPushButton *Quit = nullptr;
         QPushButton *Commit = nullptr;
+        QLineEdit *Amount = nullptr;
         QList<QLineEdit *> Fields; ///< as the list declares them; the first one gets the focus
     };
     /// Takes the window's controls and connects their events.
@@ -43,9 +43,9 @@ protected:
     /// The record of the selected row. Where no row is selected it is 0, which is no record: after a commit the buttons
     /// outlast the selection.
     int SelectedRecord() const;
-    /// Runs a handler's steps. An error ends them with the warning box.
-    void Trap(const std::function<void()> &steps);
 
+    /// Makes a field wide enough for a text.
+    static void KeepRoomFor(QLineEdit *field, const QString &text);
     void SetFields(const QStringList &texts);
     void EmptyFields();
     void EnableFields(bool enabled);
@@ -60,4 +60,14 @@ private:
 
     const CommitmentList &m_list;
     Controls m_controls;
+};
+
+/// Such a window of the design `UiForm`.
+template <class UiForm>
+class ListWindow : public ListPanel
+{
+protected:
+    explicit ListWindow(const CommitmentList &list) : ListPanel(list) { ui.setupUi(this); }
+
+    UiForm ui;
 };

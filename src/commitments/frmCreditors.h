@@ -2,20 +2,10 @@
 #pragma once
 
 #include "commitments/ListPanel.h"
+#include "ui_frmCreditors.h"
 
-#include <memory>
-
-namespace Ui {
-class frmCreditors;
-}
-
-class frmCreditors : public ListPanel
+class frmCreditors : public ListWindow<Ui::frmCreditors>
 {
-    Q_OBJECT
 public:
     frmCreditors();
-    ~frmCreditors() override;
-
-private:
-    std::unique_ptr<Ui::frmCreditors> ui;
 };

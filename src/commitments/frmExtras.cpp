@@ -2,68 +2,57 @@
 
 #include "budget/ScanPayPeriods.h"
 #include "commitments/Extras.h"
+#include "foundation/WindowNames.h"
 #include "platform/controls/ListBox.h"
 #include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
-#include "ui_frmExtras.h"
 
-frmExtras::frmExtras() : ListPanel(ExtraItemList), ui(std::make_unique<Ui::frmExtras>())
+frmExtras::frmExtras() : ListWindow(ExtraItemList)
 {
-    ui->setupUi(this);
-    TakeControls({.List = ui->lstExtraItems,
-                  .Read = ui->cmdListPayPeriods,
-                  .Add = ui->cmdAddExtraItem,
-                  .Delete = ui->cmdDeleteExtraItem,
-                  .Quit = ui->cmdQuit,
-                  .Commit = ui->cmdAddChangeExtraItem,
-                  .Fields = {ui->txtExtraItemAmount, ui->txtExtraItem}});
-    connect(ui->cmdAddPayPeriod, &QPushButton::clicked, this, &frmExtras::cmdAddPayPeriod_Click);
+    TakeControls({.List = ui.lstExtraItems,
+                  .Read = ui.cmdListPayPeriods,
+                  .Add = ui.cmdAddExtraItem,
+                  .Delete = ui.cmdDeleteExtraItem,
+                  .Quit = ui.cmdQuit,
+                  .Commit = ui.cmdAddChangeExtraItem,
+                  .Amount = ui.txtExtraItemAmount,
+                  .Fields = {ui.txtExtraItemAmount, ui.txtExtraItem}});
+    connect(&ThePayPeriodOutlet, &PayPeriodOutlet::PayPeriodAdded, this, &frmExtras::TakePickedPayPeriod);
+    OnClick(ui.cmdAddPayPeriod, [this] { AddPayPeriod(); });
     // The check box raises its click also when code changes its value.
-    connect(ui->chkCredit, &QCheckBox::toggled, this, &frmExtras::chkCredit_Click);
-    connect(ui->cmdDeletePayPeriod, &QPushButton::clicked, this, &frmExtras::cmdDeletePayPeriod_Click);
-}
-
-frmExtras::~frmExtras() = default;
-
-void frmExtras::Load()
-{
-    ::FillPayPeriodList = [this] { TakePickedPayPeriod(); };
-}
-
-void frmExtras::Unload()
-{
-    ::FillPayPeriodList = nullptr;
+    connect(ui.chkCredit, &QCheckBox::toggled, this, &frmExtras::TurnAmount);
+    OnClickTrapped(ui.cmdDeletePayPeriod, [this] { DeletePayPeriod(); });
 }
 
 void frmExtras::FillPayPeriodList()
 {
-    ui->lstExtraItems->Clear();
+    ui.lstExtraItems->Clear();
     for (const QString &name : PayPeriodNames())
-        ui->lstExtraItems->AddItem(name);
+        ui.lstExtraItems->AddItem(name);
 }
 
 /// The open pay period with its items.
 void frmExtras::FillList()
 {
-    ui->lblPayPeriod->setText(OpenPayPeriodName());
+    ui.lblPayPeriod->setText(OpenPayPeriodName());
     ListPanel::FillList();
     Extras.ExtrasListMode = false;
-    ui->cmdAddPayPeriod->setEnabled(false);
-    ui->cmdDeletePayPeriod->setEnabled(true);
-    ui->cmdAddExtraItem->setEnabled(true);
+    ui.cmdAddPayPeriod->setEnabled(false);
+    ui.cmdDeletePayPeriod->setEnabled(true);
+    ui.cmdAddExtraItem->setEnabled(true);
 }
 
 /// The level of the pay periods.
 void frmExtras::ShowPayPeriods()
 {
-    ui->lblPayPeriod->clear();
+    ui.lblPayPeriod->clear();
     FillPayPeriodList();
-    ui->cmdAddPayPeriod->setEnabled(true);
+    ui.cmdAddPayPeriod->setEnabled(true);
     Extras.ExtrasListMode = true;
-    ui->cmdDeletePayPeriod->setEnabled(false);
-    ui->cmdDeleteExtraItem->setEnabled(false);
-    ui->cmdAddExtraItem->setEnabled(false);
-    ui->cmdAddChangeExtraItem->setEnabled(false);
+    ui.cmdDeletePayPeriod->setEnabled(false);
+    ui.cmdDeleteExtraItem->setEnabled(false);
+    ui.cmdAddExtraItem->setEnabled(false);
+    ui.cmdAddChangeExtraItem->setEnabled(false);
 }
 
 /// After a pick in the scan. A pay period that was opened meanwhile is closed again, or its items would be written into
@@ -86,8 +75,8 @@ void frmExtras::EmptyPanel()
 
 void frmExtras::ClearCredit()
 {
-    ui->chkCredit->setChecked(false);
-    ui->chkCredit->setEnabled(false);
+    ui.chkCredit->setChecked(false);
+    ui.chkCredit->setEnabled(false);
 }
 
 void frmExtras::ReadClicked()
@@ -97,10 +86,10 @@ void frmExtras::ReadClicked()
     EmptyPanel();
 }
 
-void frmExtras::cmdAddPayPeriod_Click()
+void frmExtras::AddPayPeriod()
 {
     State.ScanCalledFromExtras = true;
-    TheWindows.Show(QStringLiteral("frmScanPayPeriods")); // a pick there comes back through FillPayPeriodList
+    TheWindows.Show(WindowName::frmScanPayPeriods); // a pick there comes back as TakePickedPayPeriod
 }
 
 void frmExtras::RowClicked()
@@ -111,12 +100,12 @@ void frmExtras::RowClicked()
         return;
     }
     SetFields(ExtraItemList.PanelOf(SelectedRecord()));
-    ui->cmdAddExtraItem->setEnabled(true);
-    ui->cmdDeleteExtraItem->setEnabled(ui->lstExtraItems->count() != 1); // a pay period keeps at least one item
-    ui->chkCredit->setEnabled(true);
+    ui.cmdAddExtraItem->setEnabled(true);
+    ui.cmdDeleteExtraItem->setEnabled(ui.lstExtraItems->count() != 1); // a pay period keeps at least one item
+    ui.chkCredit->setEnabled(true);
     // Its click follows the amount, which has its sign already and stays as it is. The panel opens after it: the amount
     // is written again and would lose its selection.
-    ui->chkCredit->setChecked(IsCredit(SelectedRecord()));
+    ui.chkCredit->setChecked(IsCredit(SelectedRecord()));
     OpenPanel(ChangeCaption);
 }
 
@@ -124,12 +113,12 @@ void frmExtras::AddClicked()
 {
     // The check box keeps what it showed; only a click on it changes the sign.
     ListPanel::AddClicked();
-    ui->chkCredit->setEnabled(true);
+    ui.chkCredit->setEnabled(true);
 }
 
-void frmExtras::chkCredit_Click()
+void frmExtras::TurnAmount()
 {
-    ui->txtExtraItemAmount->setText(AmountWithCredit(ui->txtExtraItemAmount->text(), ui->chkCredit->isChecked()));
+    ui.txtExtraItemAmount->setText(AmountWithCredit(ui.txtExtraItemAmount->text(), ui.chkCredit->isChecked()));
 }
 
 void frmExtras::DeleteClicked()
@@ -138,11 +127,9 @@ void frmExtras::DeleteClicked()
     ClearCredit();
 }
 
-void frmExtras::cmdDeletePayPeriod_Click()
+void frmExtras::DeletePayPeriod()
 {
-    Trap([this] {
-        RemovePayPeriodAndSave();
-        ShowPayPeriods();
-        EmptyFields();
-    });
+    RemovePayPeriodAndSave();
+    ShowPayPeriods();
+    EmptyFields();
 }

@@ -2,21 +2,12 @@
 #pragma once
 
 #include "commitments/ListPanel.h"
+#include "ui_frmExtras.h"
 
-#include <memory>
-
-namespace Ui {
-class frmExtras;
-}
-
-class frmExtras : public ListPanel
+class frmExtras : public ListWindow<Ui::frmExtras>
 {
-    Q_OBJECT
 public:
     frmExtras();
-    ~frmExtras() override;
-    void Load() override;
-    void Unload() override;
 
 protected:
     void ReadClicked() override;
@@ -31,9 +22,7 @@ private:
     void FillPayPeriodList();
     void EmptyPanel();
     void ClearCredit();
-    void cmdAddPayPeriod_Click();
-    void chkCredit_Click();
-    void cmdDeletePayPeriod_Click();
-
-    std::unique_ptr<Ui::frmExtras> ui;
+    void AddPayPeriod();
+    void TurnAmount();
+    void DeletePayPeriod();
 };

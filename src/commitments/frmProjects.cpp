@@ -1,10 +1,11 @@
 #include "commitments/frmProjects.h"
 
+#include "budget/SavingsForecast.h"
 #include "commitments/Projects.h"
+#include "foundation/WindowNames.h"
 #include "platform/controls/ListBox.h"
 #include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
-#include "ui_frmProjects.h"
 
 #include <QKeyEvent>
 
@@ -27,32 +28,32 @@ bool IsControlEnter(const QKeyEvent &key)
 
 } // namespace
 
-frmProjects::frmProjects() : ListPanel(ProjectList), ui(std::make_unique<Ui::frmProjects>())
+frmProjects::frmProjects() : ListWindow(ProjectList)
 {
-    ui->setupUi(this);
-    TakeControls({.List = ui->lstProjects,
-                  .Read = ui->cmdListProjects,
-                  .Add = ui->cmdAddProject,
-                  .Delete = ui->cmdDeleteProject,
-                  .Quit = ui->cmdQuit,
-                  .Commit = ui->cmdNew,
-                  .Fields = {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate}});
-    for (QLineEdit *field : {ui->txtProject, ui->txtProjectAmount, ui->txtProjectCompletionDate})
+    TakeControls({.List = ui.lstProjects,
+                  .Read = ui.cmdListProjects,
+                  .Add = ui.cmdAddProject,
+                  .Delete = ui.cmdDeleteProject,
+                  .Quit = ui.cmdQuit,
+                  .Commit = ui.cmdNew,
+                  .Amount = ui.txtProjectAmount,
+                  .Fields = {ui.txtProject, ui.txtProjectAmount, ui.txtProjectCompletionDate}});
+    KeepRoomFor(ui.txtProjectCompletionDate, QStringLiteral("September 30, 2004")); // no date is longer
+    for (QLineEdit *field : {ui.txtProject, ui.txtProjectAmount, ui.txtProjectCompletionDate})
         connect(field, &QLineEdit::textChanged, this, &frmProjects::UpdateNewButton);
-    connect(ui->lstProjects, &ListBox::DoubleClick, this, &frmProjects::lstProjects_DblClick);
+    connect(ui.lstProjects, &ListBox::DoubleClick, this, &frmProjects::ViewProject);
     // The ring ends at the date, where Enter is a key like any other.
-    OnEnter(ui->txtProjectCompletionDate, [this] { PickCompletionDate(); });
-    ui->txtProjectCompletionDate->installEventFilter(this);
-    ui->lstProjects->installEventFilter(this);
+    OnEnter(ui.txtProjectCompletionDate, [this] { PickCompletionDate(); });
+    ui.txtProjectCompletionDate->installEventFilter(this);
+    connect(&TheCompletionDateOutlet, &CompletionDateOutlet::Picked, ui.txtProjectCompletionDate, &QLineEdit::setText);
+    ui.lstProjects->installEventFilter(this);
 }
-
-frmProjects::~frmProjects() = default;
 
 bool frmProjects::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ui->txtProjectCompletionDate && ui->txtProjectCompletionDate->isEnabled()) {
+    if (watched == ui.txtProjectCompletionDate && ui.txtProjectCompletionDate->isEnabled()) {
         if (event->type() == QEvent::MouseMove)
-            txtProjectCompletionDate_MouseMove();
+            TellHowToPick();
         if (event->type() == QEvent::MouseButtonDblClick ||
             (event->type() == QEvent::KeyPress && IsKeyPress(*static_cast<QKeyEvent *>(event)))) {
             PickCompletionDate();
@@ -60,10 +61,10 @@ bool frmProjects::eventFilter(QObject *watched, QEvent *event)
         }
     }
     // The keyboard's way to what a double-click does.
-    if (watched == ui->lstProjects && event->type() == QEvent::KeyPress && ui->lstProjects->currentRow() >= 0 &&
+    if (watched == ui.lstProjects && event->type() == QEvent::KeyPress && ui.lstProjects->currentRow() >= 0 &&
         IsControlEnter(*static_cast<QKeyEvent *>(event))) {
-        ui->lstProjects->SetListIndex(ui->lstProjects->currentRow());
-        lstProjects_DblClick();
+        ui.lstProjects->SetListIndex(ui.lstProjects->currentRow());
+        ViewProject();
         return true;
     }
     return ListPanel::eventFilter(watched, event);
@@ -73,36 +74,36 @@ void frmProjects::UpdateNewButton()
 {
     if (!AddingProject)
         return;
-    ui->cmdNew->setEnabled(!ui->txtProject->text().isEmpty() && !ui->txtProjectAmount->text().isEmpty() &&
-                           !ui->txtProjectCompletionDate->text().isEmpty());
+    ui.cmdNew->setEnabled(!ui.txtProject->text().isEmpty() && !ui.txtProjectAmount->text().isEmpty() &&
+                          !ui.txtProjectCompletionDate->text().isEmpty());
 }
 
 /// The date is never typed: the forecast writes it when the user has picked one of its rows.
 void frmProjects::PickCompletionDate()
 {
     State.ProjectDateFromForecast = true;
-    TheWindows.Show(QStringLiteral("frmSavingsForecast"));
+    TheWindows.Show(WindowName::frmSavingsForecast);
 }
 
 void frmProjects::AddClicked()
 {
     EmptyFields();
     EnableFields(true);
-    FocusOn(ui->txtProject);
+    FocusOn(ui.txtProject);
     AddingProject = true;
     UpdateNewButton(); // the fields were emptied while nothing was added
 }
 
-void frmProjects::txtProjectCompletionDate_MouseMove()
+void frmProjects::TellHowToPick()
 {
-    if (!ui->txtProject->text().isEmpty() && !ui->txtProjectAmount->text().isEmpty())
-        ui->txtProjectCompletionDate->setToolTip(QStringLiteral("Double-click to select valid date"));
+    if (!ui.txtProject->text().isEmpty() && !ui.txtProjectAmount->text().isEmpty())
+        ui.txtProjectCompletionDate->setToolTip(QStringLiteral("Double-click to select valid date"));
 }
 
 void frmProjects::EntrySaved()
 {
     AddingProject = false;
-    ui->cmdNew->setEnabled(false);
+    ui.cmdNew->setEnabled(false);
 }
 
 /// Shows a project; it can be viewed and deleted then, and never edited.
@@ -111,16 +112,16 @@ void frmProjects::RowClicked()
     AddingProject = false;
     Projects.SelectedProject = ToInteger(SelectedRecord());
     SetFields(ProjectList.PanelOf(Projects.SelectedProject));
-    ui->cmdDeleteProject->setEnabled(true);
+    ui.cmdDeleteProject->setEnabled(true);
     EnableFields(true);
-    FocusOn(ui->txtProject);
+    FocusOn(ui.txtProject);
 }
 
-void frmProjects::lstProjects_DblClick()
+void frmProjects::ViewProject()
 {
     TheDesk.Beep();
     const QString question =
         QStringLiteral("Do you wish to print project %1?").arg(State.ProjectNames(Projects.SelectedProject));
     State.PrintProjectView = ShowMessage(question, ProjectList.Title, Icon::Question, Buttons::YesNo) == Answer::Yes;
-    TheWindows.Show(QStringLiteral("frmViewProject"));
+    TheWindows.Show(WindowName::frmViewProject);
 }

@@ -2,19 +2,12 @@
 #pragma once
 
 #include "commitments/ListPanel.h"
+#include "ui_frmProjects.h"
 
-#include <memory>
-
-namespace Ui {
-class frmProjects;
-}
-
-class frmProjects : public ListPanel
+class frmProjects : public ListWindow<Ui::frmProjects>
 {
-    Q_OBJECT
 public:
     frmProjects();
-    ~frmProjects() override;
 
 protected:
     void AddClicked() override;
@@ -25,9 +18,8 @@ protected:
 private:
     void UpdateNewButton();
     void PickCompletionDate();
-    void txtProjectCompletionDate_MouseMove();
-    void lstProjects_DblClick();
+    void TellHowToPick();
+    void ViewProject();
 
-    std::unique_ptr<Ui::frmProjects> ui;
     bool AddingProject = false; ///< from the add button to the commit
 };

@@ -2,26 +2,23 @@
 
 #include "commitments/Regulars.h"
 #include "platform/controls/ListBox.h"
-#include "ui_frmRegulars.h"
 
-frmRegulars::frmRegulars() : ListPanel(RegularList), ui(std::make_unique<Ui::frmRegulars>())
+frmRegulars::frmRegulars() : ListWindow(RegularList)
 {
-    ui->setupUi(this);
-    TakeControls({.List = ui->lstRegulars,
-                  .Read = ui->cmdListRegularItems,
-                  .Add = ui->cmdAddRegularItem,
-                  .Delete = ui->cmdDeleteRegularItem,
-                  .Quit = ui->cmdQuit,
-                  .Commit = ui->cmdAddChangeRegularItem,
-                  .Fields = {ui->txtRegularAmount, ui->txtRegularItem}});
+    TakeControls({.List = ui.lstRegulars,
+                  .Read = ui.cmdListRegularItems,
+                  .Add = ui.cmdAddRegularItem,
+                  .Delete = ui.cmdDeleteRegularItem,
+                  .Quit = ui.cmdQuit,
+                  .Commit = ui.cmdAddChangeRegularItem,
+                  .Amount = ui.txtRegularAmount,
+                  .Fields = {ui.txtRegularAmount, ui.txtRegularItem}});
 }
-
-frmRegulars::~frmRegulars() = default;
 
 void frmRegulars::EntrySaved()
 {
     // A new item is committed once; the next one needs the add button again. The creditors' button stays enabled, so
     // that a row of like creditors can be added by editing and pressing it again.
-    if (ui->cmdAddChangeRegularItem->text() == NewCaption)
-        ui->cmdAddChangeRegularItem->setEnabled(false);
+    if (ui.cmdAddChangeRegularItem->text() == NewCaption)
+        ui.cmdAddChangeRegularItem->setEnabled(false);
 }

@@ -2,23 +2,13 @@
 #pragma once
 
 #include "commitments/ListPanel.h"
+#include "ui_frmRegulars.h"
 
-#include <memory>
-
-namespace Ui {
-class frmRegulars;
-}
-
-class frmRegulars : public ListPanel
+class frmRegulars : public ListWindow<Ui::frmRegulars>
 {
-    Q_OBJECT
 public:
     frmRegulars();
-    ~frmRegulars() override;
 
 protected:
     void EntrySaved() override;
-
-private:
-    std::unique_ptr<Ui::frmRegulars> ui;
 };

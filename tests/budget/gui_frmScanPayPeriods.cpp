@@ -4,6 +4,9 @@
 
 #include "budget/ScanPayPeriods.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -41,8 +44,6 @@ class gui_frmScanPayPeriods : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { FillPayPeriodList = nullptr; }
-
     void TheListHasAHundredAndOneRowsFromTheCurrentPayPeriodOn()
     {
         GuiDesk desk;
@@ -170,6 +171,27 @@ private Q_SLOTS:
         Settle();
         QCOMPARE(Scan.ScanPickedDate, Format(marked, DateFormat::Dashes));
         QVERIFY(!State.ScanCalledFromExtras);
+    }
+
+    void WhileItWaitsForAPickItsTipTellsWhatAClickDoes()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        QCOMPARE(Find(Window, List).toolTip(), QString());
+        Show(u"frmExtras"_s);
+        Click(u"frmExtras"_s, u"cmdListPayPeriods"_s);
+        Click(u"frmExtras"_s, u"cmdAddPayPeriod"_s);
+        auto &list = Find<ListBox>(Window, List);
+        const QPoint place = list.visualItemRect(list.item(1)).center();
+        QHelpEvent rest(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(list.viewport(), &rest); // the mouse rests on a row
+        QCOMPARE(QToolTip::text(), u"Click a date to add it to the extra pay periods"_s);
+        QToolTip::hideText();
+        ClickRow(Window, List, 1);
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("1\r\n\"01-15-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n"));
+        Show(Window);
+        QCOMPARE(list.toolTip(), QString());
     }
 
     void ClosedWithoutAPickItOnlyLooksTheNextTime()

@@ -1,5 +1,5 @@
-// The window of the extra items, event by event: the two levels of its list, the credit box, the pick of a pay period
-// in the scan, messages, focus, and what stands in extra.txt afterwards.
+// What the window of the extra items does by itself: the two levels of its list, the credit box, the pick of a pay
+// period in the scan, and the bound of 200 items. The rest is in gui_listpanels.
 #include "CommitmentsDesk.h"
 #include "TestProgram.h"
 
@@ -73,32 +73,14 @@ class gui_frmExtras : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheCaptionsAreTheDesigns()
+    void TheHeadingStandsAboveTheListAndTheCreditBoxTellsItself()
     {
         CommitmentsDesk desk;
         Show(Window);
-        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Extras"_s);
-        QCOMPARE(Texts(Window, ListButtons),
-                 u"&List Pay Periods | &Add Pay Period | &Delete Pay Period | &Add Extra Item | "
-                 "&Delete Extra Item | &Quit"_s);
-        QCOMPARE(TextOf(Window, u"Frame1"_s), u"Extra Items Information"_s);
-        QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);
-        QCOMPARE(BuddyText(Window, Item), u"Item"_s);
         QCOMPARE(TextOf(Window, Credit), u"Credit"_s);
-        QCOMPARE(TextOf(Window, Commit), u"&Change"_s);
-        QCOMPARE(TabOrder(Window), QStringList{List} + Controls);
+        QCOMPARE(TextOf(Window, Heading), QString());
         QCOMPARE(Find(Window, List).parentWidget(), &Find(Window, u"pnlPayPeriod"_s));
         QCOMPARE(Find(Window, Heading).parentWidget(), &Find(Window, u"pnlPayPeriod"_s));
-    }
-
-    void OpeningOffersTheListAlone()
-    {
-        CommitmentsDesk desk;
-        desk.WriteFile(u"extra.txt"_s, TwoPeriods);
-        Show(Window);
-        QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdQuit"_s);
-        QCOMPARE(TextOf(Window, Heading), QString());
-        QCOMPARE(RowsOf(Window, List), QStringList());
     }
 
     void ListingShowsThePayPeriods()
@@ -122,6 +104,22 @@ private Q_SLOTS:
         QCOMPARE(Extras.SelectedExtraPayPeriod, qint16(1));
         QVERIFY(!Extras.ExtrasListMode);
         QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdDeletePayPeriod cmdAddExtraItem cmdQuit"_s);
+    }
+
+    void ANegativeCountOfItemsIsAnEmptyPayPeriod()
+    {
+        CommitmentsDesk desk;
+        const QByteArray file = "2\r\n\"01-05-2004\"\r\n-3\r\n" + Trip;
+        OpenPayPeriod(desk, 0, file);
+        QCOMPARE(RowsOf(Window, List), QStringList());
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"1"_s, u"Other"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError); // it has no slot for it
+        QCOMPARE(File(desk), file);
+        Click(Window, u"cmdDeletePayPeriod"_s);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Trip));
+        QVERIFY(!desk.Ended);
     }
 
     void TheHeadingKeepsItsLine()
@@ -208,18 +206,6 @@ private Q_SLOTS:
         QCOMPARE(SelectedRow(Window, List), -1);
     }
 
-    void AChangedItemKeepsItsPlace()
-    {
-        CommitmentsDesk desk;
-        OpenPayPeriod(desk, 0);
-        ClickRow(Window, List, 0);
-        Enter(u"31.25"_s, u"Present"_s);
-        Click(Window, Commit);
-        QCOMPARE(RowsOf(Window, List), (QStringList{u"Present"_s, u"Refund"_s}));
-        QCOMPARE(File(desk),
-                 QByteArray("2\r\n\"01-05-2004\"\r\n2\r\n\"Present\"\r\n31.25\r\n\"Refund\"\r\n-12.5\r\n" + Trip));
-    }
-
     void TheCreditBoxTurnsTheAmountAround()
     {
         CommitmentsDesk desk;
@@ -280,60 +266,6 @@ private Q_SLOTS:
         Enter(u"7"_s, u"Cake"_s);
         Click(Window, Commit);
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(3).ExtraItemAmount, Dollars(7));
-    }
-
-    void AnEntryIsRefused_data()
-    {
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("item");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("focus");
-        const QString amount = u"Please enter a numerical dollar amount in the Extra Item Amount field"_s;
-        const QString item = u"Please enter an extra item description in the Extra Item field"_s;
-        QTest::newRow("an amount of letters") << u"x"_s << u"Gift"_s << amount << Amount;
-        QTest::newRow("the amount comes first") << QString() << QString() << amount << Amount;
-        QTest::newRow("no name") << u"5"_s << QString() << item << Item;
-    }
-    void AnEntryIsRefused()
-    {
-        QFETCH(QString, amount);
-        QFETCH(QString, item);
-        QFETCH(QString, text);
-        QFETCH(QString, focus);
-        CommitmentsDesk desk;
-        OpenPayPeriod(desk, 0);
-        Click(Window, u"cmdAddExtraItem"_s);
-        Enter(amount, item);
-        Click(Window, Commit);
-        QCOMPARE(desk.TakeMessage(), (Message{text, u"Extras"_s, Icon::Stop, Buttons::OkHelp, 24}));
-        QCOMPARE(FocusOf(Window), focus);
-        QCOMPARE(File(desk), TwoPeriods);
-    }
-
-    void ASecondChangeWithoutARowIsAnUnknownErrorAndChangesNothing()
-    {
-        CommitmentsDesk desk;
-        OpenPayPeriod(desk, 0);
-        ClickRow(Window, List, 0);
-        Click(Window, Commit);
-        Enter(u"1"_s, u"Other"_s);
-        Click(Window, Commit);
-        QCOMPARE(desk.TakeMessage(), UnknownError);
-        QCOMPARE(File(desk), TwoPeriods);
-        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItem, u"Gift"_s);
-        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(0), ExtraItemRecord());
-    }
-
-    void DeletingWithoutARowLosesNothing()
-    {
-        CommitmentsDesk desk;
-        OpenPayPeriod(desk, 0);
-        ClickRow(Window, List, 0);
-        Click(Window, Commit);
-        Click(Window, u"cmdDeleteExtraItem"_s);
-        QCOMPARE(desk.TakeMessage(), UnknownError);
-        QCOMPARE(File(desk), TwoPeriods);
-        QVERIFY(!desk.Ended);
     }
 
     void The201stItemIsAnUnknownErrorAndIsNotSaved()
@@ -514,26 +446,13 @@ private Q_SLOTS:
                                         "\"Trip\"\r\n200\r\n\"Map\"\r\n5\r\n"));
     }
 
-    void TheScanFillsTheListOnlyWhileTheWindowIsLoaded()
+    void AClosedWindowHearsOfNoPick()
     {
         CommitmentsDesk desk;
         Open(desk);
-        QVERIFY(bool(FillPayPeriodList));
         Click(Window, u"cmdQuit"_s);
-        QVERIFY(!FillPayPeriodList);
-    }
-
-    void EnterGoesRoundTheFieldsAndPressesNothing()
-    {
-        CommitmentsDesk desk;
-        OpenPayPeriod(desk, 0);
-        ClickRow(Window, List, 0);
-        for (const QString &next : {Item, Amount}) {
-            PressEnter(Window, FocusOf(Window));
-            QCOMPARE(FocusOf(Window), next);
-            QCOMPARE(SelectedText(Window, next), TextOf(Window, next));
-        }
-        QCOMPARE(File(desk), TwoPeriods);
+        Q_EMIT ThePayPeriodOutlet.PayPeriodAdded();
+        QVERIFY(!TheWindows.Loaded(Window));
     }
 
     void AnAccessKeyThatTwoButtonsShareServesTheOneThatIsEnabled()
@@ -544,16 +463,6 @@ private Q_SLOTS:
         Settle();
         QCOMPARE(TextOf(Window, Commit), u"&New"_s);
         QCOMPARE(FocusOf(Window), Amount);
-    }
-
-    void F1AsksForThePageOfTheWindow()
-    {
-        CommitmentsDesk desk;
-        Open(desk);
-        QTest::keyClick(&Find(Window, List), Qt::Key_F1);
-        ClickRow(Window, List, 0);
-        QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
-        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 24}, {QString(), 24}}));
     }
 
     void AFileThatCannotBeWrittenIsToldAndReadBack()
@@ -573,48 +482,6 @@ private Q_SLOTS:
                  (Message{u"Error 75: Path/File access error"_s, u"Save Pay Periods"_s, Icon::Stop}));
         QCOMPARE(File(desk), TwoPeriods);
         QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
-    }
-
-    void AFileThatIsNotThereIsToldByTheLoader()
-    {
-        CommitmentsDesk desk;
-        desk.RemoveFile(u"extra.txt"_s);
-        Show(Window);
-        Click(Window, u"cmdListPayPeriods"_s);
-        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Input Pay Periods"_s, Icon::Stop}));
-        QCOMPARE(desk.TakeMessage(),
-                 (Message{u"Error 52: Bad file name or number"_s, u"Input Pay Periods"_s, Icon::Stop}));
-        QCOMPARE(RowsOf(Window, List), QStringList());
-        QVERIFY(!QFile::exists(desk.Path(u"extra.txt"_s)));
-    }
-
-    void AFileThatIsGoneIsToldAndNotMade()
-    {
-        CommitmentsDesk desk;
-        OpenPayPeriod(desk, 0, "1\r\n" + Trip);
-        ClickRow(Window, List, 0);
-        desk.RemoveFile(u"extra.txt"_s);
-        Click(Window, Commit);
-        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Save Pay Periods"_s, Icon::Stop}));
-        QCOMPARE(desk.TakeMessage(), (Message{u"Error 53: File not found"_s, u"Input Pay Periods"_s, Icon::Stop}));
-        for (int read = 0; read < 3; ++read) // the count, which stays, the date, and the number of items
-            QCOMPARE(desk.TakeMessage(),
-                     (Message{u"Error 52: Bad file name or number"_s, u"Input Pay Periods"_s, Icon::Stop}));
-        QVERIFY(!QFile::exists(desk.Path(u"extra.txt"_s)));
-        QCOMPARE(RowsOf(Window, List), QStringList());
-    }
-
-    void TheTutorRestsWhileTheWindowIsLoaded()
-    {
-        CommitmentsDesk desk;
-        desk.StartProgram();
-        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
-        Choose(u"mnuFileExtras"_s);
-        QVERIFY(IsShown(Window));
-        QVERIFY(!timer.isActive());
-        Click(Window, u"cmdQuit"_s);
-        QVERIFY(!TheWindows.Loaded(Window));
-        QVERIFY(timer.isActive());
     }
 };
 

@@ -1,5 +1,5 @@
-// The window of the projects, event by event: planning against the forecast's pick, messages, focus, the way to the
-// project's view, and what stands in projects.txt afterwards.
+// What the window of the projects does by itself: planning against the forecast's pick, the completion date that is
+// never typed, the delete of the project that was clicked last, the way to its view. The rest is in gui_listpanels.
 #include "CommitmentsDesk.h"
 #include "TestProgram.h"
 
@@ -108,48 +108,12 @@ class gui_frmProjects : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheCaptionsAreTheDesigns()
+    void TheListTellsOfTheView()
     {
         CommitmentsDesk desk;
         Show(Window);
-        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Projects"_s);
-        QCOMPARE(Texts(Window, ListButtons), u"&List Projects | &Add Project | &Delete Project | &Quit"_s);
-        QCOMPARE(TextOf(Window, u"Frame1"_s), u"Project Information"_s);
-        QCOMPARE(BuddyText(Window, Project), u"Project"_s);
-        QCOMPARE(BuddyText(Window, Amount), u"Amount"_s);
-        QCOMPARE(BuddyText(Window, Date), u"Completion Date"_s);
-        QCOMPARE(TextOf(Window, Commit), u"&New"_s);
         QCOMPARE(Find(Window, List).toolTip(), u"Double-click on a project to see project detail"_s);
         QCOMPARE(Find(Window, Date).toolTip(), QString());
-        QCOMPARE(TabOrder(Window), QStringList{List} + Controls);
-    }
-
-    void OpeningOffersTheListAlone()
-    {
-        CommitmentsDesk desk;
-        Show(Window);
-        QCOMPARE(Enabled(Window, Controls), u"cmdListProjects cmdQuit"_s);
-    }
-
-    void ListingReadsTheFileAndLetsAdd()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "2\r\n" + Boat + Lamp);
-        QCOMPARE(RowsOf(Window, List), (QStringList{u"Boat"_s, u"Lamp"_s}));
-        QCOMPARE(SelectedRow(Window, List), -1);
-        QCOMPARE(Enabled(Window, Controls), u"cmdListProjects cmdAddProject cmdQuit"_s);
-    }
-
-    void AddingStartsAnEmptyEntry()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "1\r\n" + Boat);
-        ClickRow(Window, List, 0);
-        Click(Window, u"cmdAddProject"_s);
-        QCOMPARE(Texts(Window, Fields), u" |  | "_s);
-        QCOMPARE(Enabled(Window, Fields), Fields.join(u' '));
-        QCOMPARE(FocusOf(Window), Project);
-        QVERIFY(!IsEnabled(Window, Commit));
     }
 
     void AddingAgainAfterALookAtARowDisablesNew()
@@ -329,39 +293,6 @@ private Q_SLOTS:
         QVERIFY(!IsShown(ForecastWindow));
     }
 
-    void AnEntryIsRefused_data()
-    {
-        QTest::addColumn<QString>("project");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("focus");
-        const QString amount = u"Please enter a numerical dollar amount in the Project Amount field"_s;
-        const QString project = u"Please enter a project description in the Project field"_s;
-        QTest::newRow("an amount of letters") << u"Boat"_s << u"sixty"_s << amount << Amount;
-        QTest::newRow("the amount comes first") << QString() << u"sixty"_s << amount << Amount;
-        QTest::newRow("no description") << QString() << u"60"_s << project << Project;
-    }
-    void AnEntryIsRefused()
-    {
-        QFETCH(QString, project);
-        QFETCH(QString, amount);
-        QFETCH(QString, text);
-        QFETCH(QString, focus);
-        CommitmentsDesk desk;
-        Open(desk, "1\r\n" + Boat);
-        // A new entry is ready; then a row is looked at, which leaves the button as it is.
-        Add(u"Coat"_s, u"5"_s);
-        PickDate(1);
-        ClickRow(Window, List, 0);
-        QVERIFY(IsEnabled(Window, Commit));
-        Type(Window, Project, project);
-        Type(Window, Amount, amount);
-        Click(Window, Commit);
-        QCOMPARE(desk.TakeMessage(), (Message{text, u"Projects"_s, Icon::Stop, Buttons::OkHelp, 25}));
-        QCOMPARE(FocusOf(Window), focus);
-        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
-    }
-
     void ARowBeyondTheHundredthIsAnUnknownErrorAndIsNotSaved()
     {
         CommitmentsDesk desk;
@@ -429,28 +360,6 @@ private Q_SLOTS:
         QCOMPARE(RowsOf(Window, List), QStringList{u"Nothing"_s});
     }
 
-    void DeletingTakesTheRowOutAndClosesThePanel()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "2\r\n" + Boat + Lamp);
-        ClickRow(Window, List, 0);
-        Click(Window, u"cmdDeleteProject"_s);
-        QCOMPARE(RowsOf(Window, List), QStringList{u"Lamp"_s});
-        QCOMPARE(File(desk), QByteArray("1\r\n" + Lamp));
-        QCOMPARE(Texts(Window, Fields), u" |  | "_s);
-        QCOMPARE(Enabled(Window, Controls), u"cmdListProjects cmdAddProject cmdQuit"_s);
-    }
-
-    void DeletingTheOnlyProjectLeavesAnEmptyFile()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "1\r\n" + Boat);
-        ClickRow(Window, List, 0);
-        Click(Window, u"cmdDeleteProject"_s);
-        QCOMPARE(State.NumberOfProjects, qint16(0));
-        QCOMPARE(File(desk), QByteArray("0\r\n"));
-    }
-
     void DeletingTakesTheProjectThatWasClickedLastWhateverIsMarkedNow()
     {
         CommitmentsDesk desk;
@@ -464,6 +373,31 @@ private Q_SLOTS:
         Click(Window, u"cmdDeleteProject"_s);
         QCOMPARE(File(desk), QByteArray("1\r\n" + Lamp));
         QCOMPARE(RowsOf(Window, List), QStringList{u"Lamp"_s});
+    }
+
+    void ANegativeCountOfInstallmentsIsAProjectWithoutAny()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "2\r\n\"Odd\"\r\n60\r\n-2\r\n" + Lamp);
+        ClickRow(Window, List, 0);
+        QCOMPARE(Texts(Window, Fields), u"Odd | $60.00 | "_s);
+        desk.Answers = {Answer::Yes};
+        DoubleClickRow(Window, List, 0);
+        QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Odd"_s));
+        QVERIFY(std::exchange(desk.Beeps, 0) == 1);
+        QCOMPARE(TheWindows.Active()->windowTitle(), u"Odd"_s);
+        QCOMPARE(GridRows(u"frmViewProject"_s, u"grdViewProject"_s, 1), QStringList());
+        QCOMPARE(std::exchange(desk.Printed, {}).value(0).Lines.value(2).trimmed(), u"Odd"_s);
+        CloseByFrame(u"frmViewProject"_s);
+
+        Add(u"Coat"_s, u"5"_s); // the forecast runs with it, too
+        PickDate(1);
+        Click(Window, Commit);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Odd"_s, u"Lamp"_s, u"Coat"_s}));
+        ClickRow(Window, List, 0);
+        Click(Window, u"cmdDeleteProject"_s);
+        QCOMPARE(File(desk), QByteArray("2\r\n" + Lamp + "\"Coat\"\r\n5\r\n1\r\n\"January 1, 2004\"\r\n5\r\n"));
+        QVERIFY(!desk.Ended);
     }
 
     void DeletingTheOnlyProjectNeedsNoRow()
@@ -544,52 +478,6 @@ private Q_SLOTS:
         PressEnter(Window, Date);
         QCOMPARE(ActiveWindow(), ForecastWindow);
         QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
-    }
-
-    void QuittingUnloads()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "1\r\n" + Boat);
-        Click(Window, u"cmdQuit"_s);
-        QVERIFY(!TheWindows.Loaded(Window));
-    }
-
-    void F1AsksForThePageOfTheWindow()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "1\r\n" + Boat);
-        QTest::keyClick(&Find(Window, List), Qt::Key_F1);
-        ClickRow(Window, List, 0);
-        QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
-        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 25}, {QString(), 25}}));
-    }
-
-    void AFileThatCannotBeWrittenIsToldAndReadBack()
-    {
-        CommitmentsDesk desk;
-        Open(desk, "2\r\n" + Boat + Lamp);
-        QVERIFY(QFile::setPermissions(desk.Path(u"projects.txt"_s), QFile::ReadOwner));
-        ClickRow(Window, List, 0);
-        Click(Window, u"cmdDeleteProject"_s);
-        QCOMPARE(desk.TakeMessage(), (Message{u"Error 75: Path/File access error"_s, u"Save Projects"_s, Icon::Stop}));
-        Add(u"Coat"_s, u"5"_s);
-        PickDate(1);
-        Click(Window, Commit);
-        QCOMPARE(desk.TakeMessage(), (Message{u"Error 75: Path/File access error"_s, u"Save Projects"_s, Icon::Stop}));
-        QCOMPARE(File(desk), QByteArray("2\r\n" + Boat + Lamp));
-        QCOMPARE(RowsOf(Window, List), (QStringList{u"Boat"_s, u"Lamp"_s}));
-    }
-
-    void TheTutorRestsWhileTheWindowIsLoaded()
-    {
-        CommitmentsDesk desk;
-        desk.StartProgram();
-        auto &timer = Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s);
-        Choose(u"mnuFileProjects"_s);
-        QVERIFY(IsShown(Window));
-        QVERIFY(!timer.isActive());
-        Click(Window, u"cmdQuit"_s);
-        QVERIFY(timer.isActive());
     }
 };
 

@@ -185,6 +185,25 @@ private Q_SLOTS:
         QCOMPARE(GridRows(Window, GridName, 1).size(), 100);
     }
 
+    void AnotherProjectThatWasSelectedMeanwhileIsShownOnReturn()
+    {
+        CommitmentsDesk desk;
+        desk.WriteFile(u"projects.txt"_s, "2\r\n\"Boat\"\r\n60\r\n1\r\n\"January 1, 2004\"\r\n60\r\n"
+                                          "\"Lamp\"\r\n25\r\n1\r\n\"January 15, 2004\"\r\n25\r\n");
+        Show(u"frmProjects"_s);
+        Click(u"frmProjects"_s, u"cmdListProjects"_s);
+        ClickRow(u"frmProjects"_s, u"lstProjects"_s, 0);
+        Show(Window);
+        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Boat"_s);
+        Show(u"frmProjects"_s);
+        ClickRow(u"frmProjects"_s, u"lstProjects"_s, 1);
+        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Boat"_s); // not before it comes back
+        Show(Window);
+        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"Lamp"_s);
+        QCOMPARE(GridRows(Window, GridName, 1),
+                 (QStringList{u"January 15, 2004 | $25.00 | $25.00"_s, u"January 1, 2004 | $60.00 | $60.00"_s}));
+    }
+
     void AProjectThatWasDeletedMeanwhileLeavesTheViewAsItIs()
     {
         CommitmentsDesk desk;
