@@ -1,11 +1,35 @@
 #include "budget/SavingsForecast.h"
 
 #include "budget/BudgetGenerator.h"
-#include "foundation/State.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
-#include "platform/values/Numbers.h"
+
+namespace {
+
+/// The text of a row's amount, none where no forecast has come to yet.
+QString AmountText(const ForecastRow &row, Currency amount)
+{
+    return row.Day.isValid() ? FormatCurrency(amount) : QString();
+}
+
+} // namespace
+
+QString ForecastState::ForecastDates(int row) const
+{
+    const QDate day = Rows(row).Day;
+    return day.isValid() ? Format(day, DateFormat::Long) : QString();
+}
+
+QString ForecastState::ForecastSavingsAmounts(int row) const
+{
+    return AmountText(Rows(row), Rows(row).Savings);
+}
+
+QString ForecastState::ForecastAccumulated(int row) const
+{
+    return AmountText(Rows(row), Rows(row).Accumulated);
+}
 
 void ForecastSavings()
 {
@@ -14,10 +38,8 @@ void ForecastSavings()
     for (int row = 1; row <= State.ForecastPeriods; ++row) {
         GenerateBudget(); // looks ahead
         GenerateBudget(); // budgets the row's pay period
-        Forecast.ForecastDates(row) = Format(State.PayPeriodDate.Date(), DateFormat::Long);
-        Forecast.ForecastSavingsAmounts(row) = FormatCurrency(State.BudgetBalance);
         Forecast.AccumulatedSavings += State.BudgetBalance;
-        Forecast.ForecastAccumulated(row) = FormatCurrency(Forecast.AccumulatedSavings);
+        Forecast.Rows(row) = {State.PayPeriodDate.Date(), State.BudgetBalance, Forecast.AccumulatedSavings};
     }
     TheDesk.Hourglass(false); // the long part is done
     if (State.PrintSavingsForecast) {
@@ -33,11 +55,10 @@ void ForecastSavings()
 std::vector<DatedRow> ForecastRows()
 {
     std::vector<DatedRow> rows;
-    for (int row = 1; row <= State.ForecastPeriods; ++row) {
-        const QString &savings = Forecast.ForecastSavingsAmounts(row);
-        const QString &accumulated = Forecast.ForecastAccumulated(row);
-        rows.push_back({Forecast.ForecastDates(row), savings, accumulated, ToCurrency(savings) < Currency(),
-                        ToCurrency(accumulated) < Currency()});
+    for (int number = 1; number <= State.ForecastPeriods; ++number) {
+        const ForecastRow &row = Forecast.Rows(number);
+        rows.push_back({Forecast.ForecastDates(number), FormatCurrency(row.Savings), FormatCurrency(row.Accumulated),
+                        AsShown(row.Savings) < Currency(), AsShown(row.Accumulated) < Currency()});
     }
     return rows;
 }

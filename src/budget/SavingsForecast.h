@@ -3,20 +3,28 @@
 #pragma once
 
 #include "foundation/Report.h"
-#include "platform/values/Currency.h"
-#include "platform/values/OneBased.h"
+#include "foundation/State.h"
 
-constexpr int MostForecastPeriods = 1000;
+/// A row of the forecast, exact to the ten-thousandth.
+struct ForecastRow {
+    QDate Day;            ///< the pay period; invalid where no forecast has come to yet
+    Currency Savings;     ///< what its budget run ends on
+    Currency Accumulated; ///< the running total up to this row
+    bool operator==(const ForecastRow &) const = default;
+};
 
-/// The forecast's own state: it keeps its rows after a run, as texts with two decimals, and projects work from these
-/// texts. A test puts it back with one assignment.
+/// The forecast's own state: it keeps its rows after a run. A test puts it back with one assignment.
 struct ForecastState {
-    OneBased<QString> ForecastDates = OneBased<QString>::OfSize(MostForecastPeriods); ///< "mmmm d, yyyy"
-    OneBased<QString> ForecastSavingsAmounts = OneBased<QString>::OfSize(MostForecastPeriods);
-    OneBased<QString> ForecastAccumulated = OneBased<QString>::OfSize(MostForecastPeriods);
+    OneBased<ForecastRow> Rows = OneBased<ForecastRow>::OfSize(MostForecastPeriods);
     Currency AccumulatedSavings; ///< the running total while the forecast runs
     qint16 ForecastPickRow = 0;  ///< the row picked as a project's completion date
     Currency ForecastPickAccumulated;
+
+    /// A row as texts, made when they are asked for; empty where no forecast has come to yet. Projects work from these
+    /// texts, so from amounts of two decimals. Error 9 outside 1 to MostForecastPeriods.
+    QString ForecastDates(int row) const; ///< "mmmm d, yyyy"
+    QString ForecastSavingsAmounts(int row) const;
+    QString ForecastAccumulated(int row) const;
 };
 inline ForecastState Forecast;
 

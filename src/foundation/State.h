@@ -33,6 +33,7 @@ struct ExtraItemRecord {
 constexpr int MostExtraItems = 200;
 constexpr int MostProjectEntries = 100;
 constexpr int MostTutorPages = 26;
+constexpr int MostForecastPeriods = 1000;
 
 struct ExtraPayPeriodRecord {
     DateText PayPeriodDate;

@@ -5,7 +5,6 @@
 #include "foundation/State.h"
 
 constexpr int LeastForecastPeriods = 1;
-constexpr int MostForecastPeriods = 1000;
 
 /// The texts of frmEnvironmentSettings that apply when the window is left. Percentages are in per cent.
 struct EnvironmentEntry {

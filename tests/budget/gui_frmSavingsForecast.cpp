@@ -308,6 +308,23 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(Window));
     }
 
+    void BelowAShorterForecastTheDateIsEmptyToo()
+    {
+        GuiDesk desk;
+        TakeHousehold(4);
+        Show(Window);
+        CloseByFrame(Window);
+        State.CurrentPayPeriod = u"January 1, 2004"_s;
+        State.ForecastPeriods = 2;
+        OpenForPick();
+        Find<QLineEdit>(u"frmProjects"_s, u"txtProjectCompletionDate"_s).setText(u"January 1, 2004"_s);
+        QCOMPARE(Forecast.ForecastDates(3), u"January 29, 2004"_s); // left by the longer one
+        ClickGridRow(3);
+        QCOMPARE(PickedDate(), QString());
+        QCOMPARE(Forecast.ForecastPickRow, qint16(3));
+        QCOMPARE(Forecast.ForecastPickAccumulated, Currency());
+    }
+
     void BelowTheGreatestForecastTheDateIsEmptyToo()
     {
         GuiDesk desk;

@@ -97,6 +97,10 @@ private Q_SLOTS:
         ForecastSavings();
         QCOMPARE(::Rows(), (QStringList{u"January 1, 2004 | $0.00 | $0.00"_s, u"January 15, 2004 | $0.00 | $0.01"_s}));
         QCOMPARE(Forecast.AccumulatedSavings.TenThousandths(), qint64(80));
+        QVERIFY((Forecast.Rows(1) == ForecastRow{QDate(2004, 1, 1), Currency::FromTenThousandths(40),
+                                                 Currency::FromTenThousandths(40)}));
+        QVERIFY((Forecast.Rows(2) == ForecastRow{QDate(2004, 1, 15), Currency::FromTenThousandths(40),
+                                                 Currency::FromTenThousandths(80)}));
     }
 
     void ItContinuesBehindItsLastRowWithATotalOfNothing()
@@ -118,7 +122,10 @@ private Q_SLOTS:
         QCOMPARE(Forecast.ForecastDates(1), u"February 12, 2004"_s);
         QCOMPARE(Forecast.ForecastDates(3), u"January 29, 2004"_s);
         QCOMPARE(Forecast.ForecastAccumulated(3), u"$3,000.00"_s);
-        QCOMPARE(Forecast.ForecastDates(4), QString());
+        QCOMPARE(Forecast.ForecastSavingsAmounts(3), u"$1,000.00"_s);
+        QCOMPARE(Forecast.ForecastDates(4), QString()); // where no forecast has come to yet
+        QCOMPARE(Forecast.ForecastSavingsAmounts(4), QString());
+        QCOMPARE(Forecast.ForecastAccumulated(4), QString());
     }
 
     void TheFlagsAreDownAfterwardsAndNothingIsPrinted()

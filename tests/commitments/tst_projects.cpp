@@ -23,9 +23,7 @@ void TakeForecast(const QList<double> &savings)
     Currency accumulated;
     for (int row = 1; row <= savings.size(); ++row) {
         accumulated += Dollars(savings[row - 1]);
-        Forecast.ForecastDates(row) = QStringLiteral("January %1, 2004").arg(row);
-        Forecast.ForecastSavingsAmounts(row) = FormatCurrency(Dollars(savings[row - 1]));
-        Forecast.ForecastAccumulated(row) = FormatCurrency(accumulated);
+        Forecast.Rows(row) = {QDate(2004, 1, 1).addDays(row - 1), Dollars(savings[row - 1]), accumulated};
     }
     Forecast.ForecastPickRow = qint16(savings.size());
     Forecast.ForecastPickAccumulated = accumulated;

@@ -140,3 +140,11 @@ QString FormatCurrency(Currency amount)
 {
     return Format(amount, NumberFormat::Currency);
 }
+
+Currency AsShown(Currency amount)
+{
+    constexpr qint64 cent = Currency::Unit / 100;
+    const qint64 rest = amount.TenThousandths() % cent; // with the sign of the amount
+    const qint64 down = amount.TenThousandths() - rest;
+    return Currency::FromTenThousandths(qAbs(rest) < cent / 2 ? down : rest > 0 ? down + cent : down - cent);
+}

@@ -24,3 +24,5 @@ QString Format(const QString &text, NumberFormat format);
 
 /// Format(amount, NumberFormat::Currency)
 QString FormatCurrency(Currency amount);
+/// The amount that this text tells: rounded to two decimals, half away from zero.
+Currency AsShown(Currency amount);
