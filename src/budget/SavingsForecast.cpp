@@ -1,9 +1,13 @@
 #include "budget/SavingsForecast.h"
 
 #include "budget/BudgetGenerator.h"
+#include "foundation/Report.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -42,30 +46,36 @@ void ForecastSavings()
         Forecast.Rows(row) = {State.PayPeriodDate.Date(), State.BudgetBalance, Forecast.AccumulatedSavings};
     }
     TheDesk.Hourglass(false); // the long part is done
-    if (State.PrintSavingsForecast) {
-        PrintReportTitle(QStringLiteral("SAVINGS FORECAST"), QStringLiteral("Savings Forecast"));
-        PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Savings"), QStringLiteral("Accumulated"),
-                        ForecastRows());
+    if (State.PrintSavingsForecast || TheForecastOutlet.IsConnected()) {
+        const Statement forecast = ForecastStatement();
+        if (State.PrintSavingsForecast)
+            PrintStatement(forecast, TablePage);
+        Q_EMIT TheForecastOutlet.Ready(forecast);
     }
     State.ForecastMode = false;
     State.PrintSavingsForecast = false;
     ThePrinter.EndDoc(); // whether or not anything was printed
 }
 
-std::vector<DatedRow> ForecastRows()
+StatementRow ForecastHeadings()
 {
-    std::vector<DatedRow> rows;
+    return {{u"Pay Period"_s, u"Savings"_s, u"Accumulated"_s}};
+}
+
+Statement ForecastStatement()
+{
+    Statement statement{.Heading = u"SAVINGS FORECAST"_s, .Opening = ForecastHeadings(), .Numbered = true};
     for (int number = 1; number <= State.ForecastPeriods; ++number) {
         const ForecastRow &row = Forecast.Rows(number);
-        rows.push_back({Forecast.ForecastDates(number), FormatCurrency(row.Savings), FormatCurrency(row.Accumulated),
-                        AsShown(row.Savings) < Currency(), AsShown(row.Accumulated) < Currency()});
+        statement.Rows.push_back(
+            {{Forecast.ForecastDates(number)}, {AsShown(row.Savings), AsShown(row.Accumulated)}, StatementRow::Signed});
     }
-    return rows;
+    return statement;
 }
 
 QString PickForecastRow(int row, const QString &accumulated)
 {
-    const QString date = row > State.ForecastPeriods ? QString() : QString(Forecast.ForecastDates(row));
+    const QString date = row > State.ForecastPeriods ? QString() : Forecast.ForecastDates(row);
     Forecast.ForecastPickRow = ToInteger(row);
     Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency() : ToCurrency(accumulated);
     State.ProjectDateFromForecast = false;

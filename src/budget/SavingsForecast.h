@@ -2,8 +2,8 @@
 // total.
 #pragma once
 
-#include "foundation/Report.h"
 #include "foundation/State.h"
+#include "foundation/Statement.h"
 
 /// A row of the forecast, exact to the ten-thousandth.
 struct ForecastRow {
@@ -28,13 +28,20 @@ struct ForecastState {
 };
 inline ForecastState Forecast;
 
+/// The way of each forecast to its window.
+inline StatementOutlet TheForecastOutlet;
+
 /// Runs State.ForecastPeriods pairs of budget runs from State.BudgetPeriodStart on, which is left behind the last row,
-/// and prints the forecast if State.PrintSavingsForecast. The pointer is the normal one again when the rows are
-/// computed. Raises error 9 beyond 1000 rows, else what GenerateBudget raises.
+/// prints the forecast if State.PrintSavingsForecast, shows it, and only then ends the document. The pointer is the
+/// normal one again when the rows are computed. Raises error 9 beyond 1000 rows, else what GenerateBudget raises.
 void ForecastSavings();
 
-/// The rows of the last run as they are shown: an amount is red when its text is below 0.
-std::vector<DatedRow> ForecastRows();
+/// The headings of its columns.
+StatementRow ForecastHeadings();
+
+/// The rows of the last run as they are shown, with amounts of two decimals; so an amount is red when its text is below
+/// 0.
+Statement ForecastStatement();
 
 /// The pick of a row as a project's completion date: leaves the row and what is accumulated by then, the text of its
 /// cell, in the forecast's state and ends the picking. Returns the text of the date; a row below the last forecast row

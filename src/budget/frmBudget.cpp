@@ -1,12 +1,14 @@
 #include "budget/frmBudget.h"
 
-#include "budget/GridRendering.h"
 #include "foundation/State.h"
+#include "foundation/StatementGrid.h"
 #include "platform/controls/Icons.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmBudget.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int StartRows = 128;
@@ -20,8 +22,10 @@ frmBudget::frmBudget() : ui(std::make_unique<Ui::frmBudget>())
     ui->grdBudget->SetShape(StartRows, 2);
     ui->grdBudget->SetColumnWidth(0, LabelTwips);
     ui->grdBudget->SetColumnWidth(1, AmountTwips);
-    ui->pbPrintOn->setIcon(ThemedIcon(QStringLiteral("switch-on")));
-    ui->pbPrintOff->setIcon(ThemedIcon(QStringLiteral("switch-off")));
+    ui->grdBudget->SetEndsWithText(true); // the rows stay, and each run brings more
+    connect(&TheBudgetOutlet, &StatementOutlet::Ready, this, &frmBudget::ShowBudget);
+    ui->pbPrintOn->setIcon(ThemedIcon(u"switch-on"_s));
+    ui->pbPrintOff->setIcon(ThemedIcon(u"switch-off"_s));
     connect(ui->cmdBudget, &QPushButton::clicked, this, &frmBudget::cmdBudget_Click);
     // The two states raise their click also when code sets them, and none when nothing changes.
     connect(ui->pbPrintOn, &QToolButton::toggled, this, [this](bool on) {
@@ -39,37 +43,31 @@ frmBudget::~frmBudget() = default;
 
 void frmBudget::Load()
 {
-    ShowBudgetPage = [this](const BudgetPage &page) { ShowPage(page); };
     State.BudgetPeriodStart = State.CurrentPayPeriod;
+    OpenWithRows(*this, *ui->grdBudget, MostBudgetRows());
 }
 
 void frmBudget::Activate()
 {
     // The caption tells the current pay period although the next run may cover a later one: stepping goes on from
     // where it was. Accepted behaviour.
-    setWindowTitle(QStringLiteral("Budget - ") + FormatLongDate(State.CurrentPayPeriod));
-    State.BudgetCredit = {};
-    State.LookingAhead = false;
+    SetHeading(u"Budget - "_s + FormatLongDate(State.CurrentPayPeriod));
+    RestartAlternation();
     ui->grdBudget->SetRightAligned(1, true);
     ui->grdBudget->SetColumnWidth(0, LabelTwips);
     ui->grdBudget->SetColumnWidth(1, AmountTwips);
-    ui->grdBudget->SetBold(0, 0, true);
-    ui->grdBudget->SetBold(0, 1, true);
-    ui->grdBudget->SetText(0, 0, QStringLiteral("Paycheck Amount"));
-    ui->grdBudget->SetText(0, 1, FormatCurrency(State.PaycheckAmount));
+    ShowOpening(*ui->grdBudget, PaycheckRow());
     ClearBudgetGrid();
 }
 
 void frmBudget::Deactivate()
 {
-    State.BudgetCredit = {};
-    State.LookingAhead = false;
+    RestartAlternation();
     ui->pbPrintOff->setChecked(true);
 }
 
 void frmBudget::Unload()
 {
-    ShowBudgetPage = nullptr;
     ui->pbPrintOff->setChecked(true); // pages that were printed are sent off and not lost with the window
 }
 
@@ -79,23 +77,19 @@ void frmBudget::ClearBudgetGrid()
     ui->grdBudget->SetCurrentRow(0);
 }
 
-void frmBudget::ShowPage(const BudgetPage &page)
+/// What the grid shows is told in the window's title and again above the grid.
+void frmBudget::SetHeading(const QString &heading)
+{
+    setWindowTitle(heading);
+    ui->lblHeading->setText(heading);
+}
+
+void frmBudget::ShowBudget(const Statement &budget)
 {
     ClearBudgetGrid();
-    setWindowTitle(page.Heading);
-    LineWriter lines(*ui->grdBudget);
-    for (const BudgetLine &line : page.Lines) {
-        if (line.TheKind == BudgetLine::Credit)
-            lines.Write(line.Label, FormatCurrency(line.Amount), GridColour::LightBlue);
-        else
-            lines.Insert(line.Label, FormatCurrency(line.Amount));
-    }
-    lines.InsertEmpty();
-    if (page.Result < Currency())
-        lines.Write(page.ResultLabel, FormatCurrency(page.Result), GridColour::LightRed);
-    else
-        lines.Insert(page.ResultLabel, FormatCurrency(page.Result));
-    lines.Finish();
+    SetHeading(budget.Heading);
+    ShowRows(*ui->grdBudget, budget);
+    ui->grdBudget->scrollToTop();
 }
 
 void frmBudget::cmdBudget_Click()
@@ -116,8 +110,7 @@ void frmBudget::pbPrintOff_Click()
 
 void frmBudget::cmdCancel_Click()
 {
-    State.LookingAhead = false;
-    State.BudgetCredit = {};
+    RestartAlternation();
     ClearBudgetGrid();
     TheWindows.Unload(objectName());
 }

@@ -23,7 +23,8 @@ public:
 
 private:
     void ClearBudgetGrid();
-    void ShowPage(const BudgetPage &page);
+    void SetHeading(const QString &heading);
+    void ShowBudget(const Statement &budget);
     void cmdBudget_Click();
     void cmdCancel_Click();
     void pbPrintOn_Click();

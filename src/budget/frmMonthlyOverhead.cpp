@@ -1,9 +1,8 @@
 #include "budget/frmMonthlyOverhead.h"
 
-#include "budget/GridRendering.h"
+#include "budget/BudgetGenerator.h"
 #include "budget/MonthlyOverhead.h"
-#include "foundation/State.h"
-#include "platform/values/Format.h"
+#include "foundation/StatementGrid.h"
 #include "platform/windows/WindowRegister.h"
 #include "ui_frmMonthlyOverhead.h"
 
@@ -19,6 +18,7 @@ frmMonthlyOverhead::frmMonthlyOverhead() : ui(std::make_unique<Ui::frmMonthlyOve
     ui->grdOverhead->SetShape(StartRows, 2);
     ui->grdOverhead->SetColumnWidth(0, LabelTwips); // before it is shown: the window opens wide enough
     ui->grdOverhead->SetColumnWidth(1, AmountTwips);
+    ui->grdOverhead->SetEndsWithText(true); // the rows stay, and each showing brings more
     connect(ui->cmdPrint, &QPushButton::clicked, this, &frmMonthlyOverhead::cmdPrint_Click);
     connect(ui->cmdQuit, &QPushButton::clicked, this, &frmMonthlyOverhead::cmdQuit_Click);
 }
@@ -30,17 +30,13 @@ void frmMonthlyOverhead::Activate()
     ui->grdOverhead->SetRightAligned(1, true);
     ui->grdOverhead->SetColumnWidth(0, LabelTwips);
     ui->grdOverhead->SetColumnWidth(1, AmountTwips);
-    ui->grdOverhead->SetBold(0, 0, true);
-    ui->grdOverhead->SetBold(0, 1, true);
-    ui->grdOverhead->SetText(0, 0, QStringLiteral("Monthly Net Income"));
     ShowOverhead();
     ui->grdOverhead->SetCurrentRow(0);
 }
 
 void frmMonthlyOverhead::Deactivate()
 {
-    State.BudgetCredit = {};
-    State.LookingAhead = false;
+    RestartAlternation();
     // Leaving the overhead puts the budget away, wherever the user goes to: a habit of this window.
     TheWindows.Hide(QStringLiteral("frmBudget"));
 }
@@ -53,23 +49,10 @@ void frmMonthlyOverhead::ClearOverheadGrid()
 
 void frmMonthlyOverhead::ShowOverhead()
 {
-    const OverheadStatement statement = CalculateOverhead();
-    ui->grdOverhead->SetText(0, 1, FormatCurrency(statement.MonthlyNetIncome));
+    const Statement overhead = CalculateOverhead();
+    ShowOpening(*ui->grdOverhead, overhead.Opening);
     ClearOverheadGrid();
-    LineWriter lines(*ui->grdOverhead);
-    for (const BudgetLine &line : statement.Lines)
-        lines.Insert(line.Label, FormatCurrency(line.Amount));
-    lines.InsertEmpty();
-    lines.Write(QStringLiteral("Total Overhead"), FormatCurrency(statement.TotalOverhead));
-    // A deficit stands apart, with an empty row on both sides; what remains follows the total directly.
-    if (statement.Result < Currency()) {
-        lines.InsertEmpty();
-        lines.Write(statement.ResultLabel, FormatCurrency(statement.Result), GridColour::LightRed);
-        lines.InsertEmpty();
-    } else {
-        lines.Insert(statement.ResultLabel, FormatCurrency(statement.Result));
-    }
-    lines.Finish();
+    ShowRows(*ui->grdOverhead, overhead);
 }
 
 void frmMonthlyOverhead::cmdPrint_Click()

@@ -1,8 +1,8 @@
 #include "budget/frmSavingsForecast.h"
 
-#include "budget/GridRendering.h"
+#include "budget/BudgetGenerator.h"
 #include "budget/SavingsForecast.h"
-#include "foundation/State.h"
+#include "foundation/StatementGrid.h"
 #include "platform/desk/Desk.h"
 #include "platform/values/Dates.h"
 #include "platform/windows/WindowRegister.h"
@@ -26,6 +26,7 @@ frmSavingsForecast::frmSavingsForecast() : ui(std::make_unique<Ui::frmSavingsFor
     ui->grdSavingsForecast->SetShape(StartRows, Columns);
     for (int column = 0; column < Columns; ++column) // before it is shown: the window opens wide enough
         ui->grdSavingsForecast->SetColumnWidth(column, column == Number ? NumberTwips : TextTwips);
+    connect(&TheForecastOutlet, &StatementOutlet::Ready, this, &frmSavingsForecast::ShowForecast);
     OnGotFocus(ui->grdSavingsForecast, [this] { grdSavingsForecast_GotFocus(); });
     connect(ui->grdSavingsForecast, &Grid::Click, this, &frmSavingsForecast::grdSavingsForecast_Click);
 }
@@ -40,25 +41,22 @@ void frmSavingsForecast::Load()
 
 void frmSavingsForecast::Activate()
 {
-    State.LookingAhead = false;
-    State.BudgetCredit = {};
+    RestartAlternation();
     Grid &grid = *ui->grdSavingsForecast;
+    grid.setToolTip(State.ProjectDateFromForecast
+                        ? QStringLiteral("Click a pay period to choose it as the completion date")
+                        : QString());
     grid.SetRowsInView(RowsInView);
-    const QString headings[Columns] = {QStringLiteral("No."), QStringLiteral("Pay Period"), QStringLiteral("Savings"),
-                                       QStringLiteral("Accumulated")};
-    for (int column = 0; column < Columns; ++column) {
+    for (int column = 0; column < Columns; ++column)
         grid.SetColumnWidth(column, column == Number ? NumberTwips : TextTwips);
-        grid.SetBold(0, column, true);
-        grid.SetText(0, column, headings[column]);
-    }
+    ShowOpening(grid, ForecastHeadings(), true);
     grid.SetRightAligned(Savings, true);
     grid.SetRightAligned(Accumulated, true);
 }
 
 void frmSavingsForecast::Deactivate()
 {
-    State.LookingAhead = false;
-    State.BudgetCredit = {};
+    RestartAlternation();
     // The question for the pay period is loaded unseen for this where it is not loaded.
     const auto &entry = TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmSetCurrentPayPeriod"),
                                                         QStringLiteral("txtCurrentPayPeriod"));
@@ -75,20 +73,14 @@ void frmSavingsForecast::grdSavingsForecast_GotFocus()
 {
     TheDesk.Hourglass(true);
     ForecastSavings();
-    FillGrid();
     TheDesk.Hourglass(false);
 }
 
 /// Rows of an earlier forecast are pushed down, but for those that a row with a red amount is written over.
-void frmSavingsForecast::FillGrid()
+void frmSavingsForecast::ShowForecast(const Statement &forecast)
 {
-    Grid &grid = *ui->grdSavingsForecast;
-    int number = 0;
-    for (const DatedRow &row : ForecastRows()) {
-        ++number;
-        WriteDatedRow(grid, number, row, {QString::number(number)});
-    }
-    grid.SetCurrentRow(0);
+    ShowRows(*ui->grdSavingsForecast, forecast);
+    ui->grdSavingsForecast->SetCurrentRow(0);
 }
 
 void frmSavingsForecast::grdSavingsForecast_Click()

@@ -1,6 +1,7 @@
 // The window of the savings forecast: a row a pay period, and the pick of a project's completion date.
 #pragma once
 
+#include "foundation/Statement.h"
 #include "platform/windows/Form.h"
 
 #include <memory>
@@ -21,7 +22,7 @@ public:
     void Unload() override;
 
 private:
-    void FillGrid();
+    void ShowForecast(const Statement &forecast);
     void PickCompletionDate();
     void grdSavingsForecast_GotFocus();
     void grdSavingsForecast_Click();

@@ -1,5 +1,5 @@
-// A statement as data: what a budget, an overhead, a forecast and their like come to. StatementGrid.h shows it in a grid,
-// Report.h on a page; no amount is computed for either of them.
+// A statement as data: what a budget, an overhead, a forecast and their like come to. StatementGrid.h shows it in a
+// grid, Report.h on a page; no amount is computed for either of them.
 #pragma once
 
 #include "platform/values/Currency.h"
@@ -32,9 +32,6 @@ struct Statement {
     std::vector<StatementRow> Rows;
     int FirstRow = 1;      ///< of the grid; 2 leaves an empty row below the opening
     bool Numbered = false; ///< whether the grid, but not the page, tells the number of each row in front
-
-    /// The result's row; an empty row where there is none.
-    StatementRow Result() const;
 };
 
 /// A statement's way to the window that shows it. The window connects with itself as context, so that the connection

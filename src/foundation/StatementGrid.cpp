@@ -2,6 +2,7 @@
 
 #include "platform/values/Format.h"
 
+#include <QScreen>
 #include <algorithm>
 
 namespace {
@@ -23,6 +24,14 @@ bool IsWrittenOver(const StatementRow &row)
                        [&](Currency amount) { return ColourOf(row, amount) != GridColour::Text; });
 }
 
+QStringList CellsOf(const StatementRow &row)
+{
+    QStringList cells = row.Texts;
+    for (const Currency amount : row.Amounts)
+        cells += FormatCurrency(amount);
+    return cells;
+}
+
 /// Walks down a grid. Rows that follow each other are inserted in one go.
 class RowWriter
 {
@@ -31,7 +40,7 @@ public:
 
     void Insert(const QStringList &cells)
     {
-        m_waiting += cells;
+        m_waiting.append(cells);
         ++m_next;
     }
     void WriteOver(const StatementRow &row, const QStringList &cells)
@@ -65,18 +74,26 @@ private:
 
 } // namespace
 
+void ShowOpening(Grid &grid, const StatementRow &opening, bool numbered)
+{
+    QStringList cells = CellsOf(opening);
+    if (numbered)
+        cells.prepend(QStringLiteral("No."));
+    for (int column = 0; column < int(cells.size()); ++column) {
+        grid.SetBold(0, column, true);
+        grid.SetText(0, column, cells[column]);
+    }
+}
+
 void ShowRows(Grid &grid, const Statement &statement)
 {
     RowWriter writer(grid, statement.FirstRow);
     int number = 0;
     int result = 0;
     for (const StatementRow &row : statement.Rows) {
-        QStringList cells;
+        QStringList cells = CellsOf(row);
         if (statement.Numbered)
-            cells += QString::number(++number);
-        cells += row.Texts;
-        for (const Currency amount : row.Amounts)
-            cells += FormatCurrency(amount);
+            cells.prepend(QString::number(++number));
         if (row.TheKind == StatementRow::Result)
             result = writer.Next();
         if (IsWrittenOver(row))
@@ -86,4 +103,12 @@ void ShowRows(Grid &grid, const Statement &statement)
     }
     writer.Finish();
     grid.SetResultRow(result);
+}
+
+void OpenWithRows(QWidget &window, Grid &grid, int rows)
+{
+    constexpr int titleAndFrame = 40;
+    grid.SetRowsAtFirst(rows);
+    window.ensurePolished();
+    window.resize(window.sizeHint().boundedTo(window.screen()->availableSize() - QSize(0, titleAndFrame)));
 }

@@ -268,7 +268,7 @@ private Q_SLOTS:
         Show(Window);
         QCOMPARE(State.BudgetPeriodStart.Text(), u"January 1, 2004"_s);
         QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
-        QVERIFY(bool(ShowBudgetPage));
+        QVERIFY(TheBudgetOutlet.IsConnected());
     }
 
     void TheSwitchPrintsEveryRunIntoOneDocument()
