@@ -19,17 +19,17 @@ struct StatementRow {
         Total,    ///< what the lines add up to
         Result,   ///< what the statement comes to: as Signed, and set off from the lines
     };
-    QStringList Texts;
-    std::vector<Currency> Amounts;
+    QStringList Texts = {};
+    std::vector<Currency> Amounts = {};
     Kind TheKind = Ordinary;
 
     bool operator==(const StatementRow &) const = default;
 };
 
 struct Statement {
-    QString Heading;      ///< "Budget - January 1, 2004"
-    StatementRow Opening; ///< the grid's row 0: what the statement starts from, or the headings of its columns
-    std::vector<StatementRow> Rows;
+    QString Heading = {};      ///< "Budget - January 1, 2004"
+    StatementRow Opening = {}; ///< the grid's row 0: what the statement starts from, or the headings of its columns
+    std::vector<StatementRow> Rows = {};
     int FirstRow = 1;      ///< of the grid; 2 leaves an empty row below the opening
     bool Numbered = false; ///< whether the grid, but not the page, tells the number of each row in front
 };

@@ -430,8 +430,8 @@ private Q_SLOTS:
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("A", Dollars(1200)); // -200
         household.AddPayPeriod("1/29/2004");
-        household.AddExtra("B", Dollars(1400));             // -400
-        QCOMPARE(household.RunPair().Result, Dollars(400)); // (1000 - 200) / 2
+        household.AddExtra("B", Dollars(1400));                // -400
+        QCOMPARE(ResultOf(household.RunPair()), Dollars(400)); // (1000 - 200) / 2
         QCOMPARE(State.BudgetCredit, Dollars(600));
         const Statement second = household.RunPair();
         // -200 + 600 = 400 received; (400 - 400) / 2 = 0; passed on 400.

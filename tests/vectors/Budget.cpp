@@ -41,7 +41,7 @@ QJsonValue RunBudgetCase(const QJsonObject &input, const QJsonObject &expected, 
     State.BudgetPeriodStart = State.CurrentPayPeriod;
     Statement shown;
     QObject window;
-    ShowBudgetPage = [&](const Statement &page) { shown = page; };
+    QObject::connect(&TheBudgetOutlet, &StatementOutlet::Ready, &window, [&](const Statement &page) { shown = page; });
     QJsonArray runs;
     const QJsonArray expectedRuns = expected[u"runs"].toArray();
     for (const QJsonValue run : expectedRuns) {
