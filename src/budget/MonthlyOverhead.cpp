@@ -58,6 +58,14 @@ Statement CalculateOverhead()
     return statement;
 }
 
+int MostOverheadRows()
+{
+    constexpr int incomeAndGap = 2;
+    constexpr int gapAndTotal = 2;
+    constexpr int deficitAndGaps = 3;
+    return incomeAndGap + State.NumberOfCreditors + State.NumberOfRegulars + gapAndTotal + deficitAndGaps;
+}
+
 void PrintOverhead()
 {
     PrintStatement(CalculateOverhead(), AmountPage);

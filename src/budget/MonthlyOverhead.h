@@ -22,5 +22,8 @@ std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency);
 /// they stand; each regular item is converted and rounded by itself.
 Statement CalculateOverhead();
 
+/// How many rows the longest statement of this household can take in a grid.
+int MostOverheadRows();
+
 /// Prints the same figures.
 void PrintOverhead();

@@ -3,48 +3,37 @@
 #include "foundation/State.h"
 #include "foundation/StatementGrid.h"
 #include "platform/controls/Icons.h"
-#include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
-#include "platform/windows/WindowRegister.h"
-#include "ui_frmBudget.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-constexpr int StartRows = 128;
-constexpr int LabelTwips = 3100;
-constexpr int AmountTwips = 1750;
-} // namespace
-
-frmBudget::frmBudget() : ui(std::make_unique<Ui::frmBudget>())
+frmBudget::frmBudget()
 {
-    ui->setupUi(this);
-    ui->grdBudget->SetShape(StartRows, 2);
-    ui->grdBudget->SetColumnWidth(0, LabelTwips);
-    ui->grdBudget->SetColumnWidth(1, AmountTwips);
-    ui->grdBudget->SetEndsWithText(true); // the rows stay, and each run brings more
-    connect(&TheBudgetOutlet, &StatementOutlet::Ready, this, &frmBudget::ShowBudget);
-    ui->pbPrintOn->setIcon(ThemedIcon(u"switch-on"_s));
-    ui->pbPrintOff->setIcon(ThemedIcon(u"switch-off"_s));
-    connect(ui->cmdBudget, &QPushButton::clicked, this, &frmBudget::cmdBudget_Click);
+    ui.grdBudget->SetShape(128, 2);
+    ui.grdBudget->SetColumnWidth(0, 3100);
+    ui.grdBudget->SetColumnWidth(1, 1750);
+    ui.grdBudget->SetRightAligned(1, true);
+    ui.grdBudget->SetEndsWithText(true); // the rows stay, and each run brings more
+    ui.pbPrintOn->setIcon(ThemedIcon(u"switch-on"_s));
+    ui.pbPrintOff->setIcon(ThemedIcon(u"switch-off"_s));
+    connect(&TheBudgetOutlet, &StatementOutlet::Ready, this, [this](const Statement &budget) { ShowBudget(budget); });
+    OnClick(ui.cmdBudget, [] { GenerateBudget(); });
     // The two states raise their click also when code sets them, and none when nothing changes.
-    connect(ui->pbPrintOn, &QToolButton::toggled, this, [this](bool on) {
+    connect(ui.pbPrintOn, &QToolButton::toggled, this, [this](bool on) {
         if (on)
             pbPrintOn_Click();
     });
-    connect(ui->pbPrintOff, &QToolButton::toggled, this, [this](bool on) {
+    connect(ui.pbPrintOff, &QToolButton::toggled, this, [this](bool on) {
         if (on)
             pbPrintOff_Click();
     });
-    connect(ui->cmdCancel, &QPushButton::clicked, this, &frmBudget::cmdCancel_Click);
+    OnClick(ui.cmdCancel, [this] { cmdCancel_Click(); });
 }
-
-frmBudget::~frmBudget() = default;
 
 void frmBudget::Load()
 {
     State.BudgetPeriodStart = State.CurrentPayPeriod;
-    OpenWithRows(*this, *ui->grdBudget, MostBudgetRows());
+    OpenWithRows(*this, *ui.grdBudget, MostBudgetRows());
 }
 
 void frmBudget::Activate()
@@ -53,48 +42,40 @@ void frmBudget::Activate()
     // where it was. Accepted behaviour.
     SetHeading(u"Budget - "_s + FormatLongDate(State.CurrentPayPeriod));
     RestartAlternation();
-    ui->grdBudget->SetRightAligned(1, true);
-    ui->grdBudget->SetColumnWidth(0, LabelTwips);
-    ui->grdBudget->SetColumnWidth(1, AmountTwips);
-    ShowOpening(*ui->grdBudget, PaycheckRow());
+    ShowOpening(*ui.grdBudget, PaycheckRow());
     ClearBudgetGrid();
 }
 
 void frmBudget::Deactivate()
 {
     RestartAlternation();
-    ui->pbPrintOff->setChecked(true);
+    ui.pbPrintOff->setChecked(true);
 }
 
 void frmBudget::Unload()
 {
-    ui->pbPrintOff->setChecked(true); // pages that were printed are sent off and not lost with the window
+    ui.pbPrintOff->setChecked(true); // pages that were printed are sent off and not lost with the window
 }
 
 void frmBudget::ClearBudgetGrid()
 {
-    ui->grdBudget->ClearBelowHeading();
-    ui->grdBudget->SetCurrentRow(0);
+    ui.grdBudget->ClearBelowHeading();
+    ui.grdBudget->SetCurrentRow(0);
 }
 
 /// What the grid shows is told in the window's title and again above the grid.
 void frmBudget::SetHeading(const QString &heading)
 {
     setWindowTitle(heading);
-    ui->lblHeading->setText(heading);
+    ui.lblHeading->setText(heading);
 }
 
 void frmBudget::ShowBudget(const Statement &budget)
 {
     ClearBudgetGrid();
     SetHeading(budget.Heading);
-    ShowRows(*ui->grdBudget, budget);
-    ui->grdBudget->scrollToTop();
-}
-
-void frmBudget::cmdBudget_Click()
-{
-    GenerateBudget();
+    ShowRows(*ui.grdBudget, budget);
+    ui.grdBudget->scrollToTop();
 }
 
 void frmBudget::pbPrintOn_Click()
@@ -112,5 +93,5 @@ void frmBudget::cmdCancel_Click()
 {
     RestartAlternation();
     ClearBudgetGrid();
-    TheWindows.Unload(objectName());
+    Close();
 }

@@ -2,20 +2,13 @@
 #pragma once
 
 #include "foundation/Statement.h"
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
+#include "ui_frmSavingsForecast.h"
 
-#include <memory>
-
-namespace Ui {
-class frmSavingsForecast;
-}
-
-class frmSavingsForecast : public Form
+class frmSavingsForecast : public Window<Ui::frmSavingsForecast>
 {
-    Q_OBJECT
 public:
     frmSavingsForecast();
-    ~frmSavingsForecast() override;
     void Load() override;
     void Activate() override;
     void Deactivate() override;
@@ -26,6 +19,4 @@ private:
     void PickCompletionDate();
     void grdSavingsForecast_GotFocus();
     void grdSavingsForecast_Click();
-
-    std::unique_ptr<Ui::frmSavingsForecast> ui;
 };

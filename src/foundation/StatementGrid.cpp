@@ -108,7 +108,7 @@ void ShowRows(Grid &grid, const Statement &statement)
 void OpenWithRows(QWidget &window, Grid &grid, int rows)
 {
     constexpr int titleAndFrame = 40;
-    grid.SetRowsAtFirst(rows);
+    grid.SetRowsAtFirst(qMax(rows, grid.RowsAtFirst()));
     window.ensurePolished();
     window.resize(window.sizeHint().boundedTo(window.screen()->availableSize() - QSize(0, titleAndFrame)));
 }

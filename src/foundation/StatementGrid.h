@@ -12,5 +12,6 @@ void ShowOpening(Grid &grid, const StatementRow &opening, bool numbered = false)
 /// amount in colour the cell takes the text colour, so that the colour does not run on.
 void ShowRows(Grid &grid, const Statement &statement);
 
-/// Makes a window that is about to be shown so tall that this grid of it shows so many rows, up to the screen.
+/// Makes a window that is about to be shown so tall that this grid of it shows so many rows, where they are more than a
+/// grid shows anyway, up to the screen.
 void OpenWithRows(QWidget &window, Grid &grid, int rows);

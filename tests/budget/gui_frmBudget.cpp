@@ -183,7 +183,7 @@ private Q_SLOTS:
             QCOMPARE(isSetOff(row), row == 6);
         QVERIFY(!grid.Bold(6, 0)); // the cell is as any other and looks so when it is emptied
         Show(Window);
-        TheWindows.Declare(u"frmOther"_s, [] { return new Other; });
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
         Show(u"frmOther"_s);
         Show(Window);
         QCOMPARE(grid.ResultRow(), 0);

@@ -48,6 +48,7 @@ public:
     void SetRowsInView(int rows);
     /// A grid opens with room for so many rows, the heading included.
     void SetRowsAtFirst(int rows);
+    int RowsAtFirst() const { return m_rowsAtFirst; }
     /// Whether the rows below the last one with a text are left out of the view. They stay rows of the grid.
     void SetEndsWithText(bool ends);
     /// The row that tells what the rows above it come to: it is bold, below a rule. 0 for none, as after
