@@ -2,9 +2,10 @@
 
 #include "foundation/Calendar.h"
 #include "foundation/Report.h"
-#include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
-#include "platform/values/Format.h"
+#include "platform/desk/Printer.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -15,27 +16,27 @@ int LastDayOf(QDate date)
     return date.month() == february ? 29 : State.MonthDays[std::size_t(date.month() - 1)];
 }
 
-/// Collects a run's lines and takes their amounts from the balance. Without a page no label is ever made.
+/// Takes a run's amounts from the balance and collects its lines. Without a statement no label is ever made.
 class Run
 {
 public:
-    explicit Run(BudgetPage *page) : m_page(page) {}
+    explicit Run(Statement *statement) : m_statement(statement) {}
 
     template <class Label>
-    void Subtract(Currency amount, BudgetLine::Kind kind, const Label &label)
+    void Subtract(Currency amount, StatementRow::Kind kind, const Label &label)
     {
-        Tell(amount, kind, label);
+        Add(amount, kind, label);
         State.BudgetBalance -= amount;
     }
     template <class Label>
-    void Tell(Currency amount, BudgetLine::Kind kind, const Label &label)
+    void Add(Currency amount, StatementRow::Kind kind, const Label &label)
     {
-        if (m_page)
-            m_page->Lines.push_back({label(), amount, kind});
+        if (m_statement)
+            m_statement->Rows.push_back({{label()}, {amount}, kind});
     }
 
 private:
-    BudgetPage *m_page;
+    Statement *m_statement;
 };
 
 void SubtractCreditors(Run &run, const DueWindow &window)
@@ -43,7 +44,7 @@ void SubtractCreditors(Run &run, const DueWindow &window)
     for (int i = 1; i <= State.NumberOfCreditors; ++i) {
         const CreditorRecord &creditor = State.Creditors(i);
         if (FallsDue(creditor.CreditorDueDate, window, State.PayFrequency))
-            run.Subtract(creditor.CreditorAmount, BudgetLine::Ordinary,
+            run.Subtract(creditor.CreditorAmount, StatementRow::Ordinary,
                          [&] { return OrdinalDueLabel(creditor.CreditorName, creditor.CreditorDueDate); });
     }
 }
@@ -52,7 +53,7 @@ void SubtractRegulars(Run &run)
 {
     for (int i = 1; i <= State.NumberOfRegulars; ++i) {
         const RegularRecord &regular = State.Regulars(i);
-        run.Subtract(regular.RegularAmount, BudgetLine::Ordinary, [&] { return regular.RegularItem; });
+        run.Subtract(regular.RegularAmount, StatementRow::Ordinary, [&] { return regular.RegularItem; });
     }
 }
 
@@ -65,10 +66,10 @@ void SubtractExtras(Run &run, qint64 day)
         for (int item = 1; item <= ItemsOf(payPeriod); ++item) {
             const ExtraItemRecord &extra = payPeriod.ExtraItems(item);
             if (extra.ExtraItemAmount.IsNegative())
-                run.Subtract(extra.ExtraItemAmount, BudgetLine::Credit,
-                             [&] { return QStringLiteral("CREDIT - ") + extra.ExtraItem; });
+                run.Subtract(extra.ExtraItemAmount, StatementRow::Credit,
+                             [&] { return u"CREDIT - "_s + extra.ExtraItem; });
             else
-                run.Subtract(extra.ExtraItemAmount, BudgetLine::Ordinary, [&] { return extra.ExtraItem; });
+                run.Subtract(extra.ExtraItemAmount, StatementRow::Ordinary, [&] { return extra.ExtraItem; });
         }
         return; // a later record with the same date is ignored
     }
@@ -82,7 +83,7 @@ void SubtractProjects(Run &run, qint64 day)
         const int entries = EntriesOf(i);
         for (int entry = 1; entry <= entries; ++entry)
             if (dates(entry).JulianDay() == day)
-                run.Subtract(amounts(entry), BudgetLine::Ordinary, [&] { return State.ProjectNames(i); });
+                run.Subtract(amounts(entry), StatementRow::Ordinary, [&] { return State.ProjectNames(i); });
     }
 }
 
@@ -91,7 +92,7 @@ void ReceiveCredit(Run &run)
 {
     if (State.BudgetCredit == Currency::Zero)
         return;
-    run.Tell(-State.BudgetCredit, BudgetLine::Credit, [] { return QStringLiteral("CREDIT - Budget"); });
+    run.Add(-State.BudgetCredit, StatementRow::Credit, [] { return u"CREDIT - Budget"_s; });
     State.BudgetBalance += State.BudgetCredit;
     State.BudgetCredit = Currency::Zero;
 }
@@ -105,32 +106,8 @@ void LevelDeficitAhead(Run &run)
     State.BudgetBalance = LevelledBalance(State.BudgetBalance, State.NextPeriodShortfall);
     State.NextPeriodShortfall += State.BudgetBalance;
     State.BudgetCredit = State.NextPeriodShortfall;
-    run.Tell(State.NextPeriodShortfall, BudgetLine::Ordinary,
-             [] { return QStringLiteral("Budget - ") + FormatLongDate(State.NextPeriodDate); });
-}
-
-/// In forecast mode the page has neither heading nor result.
-void PrintBudgetPage(const BudgetPage &page, bool headingAndResult)
-{
-    ApplyPrintSettings();
-    ThePrinter.DocumentName = QStringLiteral("Budget");
-    ThePrinter.CentredLine(QString::fromLatin1(ReportTitle));
-    ThePrinter.NewLine();
-    if (headingAndResult) {
-        ThePrinter.CentredLine(page.Heading);
-        ThePrinter.NewLine();
-        ThePrinter.AmountLine(QStringLiteral("Paycheck Amount"), FormatCurrency(State.PaycheckAmount));
-        ThePrinter.RuleLine();
-        ThePrinter.NewLine();
-    }
-    for (const BudgetLine &line : page.Lines)
-        ThePrinter.AmountLine(line.Label, FormatCurrency(line.Amount));
-    ThePrinter.RuleLine();
-    ThePrinter.NewLine();
-    if (headingAndResult) {
-        ThePrinter.AmountLine(page.ResultLabel, FormatCurrency(page.Result));
-        ThePrinter.NewLine();
-    }
+    run.Add(State.NextPeriodShortfall, StatementRow::Ordinary,
+            [] { return u"Budget - "_s + FormatLongDate(State.NextPeriodDate); });
 }
 
 } // namespace
@@ -152,9 +129,10 @@ Currency LevelledBalance(Currency balance, Currency shortfall)
     return Currency::FromDouble((balance - shortfall).ToDouble() / 2);
 }
 
-void CalculateBudget(BudgetPage *page)
+void CalculateBudget(Statement *statement)
 {
-    Run run(page);
+    Run run(statement);
+    const bool withFrame = statement && !State.ForecastMode;
     State.LookingAhead = !State.LookingAhead;
     State.PayPeriodDate = DateText(State.BudgetPeriodStart.Date());
     State.NextPeriodDate = NextPayPeriod(State.PayPeriodDate, State.PayFrequency);
@@ -162,9 +140,12 @@ void CalculateBudget(BudgetPage *page)
 
     const QDate start = (State.LookingAhead ? State.NextPeriodDate : State.PayPeriodDate).Date();
     const QDate end = (State.LookingAhead ? State.NextNextPeriodDate : State.NextPeriodDate).Date();
-    if (page)
-        page->Heading = (State.LookingAhead ? QStringLiteral("Looking Ahead - ") : QStringLiteral("Budget - ")) +
-                        Format(start, DateFormat::Long);
+    if (withFrame) {
+        statement->Heading =
+            (State.LookingAhead ? u"Looking Ahead - "_s : u"Budget - "_s) + Format(start, DateFormat::Long);
+        statement->Opening = PaycheckRow();
+        statement->FirstRow = 2; // an empty row below the paycheck
+    }
 
     State.BudgetBalance = State.PaycheckAmount;
     SubtractCreditors(run, {start.day(), end.day(), LastDayOf(start)});
@@ -178,24 +159,53 @@ void CalculateBudget(BudgetPage *page)
         ReceiveCredit(run);
         LevelDeficitAhead(run);
     }
-    if (page) {
-        page->ResultLabel = State.BudgetBalance.IsNegative() ? QStringLiteral("DEFICIT") : QStringLiteral("SAVINGS");
-        page->Result = State.BudgetBalance;
-    }
+    if (statement)
+        statement->Rows.push_back({.TheKind = StatementRow::Rule});
+    if (withFrame)
+        statement->Rows.push_back({{State.BudgetBalance.IsNegative() ? u"DEFICIT"_s : u"SAVINGS"_s},
+                                   {State.BudgetBalance},
+                                   StatementRow::Result});
     if (!State.LookingAhead)
         State.BudgetPeriodStart = State.NextPeriodDate;
 }
 
 void GenerateBudget()
 {
-    if (State.ForecastMode && !State.PrintBudget) {
+    const bool isShown = !State.ForecastMode && TheBudgetOutlet.IsConnected();
+    if (!isShown && !State.PrintBudget) {
         CalculateBudget(nullptr);
         return;
     }
-    BudgetPage page;
-    CalculateBudget(&page);
-    if (!State.ForecastMode && ShowBudgetPage)
-        ShowBudgetPage(page);
-    if (State.PrintBudget)
-        PrintBudgetPage(page, !State.ForecastMode);
+    Statement statement;
+    CalculateBudget(&statement);
+    if (isShown)
+        Q_EMIT TheBudgetOutlet.Ready(statement);
+    if (!State.PrintBudget)
+        return;
+    PrintStatement(statement, AmountPage);
+    if (!State.ForecastMode)
+        ThePrinter.NewLine(); // the next run's page follows in the same document
+}
+
+StatementRow PaycheckRow()
+{
+    return {{u"Paycheck Amount"_s}, {State.PaycheckAmount}};
+}
+
+void RestartAlternation()
+{
+    State.LookingAhead = false;
+    State.BudgetCredit = {};
+}
+
+int MostBudgetRows()
+{
+    int extras = 0;
+    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i)
+        extras = std::max(extras, ItemsOf(State.ExtraPayPeriods(i)));
+    constexpr int paycheckAndGap = 2;
+    constexpr int receivedAndPassed = 2;
+    constexpr int gapAndResult = 2;
+    return paycheckAndGap + State.NumberOfCreditors + State.NumberOfRegulars + extras + State.NumberOfProjects +
+           receivedAndPassed + gapAndResult;
 }

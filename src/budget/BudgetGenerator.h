@@ -3,39 +3,29 @@
 // levelled with the current period by passing money forward.
 #pragma once
 
-#include "platform/values/Currency.h"
-
-#include <QString>
-#include <functional>
-#include <vector>
-
-/// One line of a budget. A credit is shown in the credit colour.
-struct BudgetLine {
-    enum Kind { Ordinary, Credit };
-    QString Label;
-    Currency Amount;
-    Kind TheKind = Ordinary;
-    bool operator==(const BudgetLine &) const = default;
-};
-
-/// What a run shows and prints.
-struct BudgetPage {
-    QString Heading;
-    std::vector<BudgetLine> Lines;
-    QString ResultLabel; ///< "SAVINGS" or "DEFICIT"
-    Currency Result;
-};
+#include "foundation/Statement.h"
 
 /// The calculation of one run on the shared state. It takes State.BudgetPeriodStart, turns State.LookingAhead and
-/// leaves its figures in State. With a page it also tells its lines; without one it does no text work.
+/// leaves its figures in State. With a statement it also fills that with its lines, and unless State.ForecastMode with
+/// heading, paycheck and result; without one it does no text work.
 /// Raises error 13 for a stored date that is none, error 6 for amounts beyond the range of Currency.
-void CalculateBudget(BudgetPage *page);
+void CalculateBudget(Statement *statement);
+
+/// What every budget starts from.
+StatementRow PaycheckRow();
 
 /// One run with its outlets: the budget window unless State.ForecastMode, the printer if State.PrintBudget.
 void GenerateBudget();
 
-/// The budget window's outlet. Empty while the window is not loaded.
-inline std::function<void(const BudgetPage &)> ShowBudgetPage;
+/// The next run is a look-ahead run again, and what the last budget run has passed forward is lost: what coming to a
+/// window that works with the generator does, and leaving it.
+void RestartAlternation();
+
+/// The way of each run to the budget window.
+inline StatementOutlet TheBudgetOutlet;
+
+/// How many rows the longest budget of this household can take in a grid.
+int MostBudgetRows();
 
 /// The window of days in which a commitment falls due. Only days are compared, no months and no years.
 struct DueWindow {

@@ -4,7 +4,8 @@
 #include "foundation/Report.h"
 #include "foundation/State.h"
 #include "platform/desk/Printer.h"
-#include "platform/values/Format.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency)
 {
@@ -20,17 +21,19 @@ std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency)
     }
 }
 
-OverheadStatement CalculateOverhead()
+Statement CalculateOverhead()
 {
     Overhead.MonthlyNetIncome =
         MonthlyAmount(State.PaycheckAmount, State.PayFrequency).value_or(Overhead.MonthlyNetIncome);
-    OverheadStatement statement;
-    statement.MonthlyNetIncome = Overhead.MonthlyNetIncome;
     State.BudgetBalance = Overhead.MonthlyNetIncome;
+    Statement statement{.Heading = u"OVERHEAD"_s,
+                        .Opening = {{u"Monthly Net Income"_s}, {Overhead.MonthlyNetIncome}},
+                        .FirstRow = 2}; // an empty row below the income
+    Currency total;
     const auto add = [&](const QString &label, Currency amount) {
-        statement.Lines.push_back({label, amount, BudgetLine::Ordinary});
+        statement.Rows.push_back({{label}, {amount}});
         State.BudgetBalance -= amount;
-        statement.TotalOverhead += amount;
+        total += amount;
     };
     for (int i = 1; i <= State.NumberOfCreditors; ++i) {
         const CreditorRecord &creditor = State.Creditors(i);
@@ -42,25 +45,29 @@ OverheadStatement CalculateOverhead()
             MonthlyAmount(regular.RegularAmount, State.PayFrequency).value_or(Overhead.RegularMonthlyAmount);
         add(regular.RegularItem, Overhead.RegularMonthlyAmount);
     }
-    statement.Result = State.BudgetBalance;
-    statement.ResultLabel =
-        statement.Result.IsNegative() ? QStringLiteral("DEFICIT") : QStringLiteral("Remaining Funds");
+    statement.Rows.push_back({.TheKind = StatementRow::Rule});
+    statement.Rows.push_back({{u"Total Overhead"_s}, {total}, StatementRow::Total});
+    // A deficit stands apart, with an empty row on both sides; what remains follows the total directly.
+    if (State.BudgetBalance.IsNegative()) {
+        statement.Rows.push_back({.TheKind = StatementRow::Gap});
+        statement.Rows.push_back({{u"DEFICIT"_s}, {State.BudgetBalance}, StatementRow::Result});
+        statement.Rows.push_back({.TheKind = StatementRow::Gap});
+    } else {
+        statement.Rows.push_back({{u"Remaining Funds"_s}, {State.BudgetBalance}, StatementRow::Result});
+    }
     return statement;
+}
+
+int MostOverheadRows()
+{
+    constexpr int incomeAndGap = 2;
+    constexpr int gapAndTotal = 2;
+    constexpr int deficitAndGaps = 3;
+    return incomeAndGap + State.NumberOfCreditors + State.NumberOfRegulars + gapAndTotal + deficitAndGaps;
 }
 
 void PrintOverhead()
 {
-    const OverheadStatement statement = CalculateOverhead();
-    PrintReportTitle(QStringLiteral("OVERHEAD"), QStringLiteral("Overhead"));
-    ThePrinter.AmountLine(QStringLiteral("Monthly Net Income"), FormatCurrency(statement.MonthlyNetIncome));
-    ThePrinter.RuleLine();
-    ThePrinter.NewLine();
-    for (const BudgetLine &line : statement.Lines)
-        ThePrinter.AmountLine(line.Label, FormatCurrency(line.Amount));
-    ThePrinter.RuleLine();
-    ThePrinter.NewLine();
-    ThePrinter.AmountLine(QStringLiteral("Total Overhead"), FormatCurrency(statement.TotalOverhead));
-    ThePrinter.NewLine();
-    ThePrinter.AmountLine(statement.ResultLabel, FormatCurrency(statement.Result));
+    PrintStatement(CalculateOverhead(), AmountPage);
     ThePrinter.EndDoc();
 }

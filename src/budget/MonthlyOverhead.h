@@ -1,7 +1,7 @@
 // The monthly statement: what a month costs, compared with what a month brings in.
 #pragma once
 
-#include "budget/BudgetGenerator.h"
+#include "foundation/Statement.h"
 
 #include <optional>
 
@@ -18,17 +18,12 @@ inline OverheadState Overhead;
 /// other frequency. Raises error 6 beyond the range of Currency.
 std::optional<Currency> MonthlyAmount(Currency amount, qint16 payFrequency);
 
-/// The statement. Creditors are monthly as they stand; each regular item is converted and rounded by itself.
-struct OverheadStatement {
-    Currency MonthlyNetIncome;
-    std::vector<BudgetLine> Lines;
-    Currency TotalOverhead;
-    QString ResultLabel; ///< "Remaining Funds" or "DEFICIT"
-    Currency Result;
-};
+/// Computes the statement from the shared state and leaves its rest in State.BudgetBalance. Creditors are monthly as
+/// they stand; each regular item is converted and rounded by itself.
+Statement CalculateOverhead();
 
-/// Computes the statement from the shared state and leaves its rest in State.BudgetBalance.
-OverheadStatement CalculateOverhead();
+/// How many rows the longest statement of this household can take in a grid.
+int MostOverheadRows();
 
 /// Prints the same figures.
 void PrintOverhead();

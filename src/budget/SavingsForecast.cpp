@@ -1,11 +1,39 @@
 #include "budget/SavingsForecast.h"
 
 #include "budget/BudgetGenerator.h"
-#include "foundation/State.h"
+#include "foundation/Report.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The text of a row's amount, none where no forecast has come to yet.
+QString AmountText(const ForecastRow &row, Currency amount)
+{
+    return row.Day.isValid() ? FormatCurrency(amount) : QString();
+}
+
+} // namespace
+
+QString ForecastState::ForecastDates(int row) const
+{
+    const QDate day = Rows(row).Day;
+    return day.isValid() ? Format(day, DateFormat::Long) : QString();
+}
+
+QString ForecastState::ForecastSavingsAmounts(int row) const
+{
+    return AmountText(Rows(row), Rows(row).Savings);
+}
+
+QString ForecastState::ForecastAccumulated(int row) const
+{
+    return AmountText(Rows(row), Rows(row).Accumulated);
+}
 
 void ForecastSavings()
 {
@@ -14,37 +42,40 @@ void ForecastSavings()
     for (int row = 1; row <= State.ForecastPeriods; ++row) {
         GenerateBudget(); // looks ahead
         GenerateBudget(); // budgets the row's pay period
-        Forecast.ForecastDates(row) = Format(State.PayPeriodDate.Date(), DateFormat::Long);
-        Forecast.ForecastSavingsAmounts(row) = FormatCurrency(State.BudgetBalance);
         Forecast.AccumulatedSavings += State.BudgetBalance;
-        Forecast.ForecastAccumulated(row) = FormatCurrency(Forecast.AccumulatedSavings);
+        Forecast.Rows(row) = {State.PayPeriodDate.Date(), State.BudgetBalance, Forecast.AccumulatedSavings};
     }
     TheDesk.Hourglass(false); // the long part is done
-    if (State.PrintSavingsForecast) {
-        PrintReportTitle(QStringLiteral("SAVINGS FORECAST"), QStringLiteral("Savings Forecast"));
-        PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Savings"), QStringLiteral("Accumulated"),
-                        ForecastRows());
+    if (State.PrintSavingsForecast || TheForecastOutlet.IsConnected()) {
+        const Statement forecast = ForecastStatement();
+        if (State.PrintSavingsForecast)
+            PrintStatement(forecast, TablePage);
+        Q_EMIT TheForecastOutlet.Ready(forecast);
     }
     State.ForecastMode = false;
     State.PrintSavingsForecast = false;
     ThePrinter.EndDoc(); // whether or not anything was printed
 }
 
-std::vector<DatedRow> ForecastRows()
+StatementRow ForecastHeadings()
 {
-    std::vector<DatedRow> rows;
-    for (int row = 1; row <= State.ForecastPeriods; ++row) {
-        const QString &savings = Forecast.ForecastSavingsAmounts(row);
-        const QString &accumulated = Forecast.ForecastAccumulated(row);
-        rows.push_back({Forecast.ForecastDates(row), savings, accumulated, ToCurrency(savings).IsNegative(),
-                        ToCurrency(accumulated).IsNegative()});
+    return {{u"Pay Period"_s, u"Savings"_s, u"Accumulated"_s}};
+}
+
+Statement ForecastStatement()
+{
+    Statement statement{.Heading = u"SAVINGS FORECAST"_s, .Opening = ForecastHeadings(), .Numbered = true};
+    for (int number = 1; number <= State.ForecastPeriods; ++number) {
+        const ForecastRow &row = Forecast.Rows(number);
+        statement.Rows.push_back(
+            {{Forecast.ForecastDates(number)}, {AsShown(row.Savings), AsShown(row.Accumulated)}, StatementRow::Signed});
     }
-    return rows;
+    return statement;
 }
 
 QString PickForecastRow(int row, const QString &accumulated)
 {
-    const QString date = row > State.ForecastPeriods ? QString() : QString(Forecast.ForecastDates(row));
+    const QString date = row > State.ForecastPeriods ? QString() : Forecast.ForecastDates(row);
     Forecast.ForecastPickRow = ToInteger(row);
     Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency::Zero : ToCurrency(accumulated);
     State.ProjectDateFromForecast = false;

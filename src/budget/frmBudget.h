@@ -2,20 +2,13 @@
 #pragma once
 
 #include "budget/BudgetGenerator.h"
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
+#include "ui_frmBudget.h"
 
-#include <memory>
-
-namespace Ui {
-class frmBudget;
-}
-
-class frmBudget : public Form
+class frmBudget : public Window<Ui::frmBudget>
 {
-    Q_OBJECT
 public:
     frmBudget();
-    ~frmBudget() override;
     void Load() override;
     void Activate() override;
     void Deactivate() override;
@@ -23,11 +16,9 @@ public:
 
 private:
     void ClearBudgetGrid();
-    void ShowPage(const BudgetPage &page);
-    void cmdBudget_Click();
-    void cmdCancel_Click();
+    void SetHeading(const QString &heading);
+    void ShowBudget(const Statement &budget);
     void pbPrintOn_Click();
     void pbPrintOff_Click();
-
-    std::unique_ptr<Ui::frmBudget> ui;
+    void cmdCancel_Click();
 };

@@ -1,37 +1,36 @@
 #include "budget/frmSavingsForecast.h"
 
-#include "budget/GridRendering.h"
+#include "budget/BudgetGenerator.h"
 #include "budget/SavingsForecast.h"
 #include "foundation/State.h"
+#include "foundation/StatementGrid.h"
 #include "foundation/WindowNames.h"
 #include "platform/desk/Desk.h"
 #include "platform/values/Dates.h"
 #include "platform/windows/WindowRegister.h"
-#include "ui_frmSavingsForecast.h"
 
 #include <QLineEdit>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
-
-constexpr int StartRows = 2;
 constexpr int RowsInView = 16;
-constexpr int NumberTwips = 500;
-constexpr int TextTwips = 2045;
 enum Column { Number, PayPeriod, Savings, Accumulated, Columns };
-
 } // namespace
 
-frmSavingsForecast::frmSavingsForecast() : ui(std::make_unique<Ui::frmSavingsForecast>())
+frmSavingsForecast::frmSavingsForecast()
 {
-    ui->setupUi(this);
-    ui->grdSavingsForecast->SetShape(StartRows, Columns);
-    for (int column = 0; column < Columns; ++column) // before it is shown: the window opens wide enough
-        ui->grdSavingsForecast->SetColumnWidth(column, column == Number ? NumberTwips : TextTwips);
-    OnGotFocus(ui->grdSavingsForecast, [this] { grdSavingsForecast_GotFocus(); });
-    connect(ui->grdSavingsForecast, &Grid::Click, this, &frmSavingsForecast::grdSavingsForecast_Click);
+    Grid &grid = *ui.grdSavingsForecast;
+    grid.SetShape(2, Columns);
+    for (int column = 0; column < Columns; ++column)
+        grid.SetColumnWidth(column, column == Number ? 500 : 2045);
+    grid.SetRightAligned(Savings, true);
+    grid.SetRightAligned(Accumulated, true);
+    connect(&TheForecastOutlet, &StatementOutlet::Ready, this,
+            [this](const Statement &forecast) { ShowForecast(forecast); });
+    OnGotFocus(&grid, [this] { grdSavingsForecast_GotFocus(); });
+    connect(&grid, &Grid::Click, this, [this] { grdSavingsForecast_Click(); });
 }
-
-frmSavingsForecast::~frmSavingsForecast() = default;
 
 void frmSavingsForecast::Load()
 {
@@ -41,28 +40,19 @@ void frmSavingsForecast::Load()
 
 void frmSavingsForecast::Activate()
 {
-    State.LookingAhead = false;
-    State.BudgetCredit = {};
-    Grid &grid = *ui->grdSavingsForecast;
+    RestartAlternation();
+    Grid &grid = *ui.grdSavingsForecast;
+    grid.setToolTip(State.ProjectDateFromForecast ? u"Click a pay period to choose it as the completion date"_s
+                                                  : QString());
     grid.SetRowsInView(RowsInView);
-    const QString headings[Columns] = {QStringLiteral("No."), QStringLiteral("Pay Period"), QStringLiteral("Savings"),
-                                       QStringLiteral("Accumulated")};
-    for (int column = 0; column < Columns; ++column) {
-        grid.SetColumnWidth(column, column == Number ? NumberTwips : TextTwips);
-        grid.SetBold(0, column, true);
-        grid.SetText(0, column, headings[column]);
-    }
-    grid.SetRightAligned(Savings, true);
-    grid.SetRightAligned(Accumulated, true);
+    ShowOpening(grid, ForecastHeadings(), true);
 }
 
 void frmSavingsForecast::Deactivate()
 {
-    State.LookingAhead = false;
-    State.BudgetCredit = {};
+    RestartAlternation();
     // The question for the pay period is loaded unseen for this where it is not loaded.
-    const auto &entry = TheWindows.ControlOf<QLineEdit>(QStringLiteral("frmSetCurrentPayPeriod"),
-                                                        QStringLiteral("txtCurrentPayPeriod"));
+    const auto &entry = TheWindows.ControlOf<QLineEdit>(WindowName::frmSetCurrentPayPeriod, u"txtCurrentPayPeriod"_s);
     State.CurrentPayPeriod = Format(ToDate(entry.text()), DateFormat::Short);
 }
 
@@ -76,20 +66,14 @@ void frmSavingsForecast::grdSavingsForecast_GotFocus()
 {
     TheDesk.Hourglass(true);
     ForecastSavings();
-    FillGrid();
     TheDesk.Hourglass(false);
 }
 
 /// Rows of an earlier forecast are pushed down, but for those that a row with a red amount is written over.
-void frmSavingsForecast::FillGrid()
+void frmSavingsForecast::ShowForecast(const Statement &forecast)
 {
-    Grid &grid = *ui->grdSavingsForecast;
-    int number = 0;
-    for (const DatedRow &row : ForecastRows()) {
-        ++number;
-        WriteDatedRow(grid, number, row, {QString::number(number)});
-    }
-    grid.SetCurrentRow(0);
+    ShowRows(*ui.grdSavingsForecast, forecast);
+    ui.grdSavingsForecast->SetCurrentRow(0);
 }
 
 void frmSavingsForecast::grdSavingsForecast_Click()
@@ -100,10 +84,10 @@ void frmSavingsForecast::grdSavingsForecast_Click()
 
 void frmSavingsForecast::PickCompletionDate()
 {
-    const int row = ui->grdSavingsForecast->CurrentRow();
+    const int row = ui.grdSavingsForecast->CurrentRow();
     // A click on the heading is error 9, which nobody traps.
-    const QString date = PickForecastRow(row, ui->grdSavingsForecast->Text(row, Accumulated));
+    const QString date = PickForecastRow(row, ui.grdSavingsForecast->Text(row, Accumulated));
     TheWindows.Touch(WindowName::frmProjects); // the user may have closed it in the meantime
     Q_EMIT TheCompletionDateOutlet.Picked(date);
-    TheWindows.Unload(objectName());
+    Close();
 }

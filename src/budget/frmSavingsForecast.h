@@ -1,30 +1,22 @@
 // The window of the savings forecast: a row a pay period, and the pick of a project's completion date.
 #pragma once
 
-#include "platform/windows/Form.h"
+#include "foundation/Statement.h"
+#include "platform/windows/Window.h"
+#include "ui_frmSavingsForecast.h"
 
-#include <memory>
-
-namespace Ui {
-class frmSavingsForecast;
-}
-
-class frmSavingsForecast : public Form
+class frmSavingsForecast : public Window<Ui::frmSavingsForecast>
 {
-    Q_OBJECT
 public:
     frmSavingsForecast();
-    ~frmSavingsForecast() override;
     void Load() override;
     void Activate() override;
     void Deactivate() override;
     void Unload() override;
 
 private:
-    void FillGrid();
+    void ShowForecast(const Statement &forecast);
     void PickCompletionDate();
     void grdSavingsForecast_GotFocus();
     void grdSavingsForecast_Click();
-
-    std::unique_ptr<Ui::frmSavingsForecast> ui;
 };

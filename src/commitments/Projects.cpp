@@ -2,6 +2,7 @@
 
 #include "budget/SavingsForecast.h"
 #include "foundation/BudgetFiles.h"
+#include "foundation/Report.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
@@ -145,23 +146,24 @@ void DeleteProject()
     --State.NumberOfProjects;
 }
 
-std::vector<DatedRow> ProjectRows(int project)
+Statement ProjectStatement(int project)
 {
-    std::vector<DatedRow> rows;
+    Statement statement{
+        .Heading = State.ProjectNames(project),
+        .Opening = {{QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated")}}};
     Currency total;
     for (int entry = 1; entry <= EntriesOf(project); ++entry) {
         const Currency amount = State.ProjectEntryAmounts(project)(entry);
         total += amount;
-        rows.push_back({FormatLongDate(State.ProjectEntryDates(project)(entry)), FormatCurrency(amount),
-                        FormatCurrency(total), amount.IsNegative(), total.IsNegative()});
+        statement.Rows.push_back({{FormatLongDate(State.ProjectEntryDates(project)(entry))},
+                                  {amount, total},
+                                  StatementRow::Signed});
     }
-    return rows;
+    return statement;
 }
 
 void PrintProject(int project)
 {
-    PrintReportTitle(State.ProjectNames(project), State.ProjectNames(project));
-    PrintDatedTable(QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated"),
-                    ProjectRows(project));
+    PrintStatement(ProjectStatement(project), TablePage);
     ThePrinter.EndDoc();
 }

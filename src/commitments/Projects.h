@@ -2,8 +2,8 @@
 #pragma once
 
 #include "commitments/CommitmentList.h"
-#include "foundation/Report.h"
 #include "foundation/State.h"
+#include "foundation/Statement.h"
 
 /// The projects' list with its panel of description, amount and completion date. Its commit only adds: the installments
 /// are those of the forecast up to the picked row.
@@ -33,5 +33,5 @@ void AddProject(const QString &name, Currency amount);
 void DeleteProject();
 
 /// The installments of a project with their running total, for the screen and for paper.
-std::vector<DatedRow> ProjectRows(int project);
+Statement ProjectStatement(int project);
 void PrintProject(int project);

@@ -1,7 +1,7 @@
 #include "commitments/frmViewProject.h"
 
-#include "budget/GridRendering.h"
 #include "commitments/Projects.h"
+#include "foundation/StatementGrid.h"
 #include "ui_frmViewProject.h"
 
 namespace {
@@ -54,9 +54,7 @@ void frmViewProject::grdViewProject_GotFocus()
         return;
     // Rows of an earlier filling stay below the new ones, and each filling prints again: coming back to the window is a
     // filling, too.
-    int row = 0;
-    for (const DatedRow &dated : ProjectRows(Projects.SelectedProject))
-        WriteDatedRow(*ui->grdViewProject, ++row, dated);
+    ShowRows(*ui->grdViewProject, ProjectStatement(Projects.SelectedProject));
     ui->grdViewProject->SetCurrentRow(0);
     if (State.PrintProjectView)
         PrintProject(Projects.SelectedProject);

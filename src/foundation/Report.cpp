@@ -1,26 +1,53 @@
 #include "foundation/Report.h"
 
 #include "foundation/StartAndEnd.h"
+#include "platform/values/Format.h"
 
-void PrintReportTitle(const QString &heading, const QString &documentName)
+namespace {
+
+void PrintRow(const StatementRow &row, const PageColumns &columns)
 {
-    ApplyPrintSettings();
-    ThePrinter.DocumentName = documentName;
-    ThePrinter.CentredLine(QString::fromLatin1(ReportTitle));
-    ThePrinter.NewLine();
-    ThePrinter.CentredLine(heading);
+    for (std::size_t i = 0; i < std::size_t(row.Texts.size()); ++i)
+        ThePrinter.Tab(columns.Texts.at(i)).Print(row.Texts[qsizetype(i)]);
+    for (std::size_t i = 0; i < row.Amounts.size(); ++i) {
+        const QString amount = FormatCurrency(row.Amounts[i]);
+        ThePrinter.Tab(columns.AmountEnds.at(i) - int(amount.size())).Print(amount);
+    }
     ThePrinter.NewLine();
 }
 
-void PrintDatedTable(const QString &dateHeading, const QString &amountHeading, const QString &accumulatedHeading,
-                     const std::vector<DatedRow> &rows)
+void PrintRule(const PageColumns &columns)
 {
-    ThePrinter.Tab(5).Print(dateHeading).Tab(38).Print(amountHeading).Tab(62).Print(accumulatedHeading).NewLine();
-    ThePrinter.RuleLine(5, 70);
+    ThePrinter.RuleLine(columns.Texts.front(), columns.RuleLength);
     ThePrinter.NewLine();
-    for (const DatedRow &row : rows) {
-        ThePrinter.Tab(5).Print(row.Date);
-        ThePrinter.Tab(47 - int(row.Amount.size())).Print(row.Amount);
-        ThePrinter.Tab(75 - int(row.Accumulated.size())).Print(row.Accumulated).NewLine();
+}
+
+void PrintCentred(const QString &text)
+{
+    ThePrinter.CentredLine(text);
+    ThePrinter.NewLine();
+}
+
+} // namespace
+
+void PrintStatement(const Statement &statement, const PageColumns &columns)
+{
+    ApplyPrintSettings();
+    PrintCentred(QStringLiteral("The Corvelle's Tallymere 1.0"));
+    if (!statement.Opening.Texts.isEmpty()) {
+        PrintCentred(statement.Heading);
+        PrintRow(statement.Opening, columns);
+        PrintRule(columns);
+    }
+    for (const StatementRow &row : statement.Rows) {
+        switch (row.TheKind) {
+        case StatementRow::Gap: break;
+        case StatementRow::Rule: PrintRule(columns); break;
+        case StatementRow::Total:
+            PrintRow(row, columns);
+            ThePrinter.NewLine();
+            break;
+        default: PrintRow(row, columns);
+        }
     }
 }

@@ -1,25 +1,17 @@
-// What the printed reports have in common: the title, and the table of a date and two amounts.
+// How a statement stands on the printed page, below the program's title.
 #pragma once
 
-#include <QString>
-#include <vector>
+#include "foundation/Statement.h"
 
-inline const char *const ReportTitle = "The Corvelle's Tallymere 1.0";
-
-/// Applies the print settings and prints the title and the report's own heading, each centred and followed by an empty
-/// line. The document is called by `documentName`, since headings stand in capitals.
-void PrintReportTitle(const QString &heading, const QString &documentName);
-
-/// A row of a date and two amounts; an amount whose number is below 0 stands in red on the screen.
-struct DatedRow {
-    QString Date;
-    QString Amount;
-    QString Accumulated;
-    bool AmountIsRed = false;
-    bool AccumulatedIsRed = false;
-    bool operator==(const DatedRow &) const = default;
+/// Where a page puts the cells of a row; columns count from 1.
+struct PageColumns {
+    std::vector<int> Texts;      ///< where each text starts; the rules start where the first does
+    std::vector<int> AmountEnds; ///< each amount ends just before its column
+    int RuleLength;
 };
+inline const PageColumns AmountPage{{15}, {65}, 50};
+inline const PageColumns TablePage{{5, 38, 62}, {47, 75}, 70};
 
-/// The table below its title: three headings, a rule, the rows.
-void PrintDatedTable(const QString &dateHeading, const QString &amountHeading, const QString &accumulatedHeading,
-                     const std::vector<DatedRow> &rows);
+/// Applies the print settings and prints the title, the statement's heading and opening if it has them, and its rows.
+/// The document stays open.
+void PrintStatement(const Statement &statement, const PageColumns &columns);

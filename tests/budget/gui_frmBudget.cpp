@@ -4,6 +4,10 @@
 
 #include "budget/BudgetGenerator.h"
 
+#include "platform/controls/RowLook.h"
+
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace Qt::Literals::StringLiterals;
@@ -141,6 +145,99 @@ private Q_SLOTS:
             QCOMPARE(grid.Colour(row, 1), GridColour::Text);
     }
 
+    void WhatTheGridShowsStandsAboveItToo()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        QCOMPARE(TextOf(Window, u"lblHeading"_s), u"Budget - January 1, 2004"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(TextOf(Window, u"lblHeading"_s), u"Looking Ahead - January 15, 2004"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(TextOf(Window, u"lblHeading"_s), u"Budget - January 1, 2004"_s);
+        QVERIFY(Find<QLabel>(Window, u"lblHeading"_s).isVisible());
+        QVERIFY(desk.HourglassCalls.isEmpty());
+    }
+
+    void TheResultIsBoldBelowARule()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        const auto &grid = Find<Grid>(Window, u"grdBudget"_s);
+        const auto isSetOff = [&](int row) {
+            const QModelIndex cell = grid.model()->index(row - 1, 0);
+            const bool bold = cell.data(Qt::FontRole).value<QFont>().bold();
+            if (bold != cell.data(RowLook::RuleAbove).toBool())
+                QTest::qFail("bold and rule belong together", __FILE__, __LINE__);
+            return bold;
+        };
+        QCOMPARE(grid.ResultRow(), 0);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.Text(4, 0), u"DEFICIT"_s);
+        for (int row = 1; row <= 4; ++row)
+            QCOMPARE(isSetOff(row), row == 4);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.Text(6, 0), u"SAVINGS"_s);
+        for (int row = 1; row <= 6; ++row)
+            QCOMPARE(isSetOff(row), row == 6);
+        QVERIFY(!grid.Bold(6, 0)); // the cell is as any other and looks so when it is emptied
+        Show(Window);
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
+        Show(u"frmOther"_s);
+        Show(Window);
+        QCOMPARE(grid.ResultRow(), 0);
+    }
+
+    void TheViewEndsWithTheResultAndEachRunStartsAtTheTop()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        auto &grid = Find<Grid>(Window, u"grdBudget"_s);
+        QCOMPARE(grid.model()->rowCount(), 0);
+        QCOMPARE(grid.Rows(), 128);
+        for (int run = 1; run <= 6; ++run) {
+            Click(Window, u"cmdBudget"_s);
+            constexpr int rows[] = {4, 6, 3, 5, 3, 3}; // two of them the gap and the empty row
+            QCOMPARE(grid.model()->rowCount(), rows[run - 1]);
+            QVERIFY(!grid.verticalScrollBar()->isVisible());
+        }
+        State.NumberOfRegulars = 200;
+        State.Regulars.Redim(200);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.verticalScrollBar()->value(), 0);
+        grid.scrollToBottom();
+        QVERIFY(grid.verticalScrollBar()->value() > 0);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.verticalScrollBar()->value(), 0);
+    }
+
+    void ItOpensTallEnoughForTheLongestBudgetUpToTheScreen_data()
+    {
+        QTest::addColumn<int>("regulars");
+        QTest::addColumn<bool>("scrolls");
+        QTest::newRow("a short budget") << 3 << false;
+        QTest::newRow("a budget that the screen has room for") << 14 << false;
+        QTest::newRow("more than the screen has room for") << 300 << true;
+    }
+    void ItOpensTallEnoughForTheLongestBudgetUpToTheScreen()
+    {
+        QFETCH(int, regulars);
+        QFETCH(bool, scrolls);
+        GuiDesk desk;
+        TakeHousehold();
+        State.NumberOfRegulars = qint16(regulars);
+        State.Regulars.Redim(regulars);
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        Click(Window, u"cmdBudget"_s);
+        const Form &window = *TheWindows.Loaded(Window);
+        QCOMPARE(Find<Grid>(Window, u"grdBudget"_s).verticalScrollBar()->isVisible(), scrolls);
+        QVERIFY(window.height() < window.screen()->availableSize().height());
+        QCOMPARE(window.height() > window.screen()->availableSize().height() * 9 / 10, scrolls);
+    }
+
     void EmptyListsShowTheSavingsAlone()
     {
         GuiDesk desk;
@@ -201,8 +298,8 @@ private Q_SLOTS:
         for (int run = 1; run <= 3; ++run) {
             Click(Window, u"cmdBudget"_s);
             QCOMPARE(grid.Rows(), 128 + run * (most + 2));
-            QCOMPARE(grid.model()->rowCount(), grid.Rows() - 1);
-            QCOMPARE(refreshed.size(), run); // the view is told once a run
+            QCOMPARE(grid.model()->rowCount(), most + 3); // the gap, the lines, the empty row and the savings
+            QCOMPARE(refreshed.size(), 1);                // for the first run; the others show as many rows
             QCOMPARE(grid.Text(1, 0), QString());
             QCOMPARE(grid.Text(2, 0), u"Item 1"_s);
             QCOMPARE(grid.Text(2, 1), u"$0.01"_s);
@@ -241,6 +338,17 @@ private Q_SLOTS:
                  (QStringList{u"Paycheck Amount | $1,000.00"_s, u"Then | $1,100.00"_s, u"DEFICIT | ($100.00)"_s}));
     }
 
+    void ComingForgetsWhatAForecastHasLeft()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.LookingAhead = true;
+        State.BudgetCredit = Currency::FromDouble(50);
+        Show(Window);
+        QVERIFY(!State.LookingAhead);
+        QCOMPARE(State.BudgetCredit, Currency());
+    }
+
     void AMessageBoxDoesNotResetTheAlternation()
     {
         GuiDesk desk;
@@ -268,7 +376,7 @@ private Q_SLOTS:
         Show(Window);
         QCOMPARE(State.BudgetPeriodStart.Text(), u"January 1, 2004"_s);
         QCOMPARE(Caption(), u"Budget - January 1, 2004"_s);
-        QVERIFY(bool(ShowBudgetPage));
+        QVERIFY(TheBudgetOutlet.IsConnected());
     }
 
     void TheSwitchPrintsEveryRunIntoOneDocument()

@@ -137,6 +137,41 @@ private Q_SLOTS:
         QCOMPARE(desk.HourglassCalls, (QList<bool>{true, false, false}));
     }
 
+    void TheGridIsFilledBetweenTheEndOfTheLongPartAndTheEndOfTheDocument()
+    {
+        GuiDesk desk;
+        TakeHousehold(2, {400, 1100});
+        QStringList order;
+        const auto rows = [] { return QString::number(Rows().size()) + u" rows"_s; };
+        TheDesk.Hourglass = [&](bool on) { order += on ? u"hourglass"_s : u"pointer, "_s + rows(); };
+        TheDesk.PrintDocument = [&](const PrintJob &page) {
+            order += u"document of %1 lines, "_s.arg(page.Lines.size()) + rows() + u", row "_s +
+                     QString::number(TheGrid().CurrentRow());
+            QVERIFY(!State.ForecastMode);
+            QVERIFY(!State.PrintSavingsForecast);
+        };
+        State.PrintSavingsForecast = true;
+        Show(Window);
+        QCOMPARE(order, (QStringList{u"hourglass"_s, u"pointer, 0 rows"_s, u"document of 9 lines, 2 rows, row 0"_s,
+                                     u"pointer, 2 rows"_s}));
+    }
+
+    void TheTipSaysWhatAClickDoesOnlyWhileAPickIsWaitedFor()
+    {
+        GuiDesk desk;
+        TakeHousehold(2);
+        Show(Window);
+        const auto tip = [](int row) { return TheGrid().model()->index(row - 1, 1).data(Qt::ToolTipRole).toString(); };
+        QCOMPARE(tip(1), u"January 1, 2004"_s);
+        CloseByFrame(Window);
+        OpenForPick();
+        QCOMPARE(tip(1), u"Click a pay period to choose it as the completion date"_s);
+        ClickGridRow(1);
+        State.CurrentPayPeriod = u"January 1, 2004"_s;
+        Show(Window);
+        QCOMPARE(tip(1), u"January 1, 2004"_s);
+    }
+
     void RedStandsInItsCellAlone()
     {
         GuiDesk desk;
@@ -306,6 +341,23 @@ private Q_SLOTS:
         QCOMPARE(Forecast.ForecastPickAccumulated, Currency());
         QVERIFY(!State.ProjectDateFromForecast);
         QVERIFY(!TheWindows.Loaded(Window));
+    }
+
+    void BelowAShorterForecastTheDateIsEmptyToo()
+    {
+        GuiDesk desk;
+        TakeHousehold(4);
+        Show(Window);
+        CloseByFrame(Window);
+        State.CurrentPayPeriod = u"January 1, 2004"_s;
+        State.ForecastPeriods = 2;
+        OpenForPick();
+        Find<QLineEdit>(u"frmProjects"_s, u"txtProjectCompletionDate"_s).setText(u"January 1, 2004"_s);
+        QCOMPARE(Forecast.ForecastDates(3), u"January 29, 2004"_s); // left by the longer one
+        ClickGridRow(3);
+        QCOMPARE(PickedDate(), QString());
+        QCOMPARE(Forecast.ForecastPickRow, qint16(3));
+        QCOMPARE(Forecast.ForecastPickAccumulated, Currency());
     }
 
     void BelowTheGreatestForecastTheDateIsEmptyToo()

@@ -4,6 +4,7 @@
 #include "TestProgram.h"
 
 #include "budget/SavingsForecast.h"
+#include "platform/values/Format.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -36,11 +37,14 @@ struct ForecastDesk : FakeDesk {
 /// The rows as one text each; an amount in red is marked.
 QStringList Rows()
 {
-    QStringList told;
-    for (const DatedRow &row : ForecastRows())
-        told += row.Date + u" | "_s + row.Amount + (row.AmountIsRed ? u" red"_s : QString()) + u" | "_s +
-                row.Accumulated + (row.AccumulatedIsRed ? u" red"_s : QString());
-    return told;
+    QStringList rows;
+    for (const StatementRow &row : ForecastStatement().Rows) {
+        QString text = row.Texts.join(u" | "_s);
+        for (const Currency amount : row.Amounts)
+            text += u" | "_s + FormatCurrency(amount) + (amount < Currency() ? u" red"_s : QString());
+        rows += text;
+    }
+    return rows;
 }
 
 } // namespace
@@ -97,6 +101,10 @@ private Q_SLOTS:
         ForecastSavings();
         QCOMPARE(::Rows(), (QStringList{u"January 1, 2004 | $0.00 | $0.00"_s, u"January 15, 2004 | $0.00 | $0.01"_s}));
         QCOMPARE(Forecast.AccumulatedSavings.TenThousandths(), qint64(80));
+        QVERIFY((Forecast.Rows(1) ==
+                 ForecastRow{QDate(2004, 1, 1), Currency::FromTenThousandths(40), Currency::FromTenThousandths(40)}));
+        QVERIFY((Forecast.Rows(2) ==
+                 ForecastRow{QDate(2004, 1, 15), Currency::FromTenThousandths(40), Currency::FromTenThousandths(80)}));
     }
 
     void ItContinuesBehindItsLastRowWithATotalOfNothing()
@@ -118,7 +126,10 @@ private Q_SLOTS:
         QCOMPARE(Forecast.ForecastDates(1), u"February 12, 2004"_s);
         QCOMPARE(Forecast.ForecastDates(3), u"January 29, 2004"_s);
         QCOMPARE(Forecast.ForecastAccumulated(3), u"$3,000.00"_s);
-        QCOMPARE(Forecast.ForecastDates(4), QString());
+        QCOMPARE(Forecast.ForecastSavingsAmounts(3), u"$1,000.00"_s);
+        QCOMPARE(Forecast.ForecastDates(4), QString()); // where no forecast has come to yet
+        QCOMPARE(Forecast.ForecastSavingsAmounts(4), QString());
+        QCOMPARE(Forecast.ForecastAccumulated(4), QString());
     }
 
     void TheFlagsAreDownAfterwardsAndNothingIsPrinted()
@@ -169,7 +180,7 @@ private Q_SLOTS:
     {
         ForecastDesk desk(1000);
         ForecastSavings();
-        QCOMPARE(ForecastRows().size(), std::size_t(1000));
+        QCOMPARE(ForecastStatement().Rows.size(), std::size_t(1000));
         QCOMPARE(Forecast.ForecastAccumulated(1000), u"$1,000,000.00"_s);
     }
 

@@ -1,6 +1,7 @@
 // The budget generator: pairs of runs, a look-ahead run of the following period and a budget run of the current one.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "StatementOf.h"
 #include "TestProgram.h"
 #include "budget/BudgetGenerator.h"
 #include "foundation/State.h"
@@ -31,9 +32,9 @@ public:
         State.SecondPayDate = 15;
         State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
         State.BudgetPeriodStart = DateText(QStringLiteral("1/1/2004"));
-        ShowBudgetPage = [this](const BudgetPage &page) { Shown = page; };
+        QObject::connect(&TheBudgetOutlet, &StatementOutlet::Ready, &m_window,
+                         [this](const Statement &budget) { Shown = budget; });
     }
-    ~Household() override { ShowBudgetPage = nullptr; }
 
     void AddCreditor(const char *name, int day, Currency amount)
     {
@@ -72,32 +73,35 @@ public:
         State.ProjectEntryAmounts(State.NumberOfProjects).At(entry) = amount;
     }
 
-    BudgetPage Run()
+    Statement Run()
     {
         Shown = {};
         GenerateBudget();
         return Shown;
     }
     /// A look-ahead run, then the budget run.
-    BudgetPage RunPair()
+    Statement RunPair()
     {
         Run();
         return Run();
     }
 
-    BudgetPage Shown;
+    Statement Shown;
+
+private:
+    QObject m_window;
 };
 
 /// "Rent - 1st 650; CREDIT - Gift -20 credit": a run's lines at a glance, amounts in ten-thousandths where not whole.
-QString Told(const BudgetPage &page)
+QString Told(const Statement &page)
 {
     QStringList told;
-    for (const BudgetLine &line : page.Lines) {
-        const qint64 count = line.Amount.TenThousandths();
+    for (const StatementRow &line : LinesOf(page)) {
+        const qint64 count = AmountOf(line).TenThousandths();
         const QString amount = count % Currency::Unit == 0 ? QString::number(count / Currency::Unit)
                                                            : QString::number(count) + QLatin1String("/10000");
-        told += line.Label + QLatin1Char(' ') + amount +
-                (line.TheKind == BudgetLine::Credit ? QStringLiteral(" credit") : QString());
+        told += LabelOf(line) + QLatin1Char(' ') + amount +
+                (line.TheKind == StatementRow::Credit ? QStringLiteral(" credit") : QString());
     }
     return told.join(QStringLiteral("; "));
 }
@@ -172,10 +176,10 @@ private Q_SLOTS:
     void WithEmptyListsABudgetShowsOnlyThePaycheckAsSavings()
     {
         Household household;
-        const BudgetPage page = household.RunPair();
+        const Statement page = household.RunPair();
         QCOMPARE(Told(page), QString());
-        QCOMPARE(page.ResultLabel, QStringLiteral("SAVINGS"));
-        QCOMPARE(page.Result, Dollars(1000));
+        QCOMPARE(ResultLabelOf(page), QStringLiteral("SAVINGS"));
+        QCOMPARE(ResultOf(page), Dollars(1000));
     }
 
     void LinesComeInTheirOrder()
@@ -194,14 +198,14 @@ private Q_SLOTS:
         household.AddExtra("Tax", Dollars(1170));
         household.Run();
         State.BudgetCredit = Dollars(7);
-        const BudgetPage page = household.Run();
+        const Statement page = household.Run();
         // Ahead: 1000 - 130 - 1170 = -300. Now: 1000 - 600 - 130 - 20 + 5 - 10 = 245, received 7 makes 252.
         // Levelled: (252 - 300) / 2 = -24; passed on: 300 - 24 = 276.
         QCOMPARE(Told(page), QStringLiteral("Car - 14th 200; Rent - 1st 400; Food 100; Bus 30; Gift 20; "
                                             "CREDIT - Refund -5 credit; Roof 10; CREDIT - Budget -7 credit; "
                                             "Budget - January 15, 2004 276"));
-        QCOMPARE(page.ResultLabel, QStringLiteral("DEFICIT"));
-        QCOMPARE(page.Result, Dollars(-24));
+        QCOMPARE(ResultLabelOf(page), QStringLiteral("DEFICIT"));
+        QCOMPARE(ResultOf(page), Dollars(-24));
     }
 
     void ALookAheadRunTellsTheFollowingPeriod()
@@ -217,9 +221,9 @@ private Q_SLOTS:
         household.AddRegular("Food", Dollars(100));
         household.AddCreditor("Rent", 1, Dollars(400));
         household.AddCreditor("Car", 15, Dollars(200));
-        const BudgetPage page = household.Run();
+        const Statement page = household.Run();
         QCOMPARE(Told(page), QStringLiteral("Car - 15th 200; Food 100; Then 21; Roof 11"));
-        QCOMPARE(page.Result, Dollars(668));
+        QCOMPARE(ResultOf(page), Dollars(668));
     }
 
     void ALookAheadRunTakesNoCreditAndPassesNothingOn()
@@ -228,10 +232,10 @@ private Q_SLOTS:
         State.BudgetCredit = Dollars(50);
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Tax", Dollars(1100));
-        const BudgetPage page = household.Run();
+        const Statement page = household.Run();
         QCOMPARE(Told(page), QStringLiteral("Tax 1100"));
-        QCOMPARE(page.Result, Dollars(-100));
-        QCOMPARE(page.ResultLabel, QStringLiteral("DEFICIT"));
+        QCOMPARE(ResultOf(page), Dollars(-100));
+        QCOMPARE(ResultLabelOf(page), QStringLiteral("DEFICIT"));
         QCOMPARE(State.BudgetCredit, Dollars(50));
         QCOMPARE(State.NextPeriodShortfall, Dollars(-100));
     }
@@ -240,14 +244,14 @@ private Q_SLOTS:
     {
         Household household;
         household.AddRegular("All", Dollars(1000));
-        const BudgetPage ahead = household.Run();
-        QCOMPARE(ahead.ResultLabel, QStringLiteral("SAVINGS"));
-        QCOMPARE(ahead.Result, Currency());
+        const Statement ahead = household.Run();
+        QCOMPARE(ResultLabelOf(ahead), QStringLiteral("SAVINGS"));
+        QCOMPARE(ResultOf(ahead), Currency());
         QCOMPARE(State.NextPeriodShortfall, Currency());
-        const BudgetPage now = household.Run();
+        const Statement now = household.Run();
         QCOMPARE(Told(now), QStringLiteral("All 1000")); // no "Budget - <date>" line
-        QCOMPARE(now.ResultLabel, QStringLiteral("SAVINGS"));
-        QCOMPARE(now.Result, Currency());
+        QCOMPARE(ResultLabelOf(now), QStringLiteral("SAVINGS"));
+        QCOMPARE(ResultOf(now), Currency());
     }
 
     void OneTenThousandthBelow0IsADeficit()
@@ -286,9 +290,9 @@ private Q_SLOTS:
         Household household;
         household.AddPayPeriod("1/1/2004");
         household.AddExtra("Refund", Dollars(-20));
-        const BudgetPage page = household.RunPair();
+        const Statement page = household.RunPair();
         QCOMPARE(Told(page), QStringLiteral("CREDIT - Refund -20 credit"));
-        QCOMPARE(page.Result, Dollars(1020));
+        QCOMPARE(ResultOf(page), Dollars(1020));
     }
 
     void AnItemOf0IsOrdinary()
@@ -315,9 +319,9 @@ private Q_SLOTS:
         household.AddPayPeriod("1/1/2004");
         for (int item = 1; item <= 200; ++item)
             household.AddExtra("x", Dollars(1));
-        const BudgetPage page = household.RunPair();
-        QCOMPARE(page.Lines.size(), std::size_t(200));
-        QCOMPARE(page.Result, Dollars(800));
+        const Statement page = household.RunPair();
+        QCOMPARE(LinesOf(page).size(), std::size_t(200));
+        QCOMPARE(ResultOf(page), Dollars(800));
     }
 
     // ------------------------------------------------------------ projects
@@ -342,9 +346,9 @@ private Q_SLOTS:
         State.ProjectAmounts(1) = Dollars(500);
         State.ProjectEntryDates(1).At(0) = DateText(QStringLiteral("1/1/2004"));
         State.ProjectEntryAmounts(1).At(0) = Dollars(5);
-        const BudgetPage page = household.RunPair();
+        const Statement page = household.RunPair();
         QCOMPARE(Told(page), QString());
-        QCOMPARE(page.Result, Dollars(1000));
+        QCOMPARE(ResultOf(page), Dollars(1000));
     }
 
     // ------------------------------------------------------------ levelling
@@ -382,21 +386,21 @@ private Q_SLOTS:
         household.AddExtra("Then", Dollars(1000) + Count(deficit));
         household.Run();
         QCOMPARE(State.NextPeriodShortfall, Count(-deficit));
-        const BudgetPage page = household.Run();
-        QCOMPARE(page.Lines.back().Label, QStringLiteral("Budget - January 15, 2004"));
-        QCOMPARE(page.Lines.back().Amount, Count(passedOn));
-        QCOMPARE(page.Lines.back().TheKind, BudgetLine::Ordinary); // also a negative one
-        QCOMPARE(page.Result, Count(levelled));
+        const Statement page = household.Run();
+        QCOMPARE(LabelOf(LinesOf(page).back()), QStringLiteral("Budget - January 15, 2004"));
+        QCOMPARE(AmountOf(LinesOf(page).back()), Count(passedOn));
+        QCOMPARE(LinesOf(page).back().TheKind, StatementRow::Ordinary); // also a negative one
+        QCOMPARE(ResultOf(page), Count(levelled));
         QCOMPARE(State.BudgetBalance, Count(levelled));
         QCOMPARE(State.NextPeriodShortfall, Count(passedOn));
         QCOMPARE(State.BudgetCredit, Count(passedOn));
 
         // The next pair receives it, and that brings it to what it ends on: -deficit + passed on.
-        const BudgetPage next = household.RunPair();
-        QCOMPARE(next.Lines.back().Label, NextCredit);
-        QCOMPARE(next.Lines.back().Amount, Count(-passedOn));
-        QCOMPARE(next.Lines.back().TheKind, BudgetLine::Credit);
-        QCOMPARE(next.Result, Count(passedOn - deficit));
+        const Statement next = household.RunPair();
+        QCOMPARE(LabelOf(LinesOf(next).back()), NextCredit);
+        QCOMPARE(AmountOf(LinesOf(next).back()), Count(-passedOn));
+        QCOMPARE(LinesOf(next).back().TheKind, StatementRow::Credit);
+        QCOMPARE(ResultOf(next), Count(passedOn - deficit));
         QCOMPARE(State.BudgetCredit, Currency());
     }
 
@@ -407,17 +411,17 @@ private Q_SLOTS:
         household.AddExtra("Now", Dollars(500));
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Then", Dollars(1100));
-        BudgetPage page = household.RunPair();
+        Statement page = household.RunPair();
         QCOMPARE(Told(page), QStringLiteral("Now 500; Budget - January 15, 2004 300"));
-        QCOMPARE(page.ResultLabel, QStringLiteral("SAVINGS"));
-        QCOMPARE(page.Result, Dollars(200));
+        QCOMPARE(ResultLabelOf(page), QStringLiteral("SAVINGS"));
+        QCOMPARE(ResultOf(page), Dollars(200));
         page = household.RunPair();
         QCOMPARE(Told(page), QStringLiteral("Then 1100; CREDIT - Budget -300 credit"));
-        QCOMPARE(page.Result, Dollars(200));
+        QCOMPARE(ResultOf(page), Dollars(200));
         // A shortfall is passed on once, and a surplus never.
         page = household.RunPair();
         QCOMPARE(Told(page), QString());
-        QCOMPARE(page.Result, Dollars(1000));
+        QCOMPARE(ResultOf(page), Dollars(1000));
     }
 
     void DeficitsInARowAreLevelledOneByOne()
@@ -426,13 +430,13 @@ private Q_SLOTS:
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("A", Dollars(1200)); // -200
         household.AddPayPeriod("1/29/2004");
-        household.AddExtra("B", Dollars(1400));             // -400
-        QCOMPARE(household.RunPair().Result, Dollars(400)); // (1000 - 200) / 2
+        household.AddExtra("B", Dollars(1400));                // -400
+        QCOMPARE(ResultOf(household.RunPair()), Dollars(400)); // (1000 - 200) / 2
         QCOMPARE(State.BudgetCredit, Dollars(600));
-        const BudgetPage second = household.RunPair();
+        const Statement second = household.RunPair();
         // -200 + 600 = 400 received; (400 - 400) / 2 = 0; passed on 400.
         QCOMPARE(Told(second), QStringLiteral("A 1200; CREDIT - Budget -600 credit; Budget - January 29, 2004 400"));
-        QCOMPARE(second.Result, Currency());
+        QCOMPARE(ResultOf(second), Currency());
         QCOMPARE(Told(household.RunPair()), QStringLiteral("B 1400; CREDIT - Budget -400 credit"));
         QCOMPARE(State.BudgetBalance, Currency());
     }
@@ -444,9 +448,9 @@ private Q_SLOTS:
         household.AddExtra("Now", Dollars(1100)); // B = -100
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Then", Dollars(1100)); // D = 100: both stay at -100
-        const BudgetPage page = household.RunPair();
+        const Statement page = household.RunPair();
         QCOMPARE(Told(page), QStringLiteral("Now 1100; Budget - January 15, 2004 0"));
-        QCOMPARE(page.Result, Dollars(-100));
+        QCOMPARE(ResultOf(page), Dollars(-100));
         QCOMPARE(Told(household.RunPair()), QStringLiteral("Then 1100")); // a credit of 0 is none
     }
 
@@ -562,9 +566,9 @@ private Q_SLOTS:
             household.AddCreditor("x", day, Dollars(1));
         household.RunPair();
         QList<int> found;
-        for (const BudgetLine &line : household.Shown.Lines)
-            if (line.Label.startsWith(QLatin1String("x - ")))
-                found += line.Label.mid(4).chopped(2).toInt();
+        for (const StatementRow &line : LinesOf(household.Shown))
+            if (LabelOf(line).startsWith(QLatin1String("x - ")))
+                found += LabelOf(line).mid(4).chopped(2).toInt();
         QCOMPARE(found, paid);
     }
 
@@ -624,9 +628,9 @@ private Q_SLOTS:
         Household household;
         household.AddCreditor("Rent", 1, Count(6500001));
         household.AddCreditor("Rent", 1, Dollars(-30));
-        const BudgetPage page = household.RunPair();
+        const Statement page = household.RunPair();
         QCOMPARE(Told(page), QStringLiteral("Rent - 1st 6500001/10000; Rent - 1st -30"));
-        QCOMPARE(page.Result, Count(10000000 - 6500001 + 300000));
+        QCOMPARE(ResultOf(page), Count(10000000 - 6500001 + 300000));
     }
 
     void MoreItemsThanARecordHoldsAreWalkedAsFarAsItGoes()
@@ -642,12 +646,12 @@ private Q_SLOTS:
         State.ProjectEntryCounts(1) = 150;
         household.AddProject("Trip"); // what stands behind the damaged ones counts as ever
         household.AddEntry("1/1/2004", Dollars(7));
-        const BudgetPage page = household.RunPair();
-        QCOMPARE(page.Lines.size(), std::size_t(200 + 100 + 1));
-        QCOMPARE(page.Lines[199].Label, QStringLiteral("Gift"));
-        QCOMPARE(page.Lines[200].Label, QStringLiteral("Roof"));
-        QCOMPARE(page.Lines[300].Label, QStringLiteral("Trip"));
-        QCOMPARE(page.Result, Dollars(1000 - 200 - 200 - 7));
+        const Statement page = household.RunPair();
+        QCOMPARE(LinesOf(page).size(), std::size_t(200 + 100 + 1));
+        QCOMPARE(LabelOf(LinesOf(page)[199]), QStringLiteral("Gift"));
+        QCOMPARE(LabelOf(LinesOf(page)[200]), QStringLiteral("Roof"));
+        QCOMPARE(LabelOf(LinesOf(page)[300]), QStringLiteral("Trip"));
+        QCOMPARE(ResultOf(page), Dollars(1000 - 200 - 200 - 7));
         QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/15/2004"));
         QCOMPARE(Told(household.Run()), QString());
     }
@@ -707,7 +711,8 @@ private Q_SLOTS:
     void ARunNeedsNoOutlet()
     {
         Household household;
-        ShowBudgetPage = nullptr;
+        TheBudgetOutlet.disconnect();
+        QVERIFY(!TheBudgetOutlet.IsConnected());
         household.AddRegular("Food", Dollars(4));
         GenerateBudget();
         GenerateBudget();

@@ -1,6 +1,7 @@
 // The monthly overhead: the conversion to a month, the statement and its page.
 #include "ErrorOf.h"
 #include "FakeDesk.h"
+#include "StatementOf.h"
 #include "TestProgram.h"
 
 #include "budget/MonthlyOverhead.h"
@@ -20,6 +21,11 @@ Currency Dollars(double amount)
 struct OverheadDesk : FakeDesk {
     OverheadDesk() { Overhead = {}; }
 };
+
+Currency TotalOf(const Statement &statement)
+{
+    return AmountOf(RowOf(statement, StatementRow::Total));
+}
 
 void TakeCreditors(const QList<CreditorRecord> &creditors)
 {
@@ -89,16 +95,16 @@ private Q_SLOTS:
         State.PayFrequency = Weekly;
         TakeCreditors({{u"Rent"_s, 1, Dollars(500)}, {u"Phone"_s, 22, Dollars(40.5)}});
         TakeRegulars({{u"Food"_s, Dollars(60)}});
-        const OverheadStatement statement = CalculateOverhead();
-        QCOMPARE(statement.MonthlyNetIncome.TenThousandths(), qint64(30333333));
-        QCOMPARE(statement.Lines.size(), std::size_t(3));
-        QVERIFY((statement.Lines[0] == BudgetLine{u"Rent - 1st"_s, Dollars(500)}));
-        QVERIFY((statement.Lines[1] == BudgetLine{u"Phone - 22nd"_s, Dollars(40.5)}));
-        QVERIFY((statement.Lines[2] == BudgetLine{u"Food"_s, Dollars(260)}));
-        QCOMPARE(statement.TotalOverhead, Dollars(800.5));
-        QCOMPARE(statement.ResultLabel, u"Remaining Funds"_s);
-        QCOMPARE(statement.Result.TenThousandths(), qint64(22328333));
-        QCOMPARE(State.BudgetBalance, statement.Result);
+        const Statement statement = CalculateOverhead();
+        QCOMPARE(AmountOf(statement.Opening).TenThousandths(), qint64(30333333));
+        QCOMPARE(LinesOf(statement).size(), std::size_t(3));
+        QVERIFY((LinesOf(statement)[0] == StatementRow{{u"Rent - 1st"_s}, {Dollars(500)}}));
+        QVERIFY((LinesOf(statement)[1] == StatementRow{{u"Phone - 22nd"_s}, {Dollars(40.5)}}));
+        QVERIFY((LinesOf(statement)[2] == StatementRow{{u"Food"_s}, {Dollars(260)}}));
+        QCOMPARE(TotalOf(statement), Dollars(800.5));
+        QCOMPARE(ResultLabelOf(statement), u"Remaining Funds"_s);
+        QCOMPARE(ResultOf(statement).TenThousandths(), qint64(22328333));
+        QCOMPARE(State.BudgetBalance, ResultOf(statement));
         QCOMPARE(Overhead.MonthlyNetIncome.TenThousandths(), qint64(30333333));
         QCOMPARE(Overhead.RegularMonthlyAmount, Dollars(260));
     }
@@ -108,7 +114,7 @@ private Q_SLOTS:
         OverheadDesk desk;
         State.PayFrequency = Weekly;
         TakeRegulars({{u"A"_s, Dollars(10)}, {u"B"_s, Dollars(10)}, {u"C"_s, Dollars(10)}});
-        QCOMPARE(CalculateOverhead().TotalOverhead.TenThousandths(), qint64(3 * 433333)); // and not $130.00
+        QCOMPARE(TotalOf(CalculateOverhead()).TenThousandths(), qint64(3 * 433333)); // and not $130.00
     }
 
     void EmptyListsLeaveTheNetIncome()
@@ -116,11 +122,11 @@ private Q_SLOTS:
         OverheadDesk desk;
         State.PaycheckAmount = Dollars(1000);
         State.PayFrequency = Semimonthly;
-        const OverheadStatement statement = CalculateOverhead();
-        QVERIFY(statement.Lines.empty());
-        QCOMPARE(statement.TotalOverhead, Currency());
-        QCOMPARE(statement.ResultLabel, u"Remaining Funds"_s);
-        QCOMPARE(statement.Result, Dollars(2000));
+        const Statement statement = CalculateOverhead();
+        QVERIFY(LinesOf(statement).empty());
+        QCOMPARE(TotalOf(statement), Currency());
+        QCOMPARE(ResultLabelOf(statement), u"Remaining Funds"_s);
+        QCOMPARE(ResultOf(statement), Dollars(2000));
     }
 
     void NothingLeftIsNoDeficitAndATenThousandthIs()
@@ -129,10 +135,10 @@ private Q_SLOTS:
         State.PaycheckAmount = Dollars(500);
         State.PayFrequency = Monthly;
         TakeCreditors({{u"Rent"_s, 1, Dollars(500)}});
-        QCOMPARE(CalculateOverhead().ResultLabel, u"Remaining Funds"_s);
+        QCOMPARE(ResultLabelOf(CalculateOverhead()), u"Remaining Funds"_s);
         QCOMPARE(State.BudgetBalance, Currency());
         State.Creditors(1).CreditorAmount = Dollars(500.0001);
-        QCOMPARE(CalculateOverhead().ResultLabel, u"DEFICIT"_s);
+        QCOMPARE(ResultLabelOf(CalculateOverhead()), u"DEFICIT"_s);
         QCOMPARE(State.BudgetBalance.TenThousandths(), qint64(-1));
     }
 
@@ -144,10 +150,10 @@ private Q_SLOTS:
         State.PaycheckAmount = Dollars(700);
         State.PayFrequency = 21;
         TakeRegulars({{u"A"_s, Dollars(10)}, {u"B"_s, Dollars(20)}});
-        const OverheadStatement statement = CalculateOverhead();
-        QCOMPARE(statement.MonthlyNetIncome, Dollars(11));
-        QCOMPARE(statement.TotalOverhead, Dollars(6));
-        QCOMPARE(statement.Result, Dollars(5));
+        const Statement statement = CalculateOverhead();
+        QCOMPARE(AmountOf(statement.Opening), Dollars(11));
+        QCOMPARE(TotalOf(statement), Dollars(6));
+        QCOMPARE(ResultOf(statement), Dollars(5));
     }
 
     void ThePageOfASoundMonth()

@@ -23,9 +23,7 @@ void TakeForecast(const QList<double> &savings)
     Currency accumulated;
     for (int row = 1; row <= savings.size(); ++row) {
         accumulated += Dollars(savings[row - 1]);
-        Forecast.ForecastDates(row) = QStringLiteral("January %1, 2004").arg(row);
-        Forecast.ForecastSavingsAmounts(row) = FormatCurrency(Dollars(savings[row - 1]));
-        Forecast.ForecastAccumulated(row) = FormatCurrency(accumulated);
+        Forecast.Rows(row) = {QDate(2004, 1, 1).addDays(row - 1), Dollars(savings[row - 1]), accumulated};
     }
     Forecast.ForecastPickRow = qint16(savings.size());
     Forecast.ForecastPickAccumulated = accumulated;
@@ -235,11 +233,15 @@ private Q_SLOTS:
         FakeDesk desk;
         TakeForecast({-10, 5, 65});
         AddProject(u"Boat"_s, Dollars(60));
-        const std::vector<DatedRow> rows = ProjectRows(1);
-        QCOMPARE(int(rows.size()), 3);
-        QVERIFY((rows[0] == DatedRow{u"January 1, 2004"_s, u"($10.00)"_s, u"($10.00)"_s, true, true}));
-        QVERIFY((rows[1] == DatedRow{u"January 2, 2004"_s, u"$5.00"_s, u"($5.00)"_s, false, true}));
-        QVERIFY((rows[2] == DatedRow{u"January 3, 2004"_s, u"$65.00"_s, u"$60.00"_s, false, false}));
+        const Statement view = ProjectStatement(1);
+        QCOMPARE(view.Heading, u"Boat"_s);
+        QCOMPARE(int(view.Rows.size()), 3);
+        const auto row = [](const QString &date, double amount, double total) {
+            return StatementRow{{date}, {Dollars(amount), Dollars(total)}, StatementRow::Signed};
+        };
+        QVERIFY(view.Rows[0] == row(u"January 1, 2004"_s, -10, -10));
+        QVERIFY(view.Rows[1] == row(u"January 2, 2004"_s, 5, -5));
+        QVERIFY(view.Rows[2] == row(u"January 3, 2004"_s, 65, 60));
     }
 };
 

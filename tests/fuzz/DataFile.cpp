@@ -158,7 +158,7 @@ void RunBudgets()
     State.BudgetPeriodStart = QStringLiteral("01-01-2004");
     ErrorOf([] {
         for (int run = 0; run < 4; ++run) {
-            BudgetPage page;
+            Statement page;
             CalculateBudget(&page);
         }
     });

@@ -417,6 +417,70 @@ private Q_SLOTS:
         QCOMPARE(grid.CurrentRow(), 2);
         QCOMPARE(ShownRows(grid)[500], "500 | ");
     }
+
+    void AGridThatEndsWithItsTextHidesTheRowsBelow()
+    {
+        Grid grid;
+        Fill(grid, 3);
+        grid.AddItem({}, 2); // an empty row above a text belongs to it
+        grid.AddItem({}, 5);
+        grid.SetEndsWithText(true);
+        QCoreApplication::processEvents();
+        QCOMPARE(grid.model()->rowCount(), 4);
+        QCOMPARE(grid.Rows(), 6);
+        grid.SetText(5, 1, "last");
+        QCoreApplication::processEvents();
+        QCOMPARE(grid.model()->rowCount(), 5);
+        grid.ClearBelowHeading();
+        QCoreApplication::processEvents();
+        QCOMPARE(grid.model()->rowCount(), 0);
+        grid.SetEndsWithText(false);
+        QCoreApplication::processEvents();
+        QCOMPARE(grid.model()->rowCount(), 5);
+    }
+
+    void TheResultIsBoldBelowARule()
+    {
+        Grid grid;
+        Fill(grid, 3);
+        grid.SetResultRow(2);
+        Present(grid);
+        for (int row = 1; row <= 3; ++row) {
+            const QModelIndex cell = grid.model()->index(row - 1, 1);
+            QCOMPARE(cell.data(Qt::FontRole).value<QFont>().bold(), row == 2);
+            const QRect rect = grid.visualRect(cell);
+            const QImage top = grid.viewport()->grab(QRect(rect.left(), rect.top(), 1, 1)).toImage();
+            QCOMPARE(top.pixelColor(0, 0) != grid.palette().color(QPalette::Base), row == 2);
+        }
+        QVERIFY(!grid.Bold(2, 1)); // it is no property of the cell
+        grid.ClearBelowHeading();
+        QCOMPARE(grid.ResultRow(), 0);
+    }
+
+    void ItsTipStandsInForTheTextsOfTheCells()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        QCoreApplication::processEvents();
+        const QModelIndex cell = grid.model()->index(0, 0);
+        QCOMPARE(cell.data(Qt::ToolTipRole).toString(), "item 1");
+        grid.setToolTip("Click a row");
+        QCOMPARE(cell.data(Qt::ToolTipRole).toString(), "Click a row");
+    }
+
+    void ItOpensWithRoomForItsRows()
+    {
+        Grid grid;
+        Fill(grid, 29);
+        grid.SetRowsAtFirst(30); // the heading is one of them
+        Present(grid);
+        grid.resize(static_cast<QWidget &>(grid).sizeHint());
+        QCoreApplication::processEvents();
+        QVERIFY(!grid.verticalScrollBar()->isVisible());
+        grid.resize(grid.width(), grid.height() - grid.rowHeight(0));
+        QCoreApplication::processEvents();
+        QVERIFY(grid.verticalScrollBar()->isVisible());
+    }
 };
 
 REGISTER_TEST(gui_grid)

@@ -73,6 +73,21 @@ private Q_SLOTS:
         QCOMPARE(FormatCurrency(Count(-12345000)), QStringLiteral("($1,234.50)"));
     }
 
+    void TheAmountAsShownIsWhatItsTextReadsBackAs()
+    {
+        constexpr qint64 most = std::numeric_limits<qint64>::max();
+        for (const QLocale &locale : {American, German, Swiss}) {
+            SetUserLocale(locale);
+            for (const qint64 count :
+                 {qint64(0), qint64(49), qint64(50), qint64(-49), qint64(-50), qint64(51), qint64(100), qint64(149),
+                  qint64(-150), qint64(10615385), qint64(-10615385), qint64(9999950), most, -most, -most - 1})
+                QCOMPARE(AsShown(Count(count)), ToCurrency(FormatCurrency(Count(count))));
+        }
+        QCOMPARE(AsShown(Count(10615385)), Count(10615400));
+        QCOMPARE(AsShown(Count(-50)), Count(-100));
+        QCOMPARE(AsShown(Count(-49)), Currency());
+    }
+
     void ASingleIsShownInSinglePrecision()
     {
         // Its double would be 0.0599999986... and 1.0049999952...

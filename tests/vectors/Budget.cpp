@@ -1,26 +1,28 @@
 #include "Cases.h"
 
 #include "RecordingDesk.h"
+#include "StatementOf.h"
 #include "budget/BudgetGenerator.h"
 #include "platform/values/Format.h"
 
 namespace {
 
-QJsonObject ToldRun(const BudgetPage &page)
+QJsonObject ToldRun(const Statement &page)
 {
     QJsonArray lines;
-    for (const BudgetLine &line : page.Lines)
-        lines += QJsonObject{{QStringLiteral("label"), line.Label},
-                             {QStringLiteral("amount"), Told(line.Amount)},
-                             {QStringLiteral("text"), FormatCurrency(line.Amount)},
-                             {QStringLiteral("kind"), line.TheKind == BudgetLine::Credit ? QStringLiteral("credit")
-                                                                                         : QStringLiteral("ordinary")}};
+    for (const StatementRow &line : LinesOf(page))
+        lines +=
+            QJsonObject{{QStringLiteral("label"), LabelOf(line)},
+                        {QStringLiteral("amount"), Told(AmountOf(line))},
+                        {QStringLiteral("text"), FormatCurrency(AmountOf(line))},
+                        {QStringLiteral("kind"),
+                         line.TheKind == StatementRow::Credit ? QStringLiteral("credit") : QStringLiteral("ordinary")}};
     return {{QStringLiteral("run"), State.LookingAhead ? QStringLiteral("look-ahead") : QStringLiteral("budget")},
             {QStringLiteral("heading"), page.Heading},
             {QStringLiteral("lines"), lines},
-            {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), page.ResultLabel},
-                                                   {QStringLiteral("amount"), Told(page.Result)},
-                                                   {QStringLiteral("text"), FormatCurrency(page.Result)}}},
+            {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), ResultLabelOf(page)},
+                                                   {QStringLiteral("amount"), Told(ResultOf(page))},
+                                                   {QStringLiteral("text"), FormatCurrency(ResultOf(page))}}},
             {QStringLiteral("BudgetBalance"), Told(State.BudgetBalance)},
             {QStringLiteral("NextPeriodShortfall"), Told(State.NextPeriodShortfall)},
             {QStringLiteral("BudgetCredit"), Told(State.BudgetCredit)},
@@ -37,8 +39,9 @@ QJsonValue RunBudgetCase(const QJsonObject &input, const QJsonObject &expected, 
 {
     TakeHousehold(input);
     State.BudgetPeriodStart = State.CurrentPayPeriod;
-    BudgetPage shown;
-    ShowBudgetPage = [&](const BudgetPage &page) { shown = page; };
+    Statement shown;
+    QObject window;
+    QObject::connect(&TheBudgetOutlet, &StatementOutlet::Ready, &window, [&](const Statement &page) { shown = page; });
     QJsonArray runs;
     const QJsonArray expectedRuns = expected[u"runs"].toArray();
     for (const QJsonValue run : expectedRuns) {
@@ -50,6 +53,5 @@ QJsonValue RunBudgetCase(const QJsonObject &input, const QJsonObject &expected, 
             told[QStringLiteral("printed")] = Told(ThePrinter.PendingLines().mid(printedBefore));
         runs += told;
     }
-    ShowBudgetPage = nullptr;
     return QJsonObject{{QStringLiteral("runs"), runs}};
 }

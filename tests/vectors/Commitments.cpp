@@ -2,6 +2,7 @@
 #include "Cases.h"
 
 #include "RecordingDesk.h"
+#include "StatementOf.h"
 #include "budget/SavingsForecast.h"
 #include "commitments/Creditors.h"
 #include "commitments/Extras.h"
@@ -140,20 +141,20 @@ QJsonValue RunProjectsCase(const QJsonObject &input, const QJsonObject &expected
     QJsonArray entries;
     QJsonArray view;
     Currency total;
-    const std::vector<DatedRow> rows = ProjectRows(project);
+    const Statement shown = ProjectStatement(project);
     for (int entry = 1; entry <= State.ProjectEntryCounts(project); ++entry) {
         const QString date = State.ProjectEntryDates(project)(entry);
         const Currency amount = State.ProjectEntryAmounts(project)(entry);
-        const DatedRow &shown = rows[std::size_t(entry - 1)];
+        const StatementRow &line = shown.Rows[std::size_t(entry - 1)];
         total += amount;
         entries += QJsonObject{{QStringLiteral("Date"), Format(date, DateFormat::Short)},
                                {QStringLiteral("date_text"), date},
                                {QStringLiteral("Amount"), Told(amount)}};
-        view += QJsonObject{{QStringLiteral("date_text"), shown.Date},
-                            {QStringLiteral("installment_text"), shown.Amount},
-                            {QStringLiteral("accumulated_text"), shown.Accumulated},
-                            {QStringLiteral("installment_red"), shown.AmountIsRed},
-                            {QStringLiteral("accumulated_red"), shown.AccumulatedIsRed},
+        view += QJsonObject{{QStringLiteral("date_text"), LabelOf(line)},
+                            {QStringLiteral("installment_text"), FormatCurrency(line.Amounts[0])},
+                            {QStringLiteral("accumulated_text"), FormatCurrency(line.Amounts[1])},
+                            {QStringLiteral("installment_red"), line.Amounts[0] < Currency()},
+                            {QStringLiteral("accumulated_red"), line.Amounts[1] < Currency()},
                             {QStringLiteral("accumulated"), Told(total)}};
     }
     told[QStringLiteral("Entries")] = entries;

@@ -2,6 +2,7 @@
 #include "Cases.h"
 
 #include "RecordingDesk.h"
+#include "StatementOf.h"
 #include "budget/MonthlyOverhead.h"
 #include "budget/SavingsForecast.h"
 #include "budget/ScanPayPeriods.h"
@@ -9,35 +10,28 @@
 #include "foundation/State.h"
 #include "platform/controls/Grid.h"
 #include "platform/values/Format.h"
-#include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
 
 #include "Windows.h"
 
 namespace {
 
-QJsonArray ToldForecast(const QJsonArray &expected)
+QJsonArray ToldForecast()
 {
     QJsonArray told;
-    const std::vector<DatedRow> rows = ForecastRows();
-    Currency accumulated;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const DatedRow &row = rows[i];
-        // The exact amounts behind the texts are not kept; those that the text cannot tell come from the running state.
-        const QJsonValue wanted = i < std::size_t(expected.size()) ? expected[qsizetype(i)] : QJsonValue();
-        const auto exact = [](const QString &text, const QJsonValue &amount) {
-            const Currency given = Currency::FromTenThousandths(amount.toInteger());
-            return FormatCurrency(given) == text ? Told(given) : QJsonValue(text);
-        };
-        told += QJsonObject{{QStringLiteral("number"), int(i) + 1},
-                            {QStringLiteral("date"), Format(row.Date, DateFormat::Short)},
-                            {QStringLiteral("date_text"), row.Date},
-                            {QStringLiteral("savings"), exact(row.Amount, wanted[u"savings"])},
-                            {QStringLiteral("savings_text"), row.Amount},
-                            {QStringLiteral("savings_red"), row.AmountIsRed},
-                            {QStringLiteral("accumulated"), exact(row.Accumulated, wanted[u"accumulated"])},
-                            {QStringLiteral("accumulated_text"), row.Accumulated},
-                            {QStringLiteral("accumulated_red"), row.AccumulatedIsRed}};
+    const Statement shown = ForecastStatement();
+    for (int i = 1; i <= State.ForecastPeriods; ++i) {
+        const ForecastRow &row = Forecast.Rows(i);
+        const StatementRow &line = shown.Rows[std::size_t(i - 1)];
+        told += QJsonObject{{QStringLiteral("number"), i},
+                            {QStringLiteral("date"), Format(row.Day, DateFormat::Short)},
+                            {QStringLiteral("date_text"), LabelOf(line)},
+                            {QStringLiteral("savings"), Told(row.Savings)},
+                            {QStringLiteral("savings_text"), FormatCurrency(line.Amounts[0])},
+                            {QStringLiteral("savings_red"), line.Amounts[0] < Currency()},
+                            {QStringLiteral("accumulated"), Told(row.Accumulated)},
+                            {QStringLiteral("accumulated_text"), FormatCurrency(line.Amounts[1])},
+                            {QStringLiteral("accumulated_red"), line.Amounts[1] < Currency()}};
     }
     return told;
 }
@@ -51,14 +45,14 @@ QJsonValue RunForecastCase(const QJsonObject &input, const QJsonObject &expected
     State.BudgetPeriodStart = State.CurrentPayPeriod;
     State.PrintSavingsForecast = expected.contains(u"printed");
     ForecastSavings();
-    QJsonObject told{{QStringLiteral("rows"), ToldForecast(expected[u"rows"].toArray())}};
+    QJsonObject told{{QStringLiteral("rows"), ToldForecast()}};
     if (expected.contains(u"printed"))
         told[QStringLiteral("printed")] = Told(desk.Printed.value(0).Lines);
     if (expected.contains(u"rows_when_focus_returns")) {
         State.LookingAhead = false;
         State.BudgetCredit = {};
         ForecastSavings();
-        told[QStringLiteral("rows_when_focus_returns")] = ToldForecast(expected[u"rows_when_focus_returns"].toArray());
+        told[QStringLiteral("rows_when_focus_returns")] = ToldForecast();
     }
     return told;
 }
@@ -67,12 +61,13 @@ QJsonValue RunOverheadCase(const QJsonObject &input, const QJsonObject &expected
 {
     TakeHousehold(input);
     Overhead = {};
-    const OverheadStatement statement = CalculateOverhead();
+    const Statement statement = CalculateOverhead();
     QJsonArray lines;
-    for (const BudgetLine &line : statement.Lines)
-        lines += QJsonObject{{QStringLiteral("label"), line.Label},
-                             {QStringLiteral("amount"), Told(line.Amount)},
-                             {QStringLiteral("text"), FormatCurrency(line.Amount)}};
+    for (const StatementRow &line : LinesOf(statement))
+        lines += QJsonObject{{QStringLiteral("label"), LabelOf(line)},
+                             {QStringLiteral("amount"), Told(AmountOf(line))},
+                             {QStringLiteral("text"), FormatCurrency(AmountOf(line))}};
+    const Currency total = AmountOf(RowOf(statement, StatementRow::Total));
     PrintOverhead();
 
     // The grid is read off the window itself, as many rows as the case tells.
@@ -86,14 +81,14 @@ QJsonValue RunOverheadCase(const QJsonObject &input, const QJsonObject &expected
     TheWindows.Reset();
 
     return QJsonObject{
-        {QStringLiteral("MonthlyNetIncome"), Told(statement.MonthlyNetIncome)},
-        {QStringLiteral("MonthlyNetIncome_text"), FormatCurrency(statement.MonthlyNetIncome)},
+        {QStringLiteral("MonthlyNetIncome"), Told(AmountOf(statement.Opening))},
+        {QStringLiteral("MonthlyNetIncome_text"), FormatCurrency(AmountOf(statement.Opening))},
         {QStringLiteral("lines"), lines},
-        {QStringLiteral("TotalOverhead"), Told(statement.TotalOverhead)},
-        {QStringLiteral("TotalOverhead_text"), FormatCurrency(statement.TotalOverhead)},
-        {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), statement.ResultLabel},
-                                               {QStringLiteral("amount"), Told(statement.Result)},
-                                               {QStringLiteral("text"), FormatCurrency(statement.Result)}}},
+        {QStringLiteral("TotalOverhead"), Told(total)},
+        {QStringLiteral("TotalOverhead_text"), FormatCurrency(total)},
+        {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), ResultLabelOf(statement)},
+                                               {QStringLiteral("amount"), Told(ResultOf(statement))},
+                                               {QStringLiteral("text"), FormatCurrency(ResultOf(statement))}}},
         {QStringLiteral("grid"), grid},
         {QStringLiteral("printed"), Told(desk.Printed.value(0).Lines)}};
 }

@@ -16,7 +16,6 @@ namespace {
 constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
 constexpr int MeasuredLetter = 5; // pixels
-constexpr int RowsAtFirst = 21;   // what a grid opens with room for
 constexpr int RowsAtLeast = 6;
 constexpr int MostLetters = 120;  // that a grid claims the width of
 constexpr int HairlineAlpha = 60; // of 255
@@ -40,7 +39,7 @@ public:
         m_columns = columns;
         m_right.assign(std::size_t(columns), false);
         m_rows.assign(std::size_t(rows), Row());
-        Touch();
+        SetResultRow(0);
     }
     int Rows() const { return int(m_rows.size()); }
     int Columns() const { return m_columns; }
@@ -92,8 +91,19 @@ public:
             if (std::all_of(m_rows[row].begin(), m_rows[row].end(), plain))
                 Row().swap(m_rows[row]);
         }
+        SetResultRow(0);
+    }
+    void SetEndsWithText(bool ends)
+    {
+        m_endsWithText = ends;
         Touch();
     }
+    void SetResultRow(int row)
+    {
+        m_resultRow = row;
+        Touch();
+    }
+    int ResultRow() const { return m_resultRow; }
     void SetRight(int column, bool right)
     {
         Check(column);
@@ -132,15 +142,20 @@ private:
         const Cell &cell = Read(row, column);
         switch (role) {
         case Qt::DisplayRole: return cell.Text;
-        case Qt::ToolTipRole: return cell.Text.isEmpty() ? QVariant() : cell.Text;
+        case Qt::ToolTipRole: {
+            // A grid that waits for a click says what that does; any other shows a text that its cell may cut.
+            const QString tip = m_grid->toolTip().isEmpty() ? cell.Text : m_grid->toolTip();
+            return tip.isEmpty() ? QVariant() : tip;
+        }
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(Qt::AlignVCenter |
                                        (m_right[std::size_t(column)] ? Qt::AlignRight : Qt::AlignLeft));
         case Qt::FontRole: {
             QFont font = m_grid->font();
-            font.setBold(cell.Bold);
+            font.setBold(cell.Bold || (row > 0 && row == m_resultRow));
             return font;
         }
+        case RowLook::RuleAbove: return row > 0 && row == m_resultRow;
         case Qt::ForegroundRole:
             if (cell.Colour == GridColour::Text)
                 return {};
@@ -150,6 +165,18 @@ private:
         }
     }
 
+    /// Below the heading.
+    int RowsToShow() const
+    {
+        const auto hasText = [](const Row &row) {
+            return std::any_of(row.begin(), row.end(), [](const Cell &cell) { return !cell.Text.isEmpty(); });
+        };
+        int rows = Rows() - 1;
+        while (m_endsWithText && rows > 0 && !hasText(m_rows[std::size_t(rows)]))
+            --rows;
+        return qMax(0, rows);
+    }
+
     void Touch()
     {
         if (m_dirty)
@@ -157,7 +184,7 @@ private:
         m_dirty = true;
         QTimer::singleShot(0, this, [this] {
             m_dirty = false;
-            const int rows = qMax(0, Rows() - 1);
+            const int rows = RowsToShow();
             if (rows == m_shownRows && m_columns == m_shownColumns) {
                 // Where only texts have changed, the view stays where the user has scrolled it.
                 if (rows > 0 && m_columns > 0)
@@ -179,6 +206,8 @@ private:
     int m_columns = 0;
     int m_shownRows = 0;
     int m_shownColumns = 0;
+    int m_resultRow = 0;
+    bool m_endsWithText = false;
     bool m_dirty = false;
 };
 
@@ -341,6 +370,27 @@ void Grid::SetRowsInView(int rows)
     ShareHeight();
 }
 
+void Grid::SetRowsAtFirst(int rows)
+{
+    m_rowsAtFirst = rows;
+    updateGeometry();
+}
+
+void Grid::SetEndsWithText(bool ends)
+{
+    m_model->SetEndsWithText(ends);
+}
+
+void Grid::SetResultRow(int row)
+{
+    m_model->SetResultRow(row);
+}
+
+int Grid::ResultRow() const
+{
+    return m_model->ResultRow();
+}
+
 void Grid::SetCurrentRow(int row)
 {
     m_currentRow = row;
@@ -403,7 +453,8 @@ void Grid::changeEvent(QEvent *event)
 QSize Grid::sizeHint() const
 {
     const int scrollBar = 24;
-    return {qMax(NaturalWidth(), 240) + scrollBar, RowsAtFirst * (fontMetrics().height() + RowPadding)};
+    const int headingMore = RowPadding + 2 * frameWidth(); // than a row
+    return {qMax(NaturalWidth(), 240) + scrollBar, m_rowsAtFirst * (fontMetrics().height() + RowPadding) + headingMore};
 }
 
 QSize Grid::minimumSizeHint() const

@@ -46,6 +46,15 @@ public:
     bool RightAligned(int column) const;
     /// So many rows fill the grid's height.
     void SetRowsInView(int rows);
+    /// A grid opens with room for so many rows, the heading included.
+    void SetRowsAtFirst(int rows);
+    int RowsAtFirst() const { return m_rowsAtFirst; }
+    /// Whether the rows below the last one with a text are left out of the view. They stay rows of the grid.
+    void SetEndsWithText(bool ends);
+    /// The row that tells what the rows above it come to: it is bold, below a rule. 0 for none, as after
+    /// ClearBelowHeading.
+    void SetResultRow(int row);
+    int ResultRow() const;
 
     /// The row that was clicked or moved to last, 0 the heading.
     int CurrentRow() const { return m_currentRow; }
@@ -70,4 +79,5 @@ private:
     std::vector<int> m_twips;
     int m_currentRow = 0;
     int m_rowsInView = 0;
+    int m_rowsAtFirst = 21;
 };

@@ -10,6 +10,7 @@ class RowLook : public QStyledItemDelegate
 {
 public:
     static constexpr int Margin = 8;
+    static constexpr int RuleAbove = Qt::UserRole + 1; ///< of a model's data: whether a rule stands above the row
 
     explicit RowLook(QAbstractItemView *view) : QStyledItemDelegate(view), m_view(view) {}
 
@@ -23,6 +24,11 @@ public:
             QColor mark = cell.palette.color(QPalette::Highlight);
             mark.setAlpha(FocusAlpha);
             painter->fillRect(cell.rect, mark);
+        }
+        if (index.data(RuleAbove).toBool()) {
+            QColor ink = cell.palette.color(QPalette::Text);
+            ink.setAlpha(RuleAlpha);
+            painter->fillRect(QRect(cell.rect.left(), cell.rect.top(), cell.rect.width(), 1), ink);
         }
         cell.rect.adjust(MoreMargin(), 0, -MoreMargin(), 0);
         QStyledItemDelegate::paint(painter, cell, index);
@@ -42,6 +48,7 @@ private:
         return true;
     }
     static constexpr int FocusAlpha = 50; // of 255
+    static constexpr int RuleAlpha = 160;
 
     /// What the toolkit's own margin lacks to ours.
     int MoreMargin() const { return Margin - m_view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) - 1; }

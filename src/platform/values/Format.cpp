@@ -91,3 +91,11 @@ float FractionOf(const QString &perCent)
 {
     return Decimal(ToSingle(perCent)).Shifted(-Hundred).ToFloat();
 }
+
+Currency AsShown(Currency amount)
+{
+    constexpr qint64 cent = Currency::Unit / 100;
+    const qint64 rest = amount.TenThousandths() % cent; // with the sign of the amount
+    const qint64 down = amount.TenThousandths() - rest;
+    return Currency::FromTenThousandths(qAbs(rest) < cent / 2 ? down : rest > 0 ? down + cent : down - cent);
+}

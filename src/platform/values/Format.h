@@ -30,3 +30,5 @@ QString FormatCurrency(Currency amount);
 QString PerCent(float fraction);
 /// The fraction that a number of per cent stands for: "6.625" is 0.06625. Error 13 for no number, 6 beyond a single.
 float FractionOf(const QString &perCent);
+/// The amount that this text tells: rounded to two decimals, half away from zero.
+Currency AsShown(Currency amount);
