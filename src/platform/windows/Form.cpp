@@ -106,9 +106,19 @@ bool Form::HandleEnter(QObject *control)
 bool Form::event(QEvent *event)
 {
     const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Polish)
+        ShowDescriptionsUnderThePointer();
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
         GiveLinesTheirHeight();
     return done;
+}
+
+/// What a field takes is told to everybody, not only to who has it read aloud.
+void Form::ShowDescriptionsUnderThePointer()
+{
+    for (QLineEdit *field : findChildren<QLineEdit *>())
+        if (field->toolTip().isEmpty())
+            field->setToolTip(field->accessibleDescription());
 }
 
 /// Layouts let a label of several lines be squeezed when the window is small or its letters are large; here it keeps
