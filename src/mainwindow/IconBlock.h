@@ -28,9 +28,12 @@ private:
 
     void FitIcons()
     {
-        for (QToolButton *button : findChildren<QToolButton *>()) {
-            const int side = qBound(LeastIcon, qMin(button->width(), button->height()) * 2 / 3, LargestIcon);
+        const QList<QToolButton *> buttons = findChildren<QToolButton *>();
+        int side = 2 * LargestIcon;
+        for (const QToolButton *button : buttons) // one may be a pixel larger than another
+            side = qMin(side, qMin(button->width(), button->height()));
+        side = qBound(LeastIcon, side * 2 / 3, LargestIcon);
+        for (QToolButton *button : buttons)
             button->setIconSize({side, side});
-        }
     }
 };

@@ -22,7 +22,7 @@ constexpr int LastTimedTutorPage = 24;
 constexpr int LeastButton = 36;     // pixels; room for the smallest icon
 constexpr int LeastLinePadding = 8; // pixels, above and below a line of the list together
 constexpr int LeastLines = 5;       // of the list; the others are scrolled to
-constexpr int LineCharacters = 44;  // what the list, and a line of the hint, have room for in their width
+constexpr int LineCharacters = 52;  // what the list, and a line of the hint, have room for in their width
 constexpr int TitleBarHeight = 40;  // pixels; a guess, before the window manager has put its frame around the window
 
 void ShowStateLine(QListWidgetItem &line, const StateEntry &entry)
@@ -136,6 +136,7 @@ void frmMain::BuildStatusBar()
         *label = new QLabel(this);
         (*label)->setObjectName(u"staMain%1"_s.arg(++panel));
         (*label)->setContentsMargins(8, 2, 8, 2);
+        (*label)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         ui->staMain->addWidget(*label, panel < 3 ? 1 : 0);
     }
 }

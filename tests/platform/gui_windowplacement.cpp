@@ -35,6 +35,12 @@ QRect PlaceOf(const QString &window)
     return TheWindows.Loaded(window)->frameGeometry();
 }
 
+/// Right of a window, the tops in line.
+QPoint RightOf(const QString &window)
+{
+    return PlaceOf(window).topRight() + QPoint(1, 0);
+}
+
 QRect Screen()
 {
     return QGuiApplication::primaryScreen()->availableGeometry();
@@ -66,9 +72,9 @@ private Q_SLOTS:
     {
         QVERIFY(Screen().width() >= 800); // of the offscreen platform
         Show(u"frmOne"_s);
-        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), QPoint(400, 100));
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), RightOf(u"frmHub"_s));
         Show(u"frmTwo"_s); // called from the one
-        QCOMPARE(PlaceOf(u"frmTwo"_s).topLeft(), QPoint(600, 100));
+        QCOMPARE(PlaceOf(u"frmTwo"_s).topLeft(), RightOf(u"frmOne"_s));
     }
 
     void OneThatIsMovedStaysWhileItIsVisible()
@@ -81,11 +87,11 @@ private Q_SLOTS:
         // Nothing is remembered: neither of one that is hidden nor of one that has ended.
         TheWindows.Hide(u"frmOne"_s);
         Show(u"frmOne"_s);
-        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), QPoint(400, 100));
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), RightOf(u"frmHub"_s));
         TheWindows.Loaded(u"frmOne"_s)->move(20, 500);
         TheWindows.Unload(u"frmOne"_s);
         Show(u"frmOne"_s);
-        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), QPoint(400, 100));
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), RightOf(u"frmHub"_s));
     }
 
     void TheFieldWithTheFocusIsNotCovered()

@@ -73,6 +73,7 @@ private:
     QWidget *FirstControl() const;
     void GiveLinesTheirHeight();
     void ShowDescriptionsUnderThePointer();
+    void GiveFieldsTheirWidth();
     bool CanHaveFocus(const QWidget *control) const;
     bool HandleEnter(QObject *control);
 
