@@ -290,7 +290,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("window");
         QTest::addColumn<bool>("filled");
-        DeclareWindows();
+        RegisterWindows();
         const QStringList windows = TheWindows.Names();
         TheWindows.Reset();
         for (const QString &window : windows)
@@ -318,7 +318,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("window");
         QTest::addColumn<double>("fontSize");
-        DeclareWindows();
+        RegisterWindows();
         const QStringList windows = TheWindows.Names();
         TheWindows.Reset();
         for (const QString &window : windows)

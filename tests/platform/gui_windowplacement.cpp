@@ -55,10 +55,10 @@ class gui_windowplacement : public QObject
 private Q_SLOTS:
     void init()
     {
-        TheWindows.Declare(u"frmHub"_s, [] { return new Toy({300, 300}); });
-        TheWindows.Declare(u"frmOne"_s, [] { return new Toy; });
-        TheWindows.Declare(u"frmTwo"_s, [] { return new Toy; });
-        TheWindows.Declare(u"frmOnlooker"_s, [] { return new Onlooker; });
+        TheWindows.Register(u"frmHub"_s, [] { return new Toy({300, 300}); });
+        TheWindows.Register(u"frmOne"_s, [] { return new Toy; });
+        TheWindows.Register(u"frmTwo"_s, [] { return new Toy; });
+        TheWindows.Register(u"frmOnlooker"_s, [] { return new Onlooker; });
         Show(u"frmHub"_s);
         TheWindows.Loaded(u"frmHub"_s)->move(100, 100);
     }

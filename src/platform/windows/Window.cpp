@@ -51,10 +51,10 @@ void WindowBase::ShowText(const QString &text) const
 
 void WindowBase::Refuse(const QString &text, QWidget *field)
 {
-    ShowText(text);
     // A window that is refused while another one is active comes to the front, or the user would not see the field.
     if (TheWindows.Active() != this && isVisible())
         TheWindows.Show(objectName());
+    ShowText(text); // over the window that it is about
     FocusOn(field);
 }
 
