@@ -1,7 +1,9 @@
 #include "Windows.h"
+#include "mainwindow/EndOfSession.h"
 #include "platform/controls/Icons.h"
 #include "platform/desk/RealDesk.h"
 #include "platform/windows/Application.h"
+#include "platform/windows/EndSignals.h"
 #include "platform/windows/WindowRegister.h"
 
 #include <QTimer>
@@ -12,6 +14,9 @@ int main(int argc, char **argv)
     application.setWindowIcon(ThemedIcon(QStringLiteral("tallymere")));
     InstallRealDesk(QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
     RegisterWindows();
+    QObject::connect(&application, &Application::SaveRequested, SaveWithoutQuestion);
+    QObject::connect(&application, &Application::EndRequested, LeaveWithoutQuestion);
+    TakeEndSignals(application);
     // Within the loop, where an error that nobody traps has its one place.
     QTimer::singleShot(0, &application, [] { TheWindows.Show(FirstWindow()); });
     return application.exec();

@@ -27,7 +27,7 @@ struct MenuEntry {
     QString Name;
     QString Caption; ///< "&" before the access key
     Command TheCommand = Command::Open;
-    QString Window;    ///< name of the window that it opens, if any
+    QString Window;    ///< name of the window that it opens or that its option is about, if any
     int TutorPage = 0; ///< 0: none
     QString Shortcut;
 };

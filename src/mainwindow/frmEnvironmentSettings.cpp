@@ -81,6 +81,7 @@ bool frmEnvironmentSettings::ValidateEnvironmentSettings()
     const auto refusal = ValidateEnvironmentEntry(Entry());
     if (!refusal)
         return true;
+    TheWindows.Show(objectName()); // its close box can be pressed while another window is active
     ShowMessage(refusal->Text, QStringLiteral("Environment Settings"), Icon::Warning);
     FocusOn(findChild<QWidget *>(refusal->Focus));
     return false;

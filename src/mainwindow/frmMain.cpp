@@ -19,8 +19,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int LastTimedTutorPage = 24;
-constexpr int StateLinePadding = 16;    // pixels, above and below a line together
-constexpr int StateLineCharacters = 44; // what the list has room for in its width
+constexpr int LeastButton = 36;     // pixels; room for the smallest icon
+constexpr int LeastLinePadding = 8; // pixels, above and below a line of the list together
+constexpr int LeastLines = 5;       // of the list; the others are scrolled to
+constexpr int LineCharacters = 52;  // what the list, and a line of the hint, have room for in their width
+constexpr int TitleBarHeight = 40;  // pixels; a guess, before the window manager has put its frame around the window
 
 void ShowStateLine(QListWidgetItem &line, const StateEntry &entry)
 {
@@ -55,6 +58,7 @@ frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
     ui->lstBudgetState->setItemDelegate(new StateLineLook(ui->lstBudgetState));
     ui->lstBudgetState->setMouseTracking(true);
     ReserveSpace();
+    ui->cmdTutor->setEnabled(Entry(u"mnuTallymereTutor"_s)->isEnabled());
     ui->cmdHowDoI->setEnabled(Entry(u"mnuHowDoI"_s)->isEnabled());
     ui->cmdGettingStarted->setEnabled(Entry(u"mnuGettingStarted"_s)->isEnabled());
 
@@ -114,15 +118,14 @@ void frmMain::BuildToolbar()
         button->setToolTip(entry.ToolTip);
         button->setAccessibleName(entry.ToolTip);
         button->setAccessibleDescription(entry.Hint);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        button->setMinimumSize(LeastButton, LeastButton);
         button->setFocusPolicy(Qt::NoFocus); // the menu is the way for the keyboard
         button->setEnabled(Entry(entry.ActsAs)->isEnabled());
         connect(button, &QToolButton::clicked, this, [this, name = entry.ActsAs] { ActOn(name); });
         button->setMouseTracking(true);
         button->installEventFilter(this);
         m_hints.insert(button, entry.Hint);
-        // Who works with the keyboard sees the hint on the way through the menu.
-        connect(Entry(entry.ActsAs), &QAction::hovered, this,
-                [this, hint = entry.Hint] { ui->lblToolbar->setText(hint); });
     }
 }
 
@@ -133,28 +136,37 @@ void frmMain::BuildStatusBar()
         *label = new QLabel(this);
         (*label)->setObjectName(u"staMain%1"_s.arg(++panel));
         (*label)->setContentsMargins(8, 2, 8, 2);
+        (*label)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         ui->staMain->addWidget(*label, panel < 3 ? 1 : 0);
     }
 }
 
-/// The hint label has room for the longest hint and the list for its nine lines, so that nothing jumps when a text
-/// changes.
+/// The hint label has room for the longest hint, the status panels for the longest date and time, and the list for
+/// its lines, so that nothing jumps when a text changes.
 void frmMain::ReserveSpace()
 {
     QLabel &hint = *ui->lblToolbar;
+    hint.setMinimumWidth(LineCharacters * hint.fontMetrics().averageCharWidth());
     const int edge = 2 * (hint.margin() + hint.frameWidth());
-    const int width = qMax(ui->Toolbar1->width(), ui->Toolbar1->minimumSizeHint().width()) - edge;
+    const int width = qMax(ui->Toolbar1->width(), hint.minimumWidth()) - edge;
     int height = 0;
     for (const ToolbarEntry &entry : MainToolbar())
         height = qMax(
             height, hint.fontMetrics().boundingRect(QRect(0, 0, width, 10000), Qt::TextWordWrap, entry.Hint).height());
     hint.setMinimumHeight(height + edge);
 
+    for (const auto &[panel, longest] : {std::pair{staMain1, u"Current Pay Period: September 30, 2004"_s},
+                                         {staMain2, u"Wednesday  September 30, 2004"_s},
+                                         {staMain3, u"00:00:00 AM"_s}}) {
+        const QMargins margins = panel->contentsMargins();
+        panel->setMinimumWidth(panel->fontMetrics().horizontalAdvance(longest) + margins.left() + margins.right());
+    }
+
     ListBox &list = *ui->lstBudgetState;
     const int lines = int(BudgetStateLines().size());
-    const int least = list.fontMetrics().height() + StateLinePadding;
-    list.setMinimumSize(StateLineCharacters * list.fontMetrics().averageCharWidth(),
-                        lines * least + 2 * list.frameWidth());
+    const int least = list.fontMetrics().height() + LeastLinePadding;
+    list.setMinimumSize(LineCharacters * list.fontMetrics().averageCharWidth(),
+                        LeastLines * least + 2 * list.frameWidth());
     for (int line = 0; line < list.count(); ++line)
         list.item(line)->setSizeHint(QSize(0, qMax(least, list.viewport()->height() / lines)));
 }
@@ -175,15 +187,16 @@ void frmMain::changeEvent(QEvent *event)
 void frmMain::Load()
 {
     InitializeVariables();
+    ensurePolished();
+    // The toolkit alone would open it at two thirds of a small screen at most.
+    resize(sizeHint().boundedTo(screen()->availableSize() - QSize(0, TitleBarHeight)).expandedTo(minimumSizeHint()));
     Entry(u"mnuFinanceMathCalculator"_s)->setEnabled(!State.MathCalculatorMissing);
     TheWindows.Unload(u"frmSplash"_s);
     TheDesk.Hourglass(false);
     // Directly left of the tutor's window, which this loads whether or not the tutor is on.
     const QString tutor = u"frmTallymereTutor"_s;
-    if (TheWindows.Knows(tutor)) {
-        adjustSize(); // it has no size of its own before it is shown
+    if (TheWindows.Knows(tutor))
         move(TheWindows.Touch(tutor).x() - width(), y());
-    }
     Timer1.start();
 }
 
@@ -324,9 +337,9 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
         ShowTutorPageIfRunning(entry.TutorPage);
         const QString chosen =
             TheDesk.AskFile({FileQuestion::Open, u"Store List Files (*.lst)|*.lst"_s, State.StoresDirectory, {}});
-        // A cancelled dialog goes on with the old name: its list is read again.
-        if (!chosen.isEmpty())
-            State.CurrentStoreFile = chosen.section(QRegularExpression(u"[\\\\/]"_s), -1);
+        // A cancelled dialog goes on with the old name, which an edited settings file may give with folders.
+        const QString name = chosen.isEmpty() ? State.CurrentStoreFile : chosen;
+        State.CurrentStoreFile = name.section(QRegularExpression(u"[\\\\/]"_s), -1);
         const QString settings = u"frmEnvironmentSettings"_s;
         if (TheWindows.Knows(settings))
             TheWindows.ControlOf<QLineEdit>(settings, u"txtStoreFile"_s).setText(State.CurrentStoreFile);

@@ -27,6 +27,7 @@ public:
     void Load() override;
     void Activate() override;
     void Unload() override;
+    bool StandsBesideItsCaller() const override { return false; }
 
     QAction *Entry(const QString &name) const { return m_entries.value(name); }
 

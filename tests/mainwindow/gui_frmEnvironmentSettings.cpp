@@ -215,7 +215,7 @@ private Q_SLOTS:
         TakeHousehold();
         Show(Window);
         for (const QString &next :
-             {Paycheck, Tax, Net, u"txtStoreFile"_s, u"optPayFrequency1"_s, u"cmdExit"_s, Forecast}) {
+             {Paycheck, Tax, Net, u"optPayFrequency1"_s, u"cmdExit"_s, Forecast}) {
             QTest::keyClick(TheWindows.Loaded(Window)->FocusControl(), Qt::Key_Tab);
             Settle();
             QCOMPARE(FocusOf(Window), next);
@@ -230,7 +230,6 @@ private Q_SLOTS:
         for (const auto &[field, text] : {std::pair{Paycheck, u"$1,000.00"_s},
                                           {Tax, u"6.00"_s},
                                           {Net, u"90.00"_s},
-                                          {u"txtStoreFile"_s, u"untitled.lst"_s},
                                           {u"optPayFrequency1"_s, QString()},
                                           {u"cmdExit"_s, QString()},
                                           {Forecast, u"26"_s}}) {
@@ -456,6 +455,26 @@ private Q_SLOTS:
         QCOMPARE(FocusOf(Window), field);
         QCOMPARE(TextOf(Window, field), text);
         VerifyUnchanged();
+    }
+
+    void RefusedBehindAnotherWindowItComesToTheFront()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Show(Window);
+        Type(Window, Tax, u"6%"_s);
+        Show(u"frmMain"_s);
+        QString before;
+        TheDesk.ShowMessage = [&, show = TheDesk.ShowMessage](const Message &message) {
+            before = ActiveWindow(); // the message stands over the window that it is about
+            return show(message);
+        };
+        CloseByFrame(Window);
+        QCOMPARE(desk.TakeMessage().Text, u"Sales Tax does not contain a valid numeric amount"_s);
+        QCOMPARE(before, Window);
+        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(FocusOf(Window), Tax);
+        QCOMPARE(SelectedText(Tax), u"6%"_s);
     }
 
     void TheFirstFailureIsToldFirst()

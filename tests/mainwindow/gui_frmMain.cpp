@@ -136,6 +136,7 @@ const ToolbarRow ToolbarRows[] = {
 
 struct OptionRow {
     const char *Entry;
+    const char *Window; ///< what the option is about
     const char *Key;
     const char *Title;
     const char *TurnedOn;
@@ -143,14 +144,14 @@ struct OptionRow {
 };
 
 const OptionRow OptionRows[] = {
-    {"mnuTipOfTheDay", "show tips at startup", "Options - Tip of the Day",
+    {"mnuTipOfTheDay", "frmTip", "show tips at startup", "Options - Tip of the Day",
      "Tip of the Day will be displayed the next time you start Tallymere",
      "Tip of the Day will not be displayed the next time you start Tallymere"},
-    {"mnuTallymereTutor", "show tallymere tutor", "Options - Tallymere Tutor",
+    {"mnuTallymereTutor", "frmTallymereTutor", "show tallymere tutor", "Options - Tallymere Tutor",
      "Tallymere Tutor will be displayed automatically in 10 seconds.",
      "Tallymere Tutor will not be displayed automatically. To get help from the Tutor again recheck this option or "
      "click Help->How Do I...?"},
-    {"mnuWelcomeScreen", "show welcome at startup", "Options - Welcome Screen",
+    {"mnuWelcomeScreen", "frmWelcome", "show welcome at startup", "Options - Welcome Screen",
      "The Welcome screen will be displayed the next time you start Tallymere",
      "The Welcome screen will not be displayed the next time you start Tallymere"},
 };
@@ -198,6 +199,8 @@ void DeclareToys()
         if (*row.Window)
             DeclareToy<Toy>(Text(row.Window));
     DeclareToy<SettingsToy>(u"frmEnvironmentSettings"_s);
+    for (const OptionRow &row : OptionRows)
+        DeclareToy<Toy>(Text(row.Window));
 }
 
 /// Records the pages that the tutor is asked to show.
@@ -409,6 +412,48 @@ private Q_SLOTS:
         }
     }
 
+    void TheIconsGrowAndShrinkWithTheWindow()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Form &main = *TheWindows.Loaded(Window);
+        const auto icon = [&](const QSize &size) {
+            main.resize(size);
+            Settle();
+            const QSize shown = ToolbarButton(1).iconSize();
+            for (int index = 2; index <= 16; ++index)
+                if (ToolbarButton(index).iconSize() != shown)
+                    return QSize();
+            return shown;
+        };
+        QCOMPARE(icon(main.minimumSizeHint()), QSize(24, 24));
+        QCOMPARE(icon({3000, 2000}), QSize(64, 64));
+        const QSize between = icon({900, 640});
+        QVERIFY(between.width() > 24 && between.width() < 64);
+        QCOMPARE(between.width(), between.height());
+        QCOMPARE(icon(main.minimumSizeHint()), QSize(24, 24)); // what has grown does not hold the window
+    }
+
+    void ButtonsAndStatusBarStayWhateverTheSize()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Form &main = *TheWindows.Loaded(Window);
+        for (const QSize &size : {main.minimumSizeHint(), QSize(960, 480), QSize(1600, 1000)}) {
+            main.resize(size);
+            Settle();
+            QCOMPARE(main.size(), size); // 1920 x 1080 at 200 per cent is as small as that
+            for (const QString &name :
+                 {u"cmdExit"_s, u"cmdTutor"_s, u"cmdHowDoI"_s, u"cmdGettingStarted"_s, u"staMain"_s, u"lblToolbar"_s}) {
+                const QWidget &control = Find(Window, name);
+                QVERIFY2(main.rect().contains(QRect(control.mapTo(&main, QPoint()), control.size())), qPrintable(name));
+            }
+            auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+            list.scrollToBottom();
+            QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(list.count() - 1))));
+        }
+    }
+
     void HintsComeUnderThePointerAndStay()
     {
         GuiDesk desk;
@@ -438,26 +483,17 @@ private Q_SLOTS:
         QCOMPARE(hint.text(), Text(ToolbarRows[2].Hint));
     }
 
-    void HintsComeOnTheWayThroughTheMenuAndStay()
+    void TheMenuLeavesTheHintAlone()
     {
         GuiDesk desk;
         DeclareToys();
         desk.StartProgram();
-        for (const ToolbarRow &row : ToolbarRows) {
+        for (const ToolbarRow &row : ToolbarRows)
             Entry(Text(row.Entry)).hover();
-            QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(row.Hint));
-        }
-        // With the keys: creditors, regular and extra items have no button and leave the hint, the projects have one.
-        QMenu *menu = Entry(u"mnuFile"_s).menu();
-        menu->popup(QPoint());
-        for (int entry = 1; entry <= 4; ++entry) {
-            QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[15].Hint));
-            QTest::keyClick(menu, Qt::Key_Down);
-        }
-        QCOMPARE(menu->activeAction(), &Entry(u"mnuFileProjects"_s));
-        QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[0].Hint));
-        menu->hide();
-        QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[0].Hint));
+        QCOMPARE(TextOf(Window, u"lblToolbar"_s), QString()); // empty until the pointer comes to the toolbar
+        PointAt(ToolbarButton(3));
+        Entry(Text(ToolbarRows[0].Entry)).hover();
+        QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[2].Hint));
     }
 
     void TheStateOfTheBudgetHasNineLines()
@@ -616,6 +652,33 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"staMain2"_s), u"Tuesday  January 6, 2004"_s);
     }
 
+    void ThePanelsKeepTheirPlacesWhateverTheySay()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        const auto places = [] {
+            Settle();
+            QList<QRect> rectangles;
+            for (int panel = 1; panel <= 3; ++panel)
+                rectangles += Find(Window, u"staMain%1"_s.arg(panel)).geometry();
+            return rectangles;
+        };
+        QCOMPARE(TextOf(Window, u"staMain3"_s), QString());
+        const QList<QRect> before = places();
+        for (const QDateTime &now : {QDateTime(QDate(2004, 9, 29), QTime(0, 0, 0)), // a Wednesday
+                                     QDateTime(QDate(2005, 5, 1), QTime(11, 11, 11))}) {
+            desk.Now = now;
+            QVERIFY(Tick(u"Timer1"_s));
+            State.CurrentPayPeriod = Format(now.date(), DateFormat::Dashes);
+            LeaveAndReturn();
+            QCOMPARE(places(), before);
+            for (int panel = 1; panel <= 3; ++panel) {
+                const auto &label = Find<QLabel>(Window, u"staMain%1"_s.arg(panel));
+                QVERIFY2(label.sizeHint().width() <= label.width(), qPrintable(label.text()));
+            }
+        }
+    }
+
     void TheClockGoesOnUnderTheQuestion()
     {
         GuiDesk desk;
@@ -641,6 +704,7 @@ private Q_SLOTS:
         GuiDesk desk;
         for (const OptionRow &row : OptionRows)
             desk.Options[Text(row.Key)] = u"5"_s;
+        DeclareToys();
         desk.StartProgram();
         for (const OptionRow &row : OptionRows)
             QVERIFY(!Entry(Text(row.Entry)).isChecked());
@@ -704,6 +768,7 @@ private Q_SLOTS:
     {
         for (const OptionRow &row : OptionRows) {
             GuiDesk desk;
+            DeclareToys();
             desk.StartProgram();
             QVERIFY(Entry(Text(row.Entry)).isChecked());
             Choose(Text(row.Entry));
@@ -720,6 +785,7 @@ private Q_SLOTS:
     void TheMarkIsWhatFlipsAndNotTheStoredNumber()
     {
         GuiDesk desk;
+        DeclareToys();
         desk.StartProgram();
         desk.Options[u"show tips at startup"_s] = u"5"_s;
         LeaveAndReturn();
@@ -822,6 +888,20 @@ private Q_SLOTS:
         QCOMPARE(tutor.Pages, (QList<int>{6, 6}));
     }
 
+    void AnOptionComesAliveWithItsWindow()
+    {
+        for (const OptionRow &row : OptionRows) {
+            GuiDesk desk;
+            TheWindows.Reset();
+            DeclareToy<frmMain>(Window);
+            DeclareToy<Toy>(Text(row.Window));
+            desk.StartProgram();
+            for (const OptionRow &other : OptionRows)
+                QCOMPARE(Entry(Text(other.Entry)).isEnabled(), &other == &row);
+            QCOMPARE(IsEnabled(Window, u"cmdTutor"_s), Text(row.Entry) == u"mnuTallymereTutor"_s);
+        }
+    }
+
     // Entries that do more than open
 
     void TheSavingsForecastAsksWhetherToPrint()
@@ -905,6 +985,7 @@ private Q_SLOTS:
         QTest::newRow("both") << u"C:\\family/stores\\weekly.lst"_s << u"weekly.lst"_s;
         QTest::newRow("bare") << u"weekly.lst"_s << u"weekly.lst"_s;
         QTest::newRow("cancelled") << QString() << u"untitled.lst"_s;
+        QTest::newRow("cancelled, the old name with folders") << QString() << u"weekly.lst"_s;
     }
     void AStoreListIsOpened()
     {
@@ -914,6 +995,8 @@ private Q_SLOTS:
         DeclareToys();
         desk.WriteFile(u"stores\\weekly.lst"_s, "0\r\n");
         desk.StartProgram();
+        if (chosen.isEmpty() && name != State.CurrentStoreFile)
+            State.CurrentStoreFile = u"old\\stores\\"_s + name;
         TutorPages tutor;
         State.NumberOfCurrentItems = 5; // read again from the file in any case
         desk.FileAnswers += chosen;
@@ -1011,6 +1094,9 @@ private Q_SLOTS:
                 QCOMPARE(Entry(Text(row.Name)).isEnabled(), Text(row.Window) == u"frmCreditors"_s);
         QVERIFY(!Entry(u"mnuFinanceLoans"_s).isEnabled()); // nothing in it can be chosen
         QVERIFY(!Entry(u"mnuIncome"_s).isEnabled());
+        for (const OptionRow &row : OptionRows) // an option must not promise what there is not
+            QVERIFY(!Entry(Text(row.Entry)).isEnabled());
+        QVERIFY(!IsEnabled(Window, u"cmdTutor"_s));
         QVERIFY(Entry(u"mnuFile"_s).isEnabled());
         QVERIFY(!IsEnabled(Window, u"cmdHowDoI"_s));
         QVERIFY(!IsEnabled(Window, u"cmdGettingStarted"_s));

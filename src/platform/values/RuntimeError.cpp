@@ -9,6 +9,7 @@ QString RuntimeError::Description() const
     case SubscriptOutOfRange: return QStringLiteral("Subscript out of range");
     case DivisionByZero: return QStringLiteral("Division by zero");
     case TypeMismatch: return QStringLiteral("Type mismatch");
+    case InternalError: return QStringLiteral("Internal error");
     case BadFileNumber: return QStringLiteral("Bad file name or number");
     case FileNotFound: return QStringLiteral("File not found");
     case FileAlreadyOpen: return QStringLiteral("File already open");

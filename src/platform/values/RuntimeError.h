@@ -17,6 +17,7 @@ public:
         SubscriptOutOfRange = 9,
         DivisionByZero = 11,
         TypeMismatch = 13,
+        InternalError = 51,
         BadFileNumber = 52,
         FileNotFound = 53,
         FileAlreadyOpen = 55,

@@ -5,13 +5,29 @@
 #include "platform/windows/WindowRegister.h"
 
 #include <QScopedValueRollback>
+#include <new>
+
+using namespace Qt::Literals::StringLiterals;
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
-    setApplicationName(QStringLiteral("Tallymere"));
+    setApplicationName(u"Tallymere"_s);
     setApplicationDisplayName(QString());
+    setDesktopFileName(u"tallymere"_s);
     setQuitOnLastWindowClosed(false); // the register decides
+    // The session manager asks for a checkpoint as well as before a logout, which the user may still call off: so this
+    // only saves. The logout itself comes as QEvent::Quit.
+    connect(this, &QGuiApplication::commitDataRequest, this, &Application::SaveRequested);
+    connect(this, &QGuiApplication::saveStateRequest, this, &Application::SaveRequested);
     TheWindows.Start();
+}
+
+bool Application::event(QEvent *event)
+{
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    Q_EMIT EndRequested(); // the toolkit would close window by window, each with its questions
+    return true;
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)
@@ -20,8 +36,13 @@ bool Application::notify(QObject *receiver, QEvent *event)
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError &error) {
         ReportFatalError(error);
-        return true;
+    } catch (const std::bad_alloc &) {
+        ReportFatalError(RuntimeError(RuntimeError::OutOfMemory));
+    } catch (const std::exception &error) { // a library's
+        qWarning("%s", error.what());
+        ReportFatalError(RuntimeError(RuntimeError::InternalError));
     }
+    return true;
 }
 
 void ReportFatalError(const RuntimeError &error)
@@ -31,7 +52,6 @@ void ReportFatalError(const RuntimeError &error)
         return;
     const QScopedValueRollback once(reporting, true);
     TheDesk.Hourglass(false);
-    ShowMessage(QStringLiteral("Run-time error '%1':\n\n%2").arg(int(error.Number)).arg(error.Description()), AppTitle,
-                Icon::Stop);
+    ShowMessage(u"Run-time error '%1':\n\n%2"_s.arg(int(error.Number)).arg(error.Description()), AppTitle, Icon::Stop);
     TheDesk.EndProgram();
 }

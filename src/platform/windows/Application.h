@@ -1,4 +1,5 @@
-// The application object: the one place where an error that nobody traps ends the program.
+// The application object: the one place where an error that nobody traps ends the program, and where the program hears
+// that it is to end from outside.
 #pragma once
 
 #include <QApplication>
@@ -9,6 +10,15 @@ class Application : public QApplication
 public:
     Application(int &argc, char **argv);
     bool notify(QObject *receiver, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The desktop asks to save: its session may end next, or go on.
+    void SaveRequested();
+    /// The program is to end without a question: a signal asks for it, or the desktop's session ends.
+    void EndRequested();
+
+protected:
+    bool event(QEvent *event) override;
 };
 
 class RuntimeError;

@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QStyle>
+#include <QStyleOption>
 
 namespace {
 
@@ -106,9 +108,41 @@ bool Form::HandleEnter(QObject *control)
 bool Form::event(QEvent *event)
 {
     const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Polish)
+        ShowDescriptionsUnderThePointer();
+    if (event->type() == QEvent::Polish || event->type() == QEvent::FontChange)
+        GiveFieldsTheirWidth();
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
         GiveLinesTheirHeight();
     return done;
+}
+
+/// What a field takes is told to everybody, not only to who has it read aloud.
+void Form::ShowDescriptionsUnderThePointer()
+{
+    for (QLineEdit *field : findChildren<QLineEdit *>())
+        if (field->toolTip().isEmpty())
+            field->setToolTip(field->accessibleDescription());
+}
+
+/// A field whose design names its longestText is never narrower than that text, whatever the letters are.
+void Form::GiveFieldsTheirWidth()
+{
+    constexpr int margin = 2; // the toolkit's own, on either side of a field's text
+    constexpr int caret = 1;
+    for (QLineEdit *field : findChildren<QLineEdit *>()) {
+        const QString longest = field->property("longestText").toString();
+        if (longest.isEmpty())
+            continue;
+        field->ensurePolished();
+        QStyleOptionFrame option;
+        option.initFrom(field);
+        option.lineWidth =
+            field->hasFrame() ? field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field) : 0;
+        const QSize text(field->fontMetrics().horizontalAdvance(longest) + 2 * margin + caret, 0);
+        const QSize whole = field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, field);
+        field->setMinimumWidth(qMax(field->minimumWidth(), whole.width()));
+    }
 }
 
 /// Layouts let a label of several lines be squeezed when the window is small or its letters are large; here it keeps

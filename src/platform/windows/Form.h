@@ -48,6 +48,8 @@ public:
     virtual int HelpContext() const { return 0; }
     /// A window that is only looked at, such as the tutor's, takes no activation when it is shown.
     virtual bool TakesActivation() const { return true; }
+    /// Whether it opens beside the window that it was called from; else where the window system puts it.
+    virtual bool StandsBesideItsCaller() const { return TakesActivation(); }
 
     /// Moves the focus to a control of this window. In the active window its got-focus comes at once, in any other
     /// with the next activation, and in the window's own Activate right after it. A disabled control is left alone.
@@ -70,6 +72,8 @@ private:
     friend class WindowRegister;
     QWidget *FirstControl() const;
     void GiveLinesTheirHeight();
+    void ShowDescriptionsUnderThePointer();
+    void GiveFieldsTheirWidth();
     bool CanHaveFocus(const QWidget *control) const;
     bool HandleEnter(QObject *control);
 

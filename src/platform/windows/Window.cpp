@@ -47,17 +47,15 @@ void WindowBase::ShowText(const QString &text, int helpContext) const
 {
     const bool help = m_look.TheButtons == Buttons::OkHelp;
     ShowMessage(text, m_look.Title, m_look.TheIcon, m_look.TheButtons,
-                !help         ? 0
-                : helpContext ? helpContext
-                              : m_look.HelpContext);
+                help ? (helpContext ? helpContext : m_look.HelpContext) : 0);
 }
 
 void WindowBase::Refuse(const QString &text, QWidget *field, int helpContext)
 {
-    ShowText(text, helpContext);
     // A window that is refused while another one is active comes to the front, or the user would not see the field.
     if (TheWindows.Active() != this && isVisible())
         TheWindows.Show(objectName());
+    ShowText(text); // over the window that it is about
     FocusOn(field);
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/desk/Desk.h"
 #include "platform/values/RuntimeError.h"
+#include "platform/windows/WindowPlacement.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -108,6 +109,8 @@ void WindowRegister::Present(Form &form)
             m_expectedUntil.setRemainingTime(ActivationTime);
         }
     }
+    if (!form.isVisible())
+        PlaceBeside(form, Front());
     form.show();
     form.raise();
     if (form.TakesActivation())

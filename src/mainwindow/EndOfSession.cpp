@@ -1,0 +1,27 @@
+#include "mainwindow/EndOfSession.h"
+
+#include "foundation/BudgetFiles.h"
+#include "foundation/StartAndEnd.h"
+#include "platform/desk/Desk.h"
+#include "platform/windows/WindowRegister.h"
+
+#include <QScopedValueRollback>
+
+void SaveWithoutQuestion()
+{
+    const Form *main = TheWindows.Loaded(QStringLiteral("frmMain"));
+    if (!main || !main->isVisible())
+        return;
+    const QScopedValueRollback quiet(TheDesk.ShowMessage, {[](const Message &message) {
+                                         qWarning("%s: %s", qPrintable(message.Title), qPrintable(message.Text));
+                                         return Answer::No;
+                                     }});
+    SaveEnvironmentSettings();
+}
+
+void LeaveWithoutQuestion()
+{
+    SaveWithoutQuestion();
+    CloseCalculatorOnExit();
+    TheDesk.EndProgram();
+}

@@ -1,0 +1,19 @@
+// Where a window opens: beside the one that it was called from. Rectangles in, a position out.
+#pragma once
+
+#include <QList>
+#include <QRect>
+
+/// What stands on the desktop when a window opens. All in desktop coordinates, windows with their frames.
+struct Surroundings {
+    QList<QRect> Screens = {}; ///< what of each screen programs may cover
+    QRect Caller = {};
+    QRect Field = {};         ///< what the window will fill: covered only where nothing else is left; may be empty
+    QList<QRect> Others = {}; ///< the program's other windows
+    bool OverCaller = false;  ///< a modal window is centred over its caller, which can't be used meanwhile
+};
+
+/// The upper left corner for a window of this size, on the screen that holds most of the caller: right of the caller,
+/// else left of it, below or above, whichever leaves the field, the caller and the other windows free, in this order.
+/// Without room for that, where it covers least; it stays within the screen as far as it fits.
+QPoint Placed(const QSize &window, const Surroundings &around);

@@ -1,0 +1,144 @@
+// Windows that open beside the one that they were called from: what the register asks and the toolkit does.
+#include "GuiDesk.h"
+#include "TestProgram.h"
+
+#include "platform/windows/WindowPlacement.h"
+
+#include <QScreen>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A window of a size with one field.
+class Toy : public Form
+{
+public:
+    explicit Toy(const QSize &size = {200, 150})
+    {
+        auto *field = new QLineEdit(this);
+        field->setObjectName(u"txtField"_s);
+        field->setGeometry(10, 10, 100, 24);
+        resize(size);
+    }
+};
+
+class Onlooker : public Toy
+{
+public:
+    bool TakesActivation() const override { return false; }
+};
+
+QRect PlaceOf(const QString &window)
+{
+    return TheWindows.Loaded(window)->frameGeometry();
+}
+
+/// Right of a window, the tops in line.
+QPoint RightOf(const QString &window)
+{
+    return PlaceOf(window).topRight() + QPoint(1, 0);
+}
+
+QRect Screen()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+} // namespace
+
+class gui_windowplacement : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        TheWindows.Register(u"frmHub"_s, [] { return new Toy({300, 300}); });
+        TheWindows.Register(u"frmOne"_s, [] { return new Toy; });
+        TheWindows.Register(u"frmTwo"_s, [] { return new Toy; });
+        TheWindows.Register(u"frmOnlooker"_s, [] { return new Onlooker; });
+        Show(u"frmHub"_s);
+        TheWindows.Loaded(u"frmHub"_s)->move(100, 100);
+    }
+    void cleanup()
+    {
+        TheWindows.Reset();
+        Settle();
+    }
+
+    void AWindowOpensBesideItsCaller()
+    {
+        QVERIFY(Screen().width() >= 800); // of the offscreen platform
+        Show(u"frmOne"_s);
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), RightOf(u"frmHub"_s));
+        Show(u"frmTwo"_s); // called from the one
+        QCOMPARE(PlaceOf(u"frmTwo"_s).topLeft(), RightOf(u"frmOne"_s));
+    }
+
+    void OneThatIsMovedStaysWhileItIsVisible()
+    {
+        Show(u"frmOne"_s);
+        TheWindows.Loaded(u"frmOne"_s)->move(20, 500);
+        Show(u"frmHub"_s);
+        Show(u"frmOne"_s);
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), QPoint(20, 500));
+        // Nothing is remembered: neither of one that is hidden nor of one that has ended.
+        TheWindows.Hide(u"frmOne"_s);
+        Show(u"frmOne"_s);
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), RightOf(u"frmHub"_s));
+        TheWindows.Loaded(u"frmOne"_s)->move(20, 500);
+        TheWindows.Unload(u"frmOne"_s);
+        Show(u"frmOne"_s);
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), RightOf(u"frmHub"_s));
+    }
+
+    void TheFieldWithTheFocusIsNotCovered()
+    {
+        // The hub fills the screen; its field stands where a window without room would open.
+        Form &hub = *TheWindows.Loaded(u"frmHub"_s);
+        hub.setGeometry(Screen());
+        auto &field = Find<QLineEdit>(u"frmHub"_s, u"txtField"_s);
+        Show(u"frmOne"_s);
+        const QRect place = PlaceOf(u"frmOne"_s);
+        QVERIFY(Screen().contains(place));
+        TheWindows.Unload(u"frmOne"_s);
+        field.move(place.center() - Screen().topLeft());
+        hub.FocusOn(&field);
+        Show(u"frmOne"_s);
+        QVERIFY(PlaceOf(u"frmOne"_s) != place);
+        QVERIFY(!PlaceOf(u"frmOne"_s).intersects(QRect(field.mapToGlobal(QPoint()), field.size())));
+    }
+
+    void AModalWindowStandsOverItsCaller()
+    {
+        QRect place;
+        QTimer::singleShot(0, qApp, [&] {
+            place = PlaceOf(u"frmOne"_s);
+            TheWindows.Unload(u"frmOne"_s);
+        });
+        Find(u"frmHub"_s, u"txtField"_s).setEnabled(false); // nothing there to be filled
+        TheWindows.ShowModal(u"frmOne"_s);
+        QVERIFY((place.center() - PlaceOf(u"frmHub"_s).center()).manhattanLength() <= 2);
+    }
+
+    void WhatIsOnlyLookedAtKeepsItsOwnPlace()
+    {
+        TheWindows.Touch(u"frmOnlooker"_s).move(7, 9);
+        Show(u"frmOnlooker"_s);
+        QCOMPARE(PlaceOf(u"frmOnlooker"_s).topLeft(), QPoint(7, 9));
+    }
+
+    void TheMainWindowStandsWhereTheWindowSystemPutsIt()
+    {
+        GuiDesk desk;
+        State.CurrentPayPeriodConfirmed = true;
+        TheWindows.Touch(u"frmMain"_s).move(3, 4);
+        Show(u"frmMain"_s); // from the hub
+        QCOMPARE(PlaceOf(u"frmMain"_s).topLeft(), QPoint(3, 4));
+    }
+};
+
+REGISTER_TEST(gui_windowplacement)
+#include "gui_windowplacement.moc"
