@@ -183,6 +183,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         ClickRow(Window, List, 0);
         QVERIFY(IsEnabled(Window, u"cmdDeleteExtraItem"_s));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void ANewItemGoesToTheEndOfThePayPeriod()
@@ -268,6 +269,7 @@ private Q_SLOTS:
         ClickRow(Window, List, 1); // the box shows it when the item is selected again
         QVERIFY(IsCredit());
         QCOMPARE(TextOf(Window, Amount), u"($7.00)"_s);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void ABoxThatStandsFromARowBeforeDoesNotMakeTheNextItemACredit()
@@ -280,6 +282,7 @@ private Q_SLOTS:
         Enter(u"7"_s, u"Cake"_s);
         Click(Window, Commit);
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(3).ExtraItemAmount, Dollars(7));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void AnEntryIsRefused_data()
@@ -553,7 +556,8 @@ private Q_SLOTS:
         QTest::keyClick(&Find(Window, List), Qt::Key_F1);
         ClickRow(Window, List, 0);
         QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
-        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 24}, {QString(), 24}}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 24}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 24}));
     }
 
     void AFileThatCannotBeWrittenIsToldAndReadBack()

@@ -240,6 +240,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(State.NumberOfProjects, qint16(1));
         QCOMPARE(State.ProjectAmounts(1), Dollars(150));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"projects.txt"_s});
     }
 
     void TooLittleIsToldAndALaterRowSucceeds()
@@ -257,6 +258,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(RowsOf(Window, List), QStringList{u"Piano"_s});
         QCOMPARE(State.ProjectEntryCounts(1), qint16(3));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"projects.txt"_s});
     }
 
     void AKeyInTheDateOpensTheForecastAndTypesNothing_data()
@@ -509,12 +511,12 @@ private Q_SLOTS:
         desk.Answers = {answer};
         DoubleClickRow(Window, List, 1);
         QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Lamp"_s));
-        QCOMPARE(desk.Beeps, 1);
+        QVERIFY(desk.TakeBeep());
         QCOMPARE(State.PrintProjectView, prints);
         QCOMPARE(Texts(Window, Fields), u"Lamp | $25.00 | January 15, 2004"_s); // the click comes first
         QCOMPARE(ActiveWindow(), u"frmViewProject"_s);
         QCOMPARE(TheWindows.Active()->windowTitle(), u"Lamp"_s);
-        QCOMPARE(desk.Printed.size(), prints ? 1 : 0);
+        QCOMPARE(desk.TakePrinted().Lines.isEmpty(), !prints);
     }
 
     void TheKeyboardReachesTheProjectsView()
@@ -528,6 +530,7 @@ private Q_SLOTS:
         QTest::keyClick(&list, Qt::Key_Return, Qt::ControlModifier);
         Settle();
         QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Lamp"_s));
+        QVERIFY(desk.TakeBeep());
         QCOMPARE(ActiveWindow(), u"frmViewProject"_s);
     }
 
@@ -561,7 +564,8 @@ private Q_SLOTS:
         QTest::keyClick(&Find(Window, List), Qt::Key_F1);
         ClickRow(Window, List, 0);
         QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_F1); // and the same in a field
-        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{QString(), 25}, {QString(), 25}}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 25}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 25}));
     }
 
     void AFileThatCannotBeWrittenIsToldAndReadBack()
