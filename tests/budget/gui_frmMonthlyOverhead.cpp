@@ -166,21 +166,21 @@ private Q_SLOTS:
         Show(Window);
         Click(Window, u"cmdPrint"_s);
         QCOMPARE(desk.Printed.size(), 1);
-        QCOMPARE(desk.Printed[0].Lines,
-                 (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
-                              {},
-                              u"                                   OVERHEAD"_s,
-                              {},
-                              u"              Monthly Net Income                       $3,033.33"_s,
-                              u"              __________________________________________________"_s,
-                              {},
-                              u"              Rent - 1st                                 $500.00"_s,
-                              u"              Food                                       $260.00"_s,
-                              u"              __________________________________________________"_s,
-                              {},
-                              u"              Total Overhead                             $760.00"_s,
-                              {},
-                              u"              Remaining Funds                          $2,273.33"_s}));
+        const PrintJob page = desk.TakePrinted();
+        QCOMPARE(page.Lines, (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
+                                          {},
+                                          u"                                   OVERHEAD"_s,
+                                          {},
+                                          u"              Monthly Net Income                       $3,033.33"_s,
+                                          u"              __________________________________________________"_s,
+                                          {},
+                                          u"              Rent - 1st                                 $500.00"_s,
+                                          u"              Food                                       $260.00"_s,
+                                          u"              __________________________________________________"_s,
+                                          {},
+                                          u"              Total Overhead                             $760.00"_s,
+                                          {},
+                                          u"              Remaining Funds                          $2,273.33"_s}));
         QCOMPARE(Rows(), SoundMonth); // the window stays as it is
     }
 
@@ -263,7 +263,7 @@ private Q_SLOTS:
         State.PayFrequency = Weekly;
         Click(u"frmMain"_s, u"Toolbar1Button5"_s);
         QCOMPARE(desk.TakeMessage(), (Message{u"Run-time error '6':\n\nOverflow"_s, AppTitle, Icon::Stop}));
-        QVERIFY(desk.Ended);
+        QVERIFY(desk.TakeEnd());
     }
 
     void TheTutorRestsWhileTheWindowIsLoaded()
@@ -291,7 +291,7 @@ private Q_SLOTS:
         QTest::keyClick(&Find(Window, u"cmdPrint"_s), Qt::Key_Tab);
         QCOMPARE(FocusOf(Window), u"cmdQuit"_s);
         QTest::keyClick(TheWindows.Loaded(Window), Qt::Key_P, Qt::AltModifier);
-        QCOMPARE(desk.Printed.size(), 1);
+        QVERIFY(!desk.TakePrinted().Lines.isEmpty());
         QTest::keyClick(TheWindows.Loaded(Window), Qt::Key_Q, Qt::AltModifier);
         QVERIFY(!TheWindows.Loaded(Window));
     }

@@ -171,6 +171,7 @@ private Q_SLOTS:
         Settle();
         QCOMPARE(Scan.ScanPickedDate, Format(marked, DateFormat::Dashes));
         QVERIFY(!State.ScanCalledFromExtras);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void WhileItWaitsForAPickItsTipTellsWhatAClickDoes()
@@ -226,6 +227,7 @@ private Q_SLOTS:
         QCOMPARE(RowsOf(u"frmExtras"_s, u"lstExtraItems"_s), QStringList{u"January 15, 2004"_s});
         QVERIFY(TheWindows.Loaded(u"frmExtras"_s));
         QVERIFY(!IsShown(u"frmExtras"_s));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void ADamagedDateIsAnUnknownErrorAndChangesNothing()

@@ -140,7 +140,7 @@ private Q_SLOTS:
         QVERIFY(!State.PrintSavingsForecast);
         QVERIFY(!State.LookingAhead);
         QVERIFY(desk.Printed.isEmpty());
-        QCOMPARE(desk.HourglassCalls, QList<bool>{false}); // the long part is done
+        QCOMPARE(desk.TakeHourglass(), QList<bool>{false}); // the long part is done
     }
 
     void AnOpenDocumentEndsWithTheForecast()
@@ -149,7 +149,8 @@ private Q_SLOTS:
         ThePrinter.Print(u"from elsewhere"_s).NewLine();
         ForecastSavings();
         QCOMPARE(desk.Printed.size(), 1);
-        QCOMPARE(desk.Printed[0].Lines, QStringList{u"from elsewhere"_s});
+        const PrintJob page = desk.TakePrinted();
+        QCOMPARE(page.Lines, QStringList{u"from elsewhere"_s});
     }
 
     void ThePage()
@@ -160,9 +161,10 @@ private Q_SLOTS:
         ForecastSavings();
         QVERIFY(!State.PrintSavingsForecast);
         QCOMPARE(desk.Printed.size(), 1);
-        QCOMPARE(desk.Printed[0].Font.Name, u"Courier"_s);
-        QCOMPARE(desk.Printed[0].Name, u"Savings Forecast"_s);
-        QCOMPARE(desk.Printed[0].Lines,
+        const PrintJob page = desk.TakePrinted();
+        QCOMPARE(page.Font.Name, u"Courier"_s);
+        QCOMPARE(page.Name, u"Savings Forecast"_s);
+        QCOMPARE(page.Lines,
                  (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
                               {},
                               u"                               SAVINGS FORECAST"_s,

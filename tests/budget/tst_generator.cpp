@@ -810,8 +810,9 @@ private Q_SLOTS:
         State.PrintFontSize = 11;
         household.Run();
         ThePrinter.EndDoc();
-        QCOMPARE(household.Printed.value(0).Font.Name, QStringLiteral("Serif"));
-        QCOMPARE(household.Printed.value(0).Font.Size, 11.0F);
+        const PrintFont font = household.TakePrinted().Font;
+        QCOMPARE(font.Name, QStringLiteral("Serif"));
+        QCOMPARE(font.Size, 11.0F);
     }
 
     void WithoutTheSwitchNothingIsPrinted()

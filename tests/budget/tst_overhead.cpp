@@ -167,23 +167,23 @@ private Q_SLOTS:
         TakeRegulars({{u"Food"_s, Dollars(60)}});
         PrintOverhead();
         QCOMPARE(desk.Printed.size(), 1);
-        QCOMPARE(desk.Printed[0].Font.Name, u"Courier"_s);
-        QCOMPARE(desk.Printed[0].Name, u"Overhead"_s);
-        QCOMPARE(desk.Printed[0].Lines,
-                 (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
-                              {},
-                              u"                                   OVERHEAD"_s,
-                              {},
-                              u"              Monthly Net Income                       $3,033.33"_s,
-                              u"              __________________________________________________"_s,
-                              {},
-                              u"              Rent - 1st                                 $500.00"_s,
-                              u"              Food                                       $260.00"_s,
-                              u"              __________________________________________________"_s,
-                              {},
-                              u"              Total Overhead                             $760.00"_s,
-                              {},
-                              u"              Remaining Funds                          $2,273.33"_s}));
+        const PrintJob page = desk.TakePrinted();
+        QCOMPARE(page.Font.Name, u"Courier"_s);
+        QCOMPARE(page.Name, u"Overhead"_s);
+        QCOMPARE(page.Lines, (QStringList{u"                         The Corvelle's Tallymere 1.0"_s,
+                                          {},
+                                          u"                                   OVERHEAD"_s,
+                                          {},
+                                          u"              Monthly Net Income                       $3,033.33"_s,
+                                          u"              __________________________________________________"_s,
+                                          {},
+                                          u"              Rent - 1st                                 $500.00"_s,
+                                          u"              Food                                       $260.00"_s,
+                                          u"              __________________________________________________"_s,
+                                          {},
+                                          u"              Total Overhead                             $760.00"_s,
+                                          {},
+                                          u"              Remaining Funds                          $2,273.33"_s}));
     }
 
     void ThePageOfADeficit()
@@ -193,7 +193,7 @@ private Q_SLOTS:
         State.PayFrequency = Monthly;
         TakeCreditors({{u"Rent"_s, 1, Dollars(501)}});
         PrintOverhead();
-        QCOMPARE(desk.Printed.value(0).Lines.mid(7),
+        QCOMPARE(desk.TakePrinted().Lines.mid(7),
                  (QStringList{u"              Rent - 1st                                 $501.00"_s,
                               u"              __________________________________________________"_s,
                               {},

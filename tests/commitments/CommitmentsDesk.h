@@ -1,5 +1,4 @@
-// What the tests of the commitments' windows share: a desk that puts back the state of these windows, too, and the
-// controls of a window told in one look.
+// What the tests of the commitments' windows share: the controls of a window told in one look.
 #pragma once
 
 #include "GuiDesk.h"
@@ -11,21 +10,7 @@
 
 #include <QGroupBox>
 
-class CommitmentsDesk : public GuiDesk
-{
-public:
-    CommitmentsDesk() { PutBack(); }
-    ~CommitmentsDesk() override { PutBack(); }
-
-private:
-    static void PutBack()
-    {
-        Extras = {};
-        Projects = {};
-        Forecast = {};
-        Scan = {};
-    }
-};
+using CommitmentsDesk = GuiDesk;
 
 inline Currency Dollars(double amount)
 {

@@ -80,6 +80,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(TextOf(Window, Fields[0]), u"2"_s); // ties go to even
         QCOMPARE(State.Creditors(1).CreditorDueDate, qint16(2));
+        QCOMPARE(File(desk), QByteArray("1\r\n2\r\n\"Half\"\r\n10\r\n"));
     }
 
     void AChangedCreditorMovesToItsDay()

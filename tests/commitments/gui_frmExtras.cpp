@@ -181,6 +181,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         ClickRow(Window, List, 0);
         QVERIFY(IsEnabled(Window, u"cmdDeleteExtraItem"_s));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void ANewItemGoesToTheEndOfThePayPeriod()
@@ -254,6 +255,7 @@ private Q_SLOTS:
         ClickRow(Window, List, 1); // the box shows it when the item is selected again
         QVERIFY(IsCredit());
         QCOMPARE(TextOf(Window, Amount), u"($7.00)"_s);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void ABoxThatStandsFromARowBeforeDoesNotMakeTheNextItemACredit()
@@ -266,6 +268,7 @@ private Q_SLOTS:
         Enter(u"7"_s, u"Cake"_s);
         Click(Window, Commit);
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(3).ExtraItemAmount, Dollars(7));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void The201stItemIsAnUnknownErrorAndIsNotSaved()

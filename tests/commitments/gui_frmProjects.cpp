@@ -204,6 +204,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(State.NumberOfProjects, qint16(1));
         QCOMPARE(State.ProjectAmounts(1), Dollars(150));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"projects.txt"_s});
     }
 
     void TooLittleIsToldAndALaterRowSucceeds()
@@ -221,6 +222,7 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(RowsOf(Window, List), QStringList{u"Piano"_s});
         QCOMPARE(State.ProjectEntryCounts(1), qint16(3));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"projects.txt"_s});
     }
 
     void AKeyInTheDateOpensTheForecastAndTypesNothing_data()
@@ -443,12 +445,12 @@ private Q_SLOTS:
         desk.Answers = {answer};
         DoubleClickRow(Window, List, 1);
         QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Lamp"_s));
-        QCOMPARE(desk.Beeps, 1);
+        QVERIFY(desk.TakeBeep());
         QCOMPARE(State.PrintProjectView, prints);
         QCOMPARE(Texts(Window, Fields), u"Lamp | $25.00 | January 15, 2004"_s); // the click comes first
         QCOMPARE(ActiveWindow(), u"frmViewProject"_s);
         QCOMPARE(TheWindows.Active()->windowTitle(), u"Lamp"_s);
-        QCOMPARE(desk.Printed.size(), prints ? 1 : 0);
+        QCOMPARE(desk.TakePrinted().Lines.isEmpty(), !prints);
     }
 
     void TheKeyboardReachesTheProjectsView()
@@ -462,6 +464,7 @@ private Q_SLOTS:
         QTest::keyClick(&list, Qt::Key_Return, Qt::ControlModifier);
         Settle();
         QCOMPARE(desk.TakeMessage(), PrintQuestion(u"Lamp"_s));
+        QVERIFY(desk.TakeBeep());
         QCOMPARE(ActiveWindow(), u"frmViewProject"_s);
     }
 

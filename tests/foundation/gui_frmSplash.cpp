@@ -108,6 +108,7 @@ private Q_SLOTS:
         }
         QVERIFY(IsShown(u"frmMain"_s));
         QVERIFY(!TheWindows.Loaded(u"frmTip"_s));
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
     }
 
     void TheHourglassCoversTheLoading()
@@ -119,7 +120,7 @@ private Q_SLOTS:
         Show(Window);
         Click(Window, u"cmdContinue"_s);
         QVERIFY(loading); // while the files are read the splash stands there under the hourglass
-        QCOMPARE(desk.HourglassCalls, (QList<bool>{true, false}));
+        QCOMPARE(desk.TakeHourglass(), (QList<bool>{true, false}));
         QVERIFY(!TheWindows.Loaded(Window));
         QCOMPARE(ActiveWindow(), u"frmMain"_s);
     }
@@ -132,7 +133,7 @@ private Q_SLOTS:
         CloseByFrame(Window);
         QTRY_VERIFY(desk.Ended);
         QVERIFY(desk.ReadFile(u"environm.ini"_s).isNull());
-        QCOMPARE(desk.CalculatorCalls, QStringList());
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList());
     }
 };
 

@@ -298,8 +298,10 @@ private Q_SLOTS:
         State.CurrentStoreFile = QStringLiteral("untitled.lst");
         State.AverageNetPercentage = 0.8437F;
         SaveEnvironmentSettings();
+        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("environm.ini")});
         State = SharedState();
         InitializeVariables();
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
         QCOMPARE(State.ForecastPeriods, qint16(1000));
         QCOMPARE(State.PaycheckAmount, Count(12345678));
         QCOMPARE(State.PayFrequency, qint16(15));
@@ -424,6 +426,7 @@ private Q_SLOTS:
                        "26\n" + fraction + "\n14\n1\n15\n0\n" + fraction + "\n\"untitled.lst\"\n.9\n");
         desk.WriteFile(QStringLiteral("regulars.txt"), "1\n\"Stamp\"\n" + fraction + "\n");
         InitializeVariables();
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
         QCOMPARE(State.PaycheckAmount, Count(600));
         QVERIFY(State.SalesTax == 0.06F);
         QVERIFY(State.AverageNetPercentage == 0.9F);
@@ -483,6 +486,7 @@ private Q_SLOTS:
         for (const DataList &list : Lists) {
             desk.WriteFile(QLatin1String(list.File), "0\r\n");
             list.Save();
+            QCOMPARE(desk.TakeFiles(), QStringList{QLatin1String(list.File)});
             list.Load();
         }
         QCOMPARE(State.Creditors(1).CreditorName, name);
@@ -856,6 +860,7 @@ private Q_SLOTS:
         for (int item = 1; item <= 200; ++item)
             State.ExtraPayPeriods(1).ExtraItems.At(item) = {QString::number(item), Count(item)};
         SavePayPeriods();
+        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("extra.txt")});
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(200));
         for (int item = 1; item <= 200; ++item)
@@ -875,6 +880,7 @@ private Q_SLOTS:
             State.ProjectEntryAmounts(1).At(entry) = Count(entry);
         }
         SaveProjects();
+        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("projects.txt")});
         InputProjects();
         QCOMPARE(State.ProjectEntryCounts(1), qint16(100));
         QCOMPARE(State.ProjectEntryDates(1)(100).Text(), QStringLiteral("1/1/2100"));
@@ -1056,6 +1062,7 @@ private Q_SLOTS:
         // No second file beside the old one: a later load would not know which of the two to take.
         QCOMPARE(QDir(desk.Folder()).entryList(QDir::Files), QStringList(QLatin1String(list.File)));
         QCOMPARE(desk.ReadFile(QLatin1String(list.File)), QByteArray("0\r\n"));
+        QCOMPARE(desk.TakeFiles(), QStringList{upper}); // gone
     }
 
     void StoreListsWhoseNamesDifferInCaseAloneAreTwo_data()
@@ -1095,7 +1102,9 @@ private Q_SLOTS:
             QVERIFY(renamed.rename(name, name.toUpper()));
         QVERIFY(QFile::rename(desk.Path(QStringLiteral("STORES/untitled.lst")),
                               desk.Path(QStringLiteral("STORES/UNTITLED.LST"))));
+        desk.TakeFiles(); // their names are changed
         InitializeVariables();
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
         QVERIFY(!State.InitializingVariables);
         QVERIFY(!State.MathCalculatorMissing);
         QCOMPARE(State.ForecastPeriods, qint16(26));
@@ -1125,6 +1134,7 @@ private Q_SLOTS:
         for (auto file = files.begin(); file != files.end(); ++file)
             desk.WriteFile(file.key(), file.value());
         InitializeVariables();
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
         QCOMPARE(State.Creditors(1).CreditorAmount, Count(12345678));
         QCOMPARE(State.Regulars(1).RegularAmount, Count(-5000));
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItemAmount, Count(125000));

@@ -123,6 +123,7 @@ private Q_SLOTS:
         State.CurrentShoppingList = {MilkOnTheList};
         State.CurrentShoppingList(1).Quantity = quantity;
         SaveCurrentShoppingList();
+        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("stores/untitled.lst")});
         InputCurrentShoppingList();
         QVERIFY(State.CurrentShoppingList(1).Quantity == quantity);
     }
@@ -431,6 +432,8 @@ private Q_SLOTS:
         SaveCurrentShoppingList();
         const QDir stores(desk.Path(QStringLiteral("STORES")));
         QCOMPARE(stores.entryList(QDir::Files).size(), 1);
+        QCOMPARE(desk.TakeFiles(),
+                 (QStringList{QStringLiteral("STORES/UNTITLED.LST"), QStringLiteral("STORES/untitled.lst")}));
         QCOMPARE(QDir(desk.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
                  QStringList(QStringLiteral("STORES")));
     }

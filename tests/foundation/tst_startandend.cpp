@@ -21,7 +21,7 @@ Message Told(const char *text, const QString &title = Title)
 }
 
 /// The start was given up at the settings: nothing behind them was done.
-void ExpectAnAbandonedStart(const FakeDesk &desk)
+void ExpectAnAbandonedStart(FakeDesk &desk)
 {
     QVERIFY(State.InitializingVariables);
     QCOMPARE(State.CurrentPayPeriod, QString());
@@ -30,7 +30,14 @@ void ExpectAnAbandonedStart(const FakeDesk &desk)
     QCOMPARE(State.PrintFontSize, 0.0F);
     QCOMPARE(State.TutorInstructions(1), QString());
     QCOMPARE(State.NumberOfCreditors, qint16(0));
-    QCOMPARE(desk.CalculatorCalls, QStringList());
+    QCOMPARE(desk.TakeCalculatorCalls(), QStringList());
+}
+
+/// A start that gets as far as the calculator.
+void Start(FakeDesk &desk)
+{
+    InitializeVariables();
+    QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
 }
 
 } // namespace
@@ -47,7 +54,7 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.LayHousehold();
         State.ApplicationPath = State.StoresDirectory = State.HelpFile = QStringLiteral("elsewhere");
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.ApplicationPath, desk.Folder());
         QCOMPARE(State.StoresDirectory, desk.Folder() + QStringLiteral("\\stores\\"));
         QCOMPARE(State.HelpFile, desk.Folder() + QStringLiteral("\\help\\budget help.hlp"));
@@ -59,7 +66,7 @@ private Q_SLOTS:
         desk.LayHousehold();
         desk.WriteFile(QStringLiteral("stores\\Saturday.lst"), "0\r\n");
         desk.WriteFile(Settings, "52\r\n1061.5385\r\n30\r\n3\r\n18\r\n-1\r\n0.0725\r\n\"Saturday.lst\"\r\n0.8437\r\n");
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.ForecastPeriods, qint16(52));
         QCOMPARE(State.PaycheckAmount, Currency::FromTenThousandths(10615385));
         QCOMPARE(State.PayFrequency, qint16(30));
@@ -76,7 +83,7 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.LayHousehold();
         desk.WriteFile(Settings, "0\r\nnone\r\n99\r\n-5\r\n77\r\n4\r\nx\r\n\"untitled.lst\"\r\n2\r\n");
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.ForecastPeriods, qint16(0));
         QCOMPARE(State.PaycheckAmount, Currency()); // read directly: what is no number is 0, without a message
         QCOMPARE(State.PayFrequency, qint16(99));
@@ -94,7 +101,7 @@ private Q_SLOTS:
         desk.LayHousehold();
         desk.Now = QDateTime(QDate(2004, 2, 9), QTime(23, 59));
         State.CurrentPayPeriod = QStringLiteral("1/1/1999"); // what the user had set in the last run
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.CurrentPayPeriod, QStringLiteral("02-09-2004"));
         QVERIFY(!State.CurrentPayPeriodConfirmed);
     }
@@ -103,7 +110,7 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         desk.LayHousehold();
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.MonthDays, (std::array<qint16, 12>{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31}));
     }
 
@@ -115,7 +122,7 @@ private Q_SLOTS:
         State.PrintFontSize = 12;
         State.PrintFontBold = State.PrintFontItalic = State.PrintFontUnderline = State.PrintFontStrikethru = true;
         State.PrintFontColor = 0xFF;
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.PrintFontName, QStringLiteral("Courier"));
         QCOMPARE(State.PrintFontSize, 8.0F);
         QVERIFY(!State.PrintFontBold);
@@ -153,7 +160,7 @@ private Q_SLOTS:
         desk.WriteFile(QStringLiteral("mastshop.txt"), "1\r\n\"Milk\"\r\n\"\"\r\n2\r\n\"\"\r\n#TRUE#\r\n");
         desk.WriteFile(QStringLiteral("stores\\untitled.lst"),
                        "1\r\n\"Eggs\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(State.Creditors(1).CreditorName, QStringLiteral("Rent"));
         QCOMPARE(State.Regulars(1).RegularItem, QStringLiteral("Food"));
         QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), QStringLiteral("01-15-2004"));
@@ -175,8 +182,7 @@ private Q_SLOTS:
             initializing = State.InitializingVariables;
             items = State.NumberOfCurrentItems;
         };
-        InitializeVariables();
-        QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
+        Start(desk);
         QVERIFY(initializing);      // the flag falls only behind it
         QCOMPARE(items, qint16(1)); // and the last list is there before it
         QVERIFY(!State.InitializingVariables);
@@ -192,7 +198,7 @@ private Q_SLOTS:
         for (const char *name :
              {"creditor.txt", "regulars.txt", "extra.txt", "projects.txt", "mastshop.txt", "stores\\untitled.lst"})
             desk.RemoveFile(QLatin1String(name));
-        InitializeVariables();
+        Start(desk);
         for (const char *title : {"Input Creditors", "Input Regulars", "Input Pay Periods", "Input Projects",
                                   "Input Master Shopping List", "Input Current Shopping List"}) {
             QCOMPARE(desk.TakeMessage(), Told("Error 53: File not found", QString::fromLatin1(title)));
@@ -201,7 +207,6 @@ private Q_SLOTS:
         // None of it is the start's matter: the calculator's entry stays and the start goes on.
         QVERIFY(!State.MathCalculatorMissing);
         QVERIFY(!State.InitializingVariables);
-        QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
     }
 
     // ------------------------------------------------------------ the settings file
@@ -276,7 +281,7 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.LayHousehold();
         desk.StartCalculatorError = 53;
-        InitializeVariables();
+        Start(desk);
         QVERIFY(State.MathCalculatorMissing);
         QVERIFY(!State.InitializingVariables);
     }
@@ -295,7 +300,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         desk.LayHousehold();
         desk.StartCalculatorError = error;
-        InitializeVariables();
+        Start(desk);
         QCOMPARE(desk.TakeMessage(), (Message{text, Title, Icon::Stop, Buttons::Ok, 0}));
         QVERIFY(!State.MathCalculatorMissing);
         QVERIFY(State.InitializingVariables); // the routine was left before its last step
@@ -310,25 +315,24 @@ private Q_SLOTS:
         desk.LayHousehold();
         desk.RemoveFile(Tutor);
         desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
-        InitializeVariables();
+        Start(desk);
         QVERIFY(State.MathCalculatorMissing); // meant for the calculator, but the handler is one for all
         QVERIFY(!State.InitializingVariables);
         QCOMPARE(State.NumberOfCreditors, qint16(1));
-        QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
     }
 
     void AMissingHelpFolderIsAsAMissingTutorFile()
     {
         FakeDesk desk;
         desk.LayHousehold();
-        QVERIFY(QDir(desk.Path(QStringLiteral("help"))).removeRecursively());
+        desk.RemoveFile(Tutor);
+        QVERIFY(QDir(desk.Folder()).rmdir(QStringLiteral("help")));
         desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
-        InitializeVariables();
+        Start(desk);
         QVERIFY(State.MathCalculatorMissing);
         QVERIFY(!State.InitializingVariables);
         QCOMPARE(State.NumberOfCreditors, qint16(1));
         QCOMPARE(State.TutorInstructions(1), QString());
-        QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("start")));
     }
 
     void EachPageEndsWithTheFooter()
@@ -363,7 +367,7 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         desk.LayHousehold();
-        InitializeVariables();
+        Start(desk);
         for (int page = 1; page <= 26; ++page)
             QCOMPARE(State.TutorInstructions(page), QStringLiteral("\nPage %1").arg(page) + Footer);
     }
@@ -402,7 +406,7 @@ private Q_SLOTS:
         QVERIFY(!State.MathCalculatorMissing);
         QCOMPARE(State.PrintFontName, QStringLiteral("Courier")); // what came before it stands
         QCOMPARE(State.NumberOfCreditors, qint16(0));             // what comes behind it was not done
-        QCOMPARE(desk.CalculatorCalls, QStringList());
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList());
     }
 
     void TwentySevenMarksAreLawful()
@@ -422,7 +426,7 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         desk.LayHousehold();
-        InitializeVariables();
+        Start(desk);
         State.ForecastPeriods = 13;
         QByteArray settingsAtClosing;
         bool endedAtClosing = false;
@@ -435,19 +439,21 @@ private Q_SLOTS:
         QCOMPARE(settingsAtClosing,
                  QByteArray("13\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n"));
         QVERIFY(!endedAtClosing);
-        QCOMPARE(desk.CalculatorCalls, QStringList({QStringLiteral("start"), QStringLiteral("close")}));
-        QVERIFY(desk.Ended);
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("close")});
+        QVERIFY(desk.TakeEnd());
     }
 
     void LeavingSavesNothingElse()
     {
         FakeDesk desk;
         desk.LayHousehold();
-        InitializeVariables();
+        Start(desk);
         State.NumberOfCreditors = 1;
         State.Creditors = {{QStringLiteral("Rent"), 1, Currency()}};
         LeaveProgram();
-        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")), QByteArray("0\r\n"));
+        QCOMPARE(desk.TakeFiles(), QStringList{Settings});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("close")});
+        QVERIFY(desk.TakeEnd());
     }
 
     void LeavingEndsAlsoWhenTheSettingsCannotBeSaved()
@@ -455,8 +461,8 @@ private Q_SLOTS:
         FakeDesk desk;
         LeaveProgram();
         QCOMPARE(desk.TakeMessage(), Told("Error 53: File not found", QStringLiteral("Save Environment Settings")));
-        QCOMPARE(desk.CalculatorCalls, QStringList(QStringLiteral("close")));
-        QVERIFY(desk.Ended);
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("close")});
+        QVERIFY(desk.TakeEnd());
     }
 
     void ErrorsOfTheClosingCalculatorDoNotMatter()
@@ -465,7 +471,8 @@ private Q_SLOTS:
         desk.LayHousehold();
         TheDesk.CloseCalculator = [] { RaiseError(RuntimeError::InvalidProcedureCall); };
         LeaveProgram();
-        QVERIFY(desk.Ended);
+        QVERIFY(desk.TakeEnd());
+        QCOMPARE(desk.TakeFiles(), QStringList{Settings});
     }
 };
 

@@ -692,7 +692,8 @@ private Q_SLOTS:
         Type(Window, Paycheck, u"2000"_s);
         Click(Window, u"optPayFrequency0"_s);
         CloseByFrame(u"frmMain"_s);
-        QVERIFY(desk.Ended);
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"close"_s});
+        QVERIFY(desk.TakeEnd());
         QCOMPARE(desk.ReadFile(u"environm.ini"_s),
                  QByteArray("26\r\n1000\r\n7\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n"));
     }

@@ -339,7 +339,8 @@ private Q_SLOTS:
             TheWindows.Unload(Text(row.Window));
             Settle();
         }
-        desk.Messages.clear();
+        QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
+        QVERIFY(desk.TakeBeep());
     }
 
     void EveryShortcutActsFromTheList()
@@ -362,8 +363,9 @@ private Q_SLOTS:
         }
         QCOMPARE(pressed, 11);
         QTest::keyClick(&Find(Window, u"lstBudgetState"_s), Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(desk.CalculatorCalls, (QStringList{u"start"_s, u"forward"_s}));
-        desk.Messages.clear();
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"forward"_s});
+        QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
+        QVERIFY(desk.TakeBeep());
     }
 
     void EveryToolbarButtonActsAsItsEntry()
@@ -395,6 +397,7 @@ private Q_SLOTS:
         QCOMPARE(index, 16);
         QCOMPARE(answerer.Asked, 1); // button 14
         QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
+        QVERIFY(desk.TakeBeep());
     }
 
     void TheToolbarStandsInFourRowsOfFour()
@@ -695,6 +698,7 @@ private Q_SLOTS:
         QVERIFY(stood);
         QVERIFY(went);
         QVERIFY(!IsShown(Question));
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
     }
 
     // Options
@@ -712,7 +716,7 @@ private Q_SLOTS:
         // What nobody has marked yet is marked by choosing it.
         Choose(u"mnuTallymereTutor"_s);
         QCOMPARE(desk.TakeMessage().Text, Text(OptionRows[1].TurnedOn));
-        QCOMPARE(desk.Options.value(u"show tallymere tutor"_s), u"1"_s);
+        QCOMPARE(desk.TakeOption(u"show tallymere tutor"_s), u"1"_s);
         QVERIFY(TheTutorTimer().isActive());
     }
 
@@ -760,6 +764,7 @@ private Q_SLOTS:
         desk.StartProgram();
         QVERIFY(Entry(u"mnuWelcomeScreen"_s).isChecked());
         TheDesk.SaveSetting(u"Show Welcome at Startup"_s, u"0"_s); // as the welcome window spells it
+        QCOMPARE(desk.TakeOption(u"show welcome at startup"_s), u"0"_s);
         LeaveAndReturn();
         QVERIFY(!Entry(u"mnuWelcomeScreen"_s).isChecked());
     }
@@ -773,11 +778,11 @@ private Q_SLOTS:
             QVERIFY(Entry(Text(row.Entry)).isChecked());
             Choose(Text(row.Entry));
             QCOMPARE(desk.TakeMessage(), (Message{Text(row.TurnedOff), Text(row.Title), Icon::Information}));
-            QCOMPARE(desk.Options.value(Text(row.Key)), u"0"_s);
+            QCOMPARE(desk.TakeOption(Text(row.Key)), u"0"_s);
             QVERIFY(!Entry(Text(row.Entry)).isChecked());
             Choose(Text(row.Entry));
             QCOMPARE(desk.TakeMessage(), (Message{Text(row.TurnedOn), Text(row.Title), Icon::Information}));
-            QCOMPARE(desk.Options.value(Text(row.Key)), u"1"_s);
+            QCOMPARE(desk.TakeOption(Text(row.Key)), u"1"_s);
             QVERIFY(Entry(Text(row.Entry)).isChecked());
         }
     }
@@ -792,7 +797,7 @@ private Q_SLOTS:
         QVERIFY(Entry(u"mnuTipOfTheDay"_s).isChecked());
         Choose(u"mnuTipOfTheDay"_s);
         QCOMPARE(desk.TakeMessage().Text, Text(OptionRows[0].TurnedOff));
-        QCOMPARE(desk.Options.value(u"show tips at startup"_s), u"0"_s);
+        QCOMPARE(desk.TakeOption(u"show tips at startup"_s), u"0"_s);
     }
 
     void TheTutorButtonActsAsItsEntry()
@@ -808,6 +813,7 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(u"frmTallymereTutor"_s));
         Click(Window, u"cmdTutor"_s);
         QCOMPARE(desk.TakeMessage().Text, Text(OptionRows[1].TurnedOn));
+        QCOMPARE(desk.TakeOption(u"show tallymere tutor"_s), u"1"_s);
         QVERIFY(TheTutorTimer().isActive());
         QVERIFY(Entry(u"mnuTallymereTutor"_s).isChecked());
         QVERIFY(!TheWindows.Loaded(u"frmTallymereTutor"_s)); // it comes when the timer strikes
@@ -871,6 +877,8 @@ private Q_SLOTS:
                 Choose(Text(row.Name));
         QCOMPARE(tutor.Pages, QList<int>());
         QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
+        QVERIFY(desk.TakeBeep());
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"forward"_s});
     }
 
     void AnEntryChosenTwiceShowsOneWindowAndThePageAgain()
@@ -912,7 +920,7 @@ private Q_SLOTS:
             desk.StartProgram();
             desk.Answers += answer;
             Choose(u"mnuBudgetSavingsForecast"_s);
-            QCOMPARE(desk.Beeps, 1);
+            QVERIFY(desk.TakeBeep());
             QCOMPARE(desk.TakeMessage(), (Message{u"Do you wish to print the Savings Forecast?"_s,
                                                   u"Savings Forecast"_s, Icon::Question, Buttons::YesNo}));
             QCOMPARE(State.PrintSavingsForecast, answer == Answer::Yes);
@@ -957,13 +965,11 @@ private Q_SLOTS:
         QFETCH(QStringList, calls);
         GuiDesk desk;
         desk.StartProgram();
-        QCOMPARE(desk.CalculatorCalls, QStringList{u"start"_s});
-        desk.CalculatorCalls.clear();
         desk.BringForwardError = forwardError;
         desk.StartCalculatorError = startError;
         TutorPages tutor;
         Choose(u"mnuFinanceMathCalculator"_s);
-        QCOMPARE(desk.CalculatorCalls, calls);
+        QCOMPARE(desk.TakeCalculatorCalls(), calls);
         QCOMPARE(tutor.Pages, QList<int>{10});
         QVERIFY(!desk.Ended);
     }
@@ -1062,7 +1068,7 @@ private Q_SLOTS:
         GuiDesk desk;
         desk.StartProgram();
         Choose(u"mnuHelpSearch"_s);
-        QCOMPARE(desk.HelpQuestions, (QList<HelpQuestion>{{desk.Folder() + u"\\HELP\\budget help.hlp"_s, 0}}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{desk.Folder() + u"\\HELP\\budget help.hlp"_s, 0}));
     }
 
     void HowDoIAndGettingStartedHaveButtons()
@@ -1116,10 +1122,10 @@ private Q_SLOTS:
         desk.Options[u"show tips at startup"_s] = u"0"_s;
         QuestionAnswerer answerer;
         Show(u"frmSplash"_s);
-        QCOMPARE(desk.HourglassCalls, QList<bool>());
+        QCOMPARE(desk.TakeHourglass(), QList<bool>());
         QVERIFY(!TheWindows.Loaded(Window));
         Click(u"frmSplash"_s, u"cmdContinue"_s);
-        QCOMPARE(desk.HourglassCalls, (QList<bool>{true, false}));
+        QCOMPARE(desk.TakeHourglass(), (QList<bool>{true, false}));
         QVERIFY(!TheWindows.Loaded(u"frmSplash"_s));
         QTRY_COMPARE(answerer.Asked, 1);
         QCOMPARE(answerer.Offered, u"January 5, 2004"_s);
@@ -1127,7 +1133,7 @@ private Q_SLOTS:
         QTRY_COMPARE(ActiveWindow(), Window);
         QCOMPARE(State.CurrentPayPeriod, u"1/7/2004"_s);
         QCOMPARE(TextOf(Window, u"staMain1"_s), u"Current Pay Period: January 7, 2004"_s);
-        QCOMPARE(desk.CalculatorCalls, QStringList{u"start"_s});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         QVERIFY(!State.InitializingVariables);
         QVERIFY(TheTutorTimer().isActive());
         LeaveAndReturn();
@@ -1156,6 +1162,7 @@ private Q_SLOTS:
         Show(Window);
         QTRY_COMPARE(answerer.Asked, 1);
         QVERIFY(!State.WelcomeLevelPending);
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         for (const QString &name : {u"frmGettingStarted"_s, u"frmHowDoI"_s})
             QCOMPARE(IsShown(name), name == window);
         TheWindows.Unload(window);
@@ -1207,7 +1214,7 @@ private Q_SLOTS:
         QTRY_COMPARE(ActiveWindow(), Window);
         QCOMPARE(TextOf(Window, u"staMain1"_s), u"Current Pay Period: January 7, 2004"_s);
         QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).size(), 9);
-        QCOMPARE(desk.CalculatorCalls, QStringList());
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList());
         QCOMPARE(Entry(u"mnuFinanceMathCalculator"_s).isEnabled(), calculator);
         QVERIFY(State.InitializingVariables);
     }
@@ -1220,7 +1227,6 @@ private Q_SLOTS:
         desk.StartProgram();
         QVERIFY(!Entry(u"mnuFinanceMathCalculator"_s).isEnabled());
         QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).first(), u"Creditors: 1"_s);
-        QCOMPARE(desk.CalculatorCalls, QStringList{u"start"_s});
     }
 
     // The ways out

@@ -3,11 +3,18 @@
 #include "Windows.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QGroupBox>
 #include <QTest>
 
-GuiDesk::GuiDesk()
+namespace {
+TestLine TheLastAct = TestLine::current();
+} // namespace
+
+GuiDesk::GuiDesk(TestLine where) : FakeDesk(where)
 {
+    TheLastAct = where;
+    EndsWithItsWindows = true;
     LayHousehold();
     RegisterWindows();
 }
@@ -18,11 +25,14 @@ GuiDesk::~GuiDesk()
     Settle();
 }
 
-void GuiDesk::StartProgram()
+void GuiDesk::StartProgram(TestLine where)
 {
+    EndsWithItsWindows = false;
     State.CurrentPayPeriodConfirmed = true;
     TheWindows.Show(QStringLiteral("frmMain"));
     Settle();
+    if (TakeCalculatorCalls() != QStringList{QStringLiteral("start")})
+        Fail(QStringLiteral("the start did not start the calculator"), where);
 }
 
 void Settle()
@@ -34,26 +44,64 @@ void Settle()
     }
 }
 
-void Show(const QString &window)
+void Fail(const QString &text, TestLine where)
 {
+    QTest::qFail(qPrintable(text), where.file_name(), int(where.line()));
+}
+
+TestLine LastAct()
+{
+    return TheLastAct;
+}
+
+void GiveUp(const QString &text, TestLine where)
+{
+    Fail(text, where);
+    QMessageLogger(where.file_name(), int(where.line()), where.function_name())
+        .fatal("%s:%d: %s", where.file_name(), int(where.line()), qPrintable(text));
+}
+
+namespace {
+
+/// Whether a user can act on a control: it is enabled, to be seen, and no modal window stands before it.
+bool InReach(const QWidget &control, TestLine where)
+{
+    TheLastAct = where;
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (!control.isEnabled())
+        Fail(control.objectName() + QStringLiteral(" is grey"), where);
+    else if (!control.isVisible())
+        Fail(control.objectName() + QStringLiteral(" is not to be seen"), where);
+    else if (modal && modal != control.window())
+        Fail(QStringLiteral("%1 is behind %2").arg(control.objectName(), modal->objectName()), where);
+    else
+        return true;
+    return false;
+}
+
+} // namespace
+
+void Show(const QString &window, TestLine where)
+{
+    TheLastAct = where;
     TheWindows.Show(window);
     Settle();
 }
 
-void Click(const QString &window, const QString &control)
+void Click(const QString &window, const QString &control, TestLine where)
 {
-    QWidget &button = Find(window, control);
-    if (!button.isEnabled())
-        QTest::qFail(qPrintable(control + QStringLiteral(" is grey")), __FILE__, __LINE__);
+    QWidget &button = Find(window, control, where);
+    if (!InReach(button, where))
+        return;
     QTest::mouseClick(&button, Qt::LeftButton);
     Settle();
 }
 
-void Type(const QString &window, const QString &field, const QString &text)
+void Type(const QString &window, const QString &field, const QString &text, TestLine where)
 {
-    auto &edit = Find<QLineEdit>(window, field);
-    if (!edit.isEnabled())
-        QTest::qFail(qPrintable(field + QStringLiteral(" is grey")), __FILE__, __LINE__);
+    auto &edit = Find<QLineEdit>(window, field, where);
+    if (!InReach(edit, where))
+        return;
     static_cast<Form *>(edit.window())->FocusOn(&edit);
     edit.selectAll();
     if (text.isEmpty())
@@ -63,38 +111,51 @@ void Type(const QString &window, const QString &field, const QString &text)
     Settle();
 }
 
-void PressEnter(const QString &window, const QString &field)
+void PressEnter(const QString &window, const QString &field, TestLine where)
 {
-    QTest::keyClick(&Find(window, field), Qt::Key_Return);
+    QWidget &control = Find(window, field, where);
+    if (!InReach(control, where))
+        return;
+    QTest::keyClick(&control, Qt::Key_Return);
     Settle();
 }
 
-void ClickRow(const QString &window, const QString &list, int row)
+void ClickRow(const QString &window, const QString &list, int row, TestLine where)
 {
-    auto &box = Find<ListBox>(window, list);
-    const QRect rect = box.visualItemRect(box.item(row));
-    QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::NoModifier, rect.center());
+    auto &box = Find<ListBox>(window, list, where);
+    if (!InReach(box, where))
+        return;
+    const QListWidgetItem *item = box.item(row);
+    if (!item)
+        return Fail(QStringLiteral("%1 has no row %2").arg(list).arg(row), where);
+    QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::NoModifier, box.visualItemRect(item).center());
     Settle();
 }
 
-void Choose(const QString &entry)
+void Choose(const QString &entry, TestLine where)
 {
-    auto &action = Find<QAction>(QStringLiteral("frmMain"), entry);
+    auto &action = Find<QAction>(QStringLiteral("frmMain"), entry, where);
+    if (!InReach(*TheWindows.Loaded(QStringLiteral("frmMain")), where))
+        return;
     if (!action.isEnabled())
-        QTest::qFail(qPrintable(entry + QStringLiteral(" is grey")), __FILE__, __LINE__);
+        return Fail(entry + QStringLiteral(" is grey"), where);
     action.trigger();
     Settle();
 }
 
-void CloseByFrame(const QString &window)
+void CloseByFrame(const QString &window, TestLine where)
 {
-    TheWindows.Loaded(window)->close();
+    TheLastAct = where;
+    Form *form = TheWindows.Loaded(window);
+    if (!form)
+        GiveUp(QStringLiteral("no ") + window, where);
+    form->close();
     Settle();
 }
 
-QString TextOf(const QString &window, const QString &control)
+QString TextOf(const QString &window, const QString &control, TestLine where)
 {
-    QWidget &widget = Find(window, control);
+    QWidget &widget = Find(window, control, where);
     if (auto *field = qobject_cast<QLineEdit *>(&widget))
         return field->text();
     if (auto *label = qobject_cast<QLabel *>(&widget))
@@ -103,22 +164,25 @@ QString TextOf(const QString &window, const QString &control)
         return group->title();
     if (auto *button = qobject_cast<QAbstractButton *>(&widget))
         return button->text();
-    qFatal("%s.%s has no text", qPrintable(window), qPrintable(control));
+    GiveUp(QStringLiteral("%1.%2 has no text").arg(window, control), where);
 }
 
-bool IsEnabled(const QString &window, const QString &control)
+bool IsEnabled(const QString &window, const QString &control, TestLine where)
 {
-    return Find(window, control).isEnabled();
+    return Find(window, control, where).isEnabled();
 }
 
-QStringList RowsOf(const QString &window, const QString &list)
+QStringList RowsOf(const QString &window, const QString &list, TestLine where)
 {
-    return Find<ListBox>(window, list).Items();
+    return Find<ListBox>(window, list, where).Items();
 }
 
-QString FocusOf(const QString &window)
+QString FocusOf(const QString &window, TestLine where)
 {
-    QWidget *control = TheWindows.Loaded(window)->FocusControl();
+    const Form *form = TheWindows.Loaded(window);
+    if (!form)
+        GiveUp(QStringLiteral("no ") + window, where);
+    const QWidget *control = form->FocusControl();
     return control ? control->objectName() : QString();
 }
 
@@ -132,9 +196,9 @@ QString ActiveWindow()
     return TheWindows.Active() ? TheWindows.Active()->objectName() : QString();
 }
 
-QStringList GridRows(const QString &window, const QString &grid, int from)
+QStringList GridRows(const QString &window, const QString &grid, int from, TestLine where)
 {
-    const auto &table = Find<Grid>(window, grid);
+    const auto &table = Find<Grid>(window, grid, where);
     QStringList rows;
     for (int row = from; row < table.Rows(); ++row) {
         QStringList cells;

@@ -1,5 +1,6 @@
 // The program of the window tests: the program's own application object, a United States desktop, no motion.
 #include "TestProgram.h"
+#include "Watchdog.h"
 #include "platform/values/Locale.h"
 #include "platform/windows/Application.h"
 
@@ -10,5 +11,6 @@ int main(int argc, char **argv)
     Application application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    const Watchdog watchdog(qEnvironmentVariable("TALLYMERE_MODAL_LIMIT", QStringLiteral("10000")).toInt());
     return RunRegisteredTest(argc, argv);
 }

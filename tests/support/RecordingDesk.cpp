@@ -1,13 +1,49 @@
 #include "RecordingDesk.h"
 
+#include "budget/BudgetGenerator.h"
+#include "budget/MonthlyOverhead.h"
+#include "budget/SavingsForecast.h"
+#include "budget/ScanPayPeriods.h"
+#include "commitments/Extras.h"
+#include "commitments/Projects.h"
+#include "foundation/Tutor.h"
+
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <filesystem>
+#include <utility>
 
-RecordingDesk::RecordingDesk() : m_before(TheDesk)
+namespace {
+
+/// A file that the test knows carries this time, so that every later writing shows, even one of the same bytes.
+const std::filesystem::file_time_type KnownTime{};
+
+std::filesystem::path Native(const QString &path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+} // namespace
+
+void ResetProgram()
 {
     ResetState();
     ThePrinter.Reset();
+    Forecast = {};
+    Overhead = {};
+    Scan = {};
+    Extras = {};
+    Projects = {};
+    ShowBudgetPage = nullptr;
+    FillPayPeriodList = nullptr;
+    TheTutorRequests.disconnect();
+}
+
+RecordingDesk::RecordingDesk() : m_before(TheDesk)
+{
+    ResetProgram();
     State.ApplicationPath = Folder();
     State.StoresDirectory = Folder() + QStringLiteral("\\stores\\");
     TheDesk.ShowMessage = [this](const Message &message) {
@@ -35,7 +71,10 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
     TheDesk.GetSetting = [this](const QString &key, const QString &fallback) {
         return Options.value(key.toLower(), fallback);
     };
-    TheDesk.SaveSetting = [this](const QString &key, const QString &value) { Options[key.toLower()] = value; };
+    TheDesk.SaveSetting = [this](const QString &key, const QString &value) {
+        Options[key.toLower()] = value;
+        SavedOptions += key.toLower();
+    };
     TheDesk.StartCalculator = [this] {
         CalculatorCalls += QStringLiteral("start");
         if (StartCalculatorError != 0)
@@ -55,13 +94,91 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
 RecordingDesk::~RecordingDesk()
 {
     TheDesk = m_before;
-    ThePrinter.Reset();
-    ResetState();
+    ResetProgram();
 }
 
 Message RecordingDesk::TakeMessage()
 {
     return Messages.isEmpty() ? Message() : Messages.takeFirst();
+}
+
+PrintJob RecordingDesk::TakePrinted()
+{
+    return Printed.isEmpty() ? PrintJob() : Printed.takeFirst();
+}
+
+HelpQuestion RecordingDesk::TakeHelp()
+{
+    return HelpQuestions.isEmpty() ? HelpQuestion() : HelpQuestions.takeFirst();
+}
+
+bool RecordingDesk::TakeBeep()
+{
+    if (Beeps == 0)
+        return false;
+    --Beeps;
+    return true;
+}
+
+QStringList RecordingDesk::TakeCalculatorCalls()
+{
+    return std::exchange(CalculatorCalls, {});
+}
+
+QList<bool> RecordingDesk::TakeHourglass()
+{
+    return std::exchange(HourglassCalls, {});
+}
+
+bool RecordingDesk::TakeEnd()
+{
+    return std::exchange(Ended, false);
+}
+
+QString RecordingDesk::TakeOption(const QString &key)
+{
+    return SavedOptions.remove(key.toLower()) ? Options.value(key.toLower()) : QString();
+}
+
+QStringList RecordingDesk::TakeFiles()
+{
+    const QStringList files = ChangedFiles();
+    for (const QString &file : files)
+        MarkAsKnown(file);
+    return files;
+}
+
+QStringList RecordingDesk::ChangedFiles() const
+{
+    const QDir folder(Folder());
+    QStringList changed;
+    for (const QString &file : m_knownFiles)
+        if (!QFileInfo::exists(folder.filePath(file)))
+            changed += file;
+    QDirIterator files(Folder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        std::error_code unreadable;
+        if (std::filesystem::is_regular_file(Native(path), unreadable) &&
+            std::filesystem::last_write_time(Native(path), unreadable) != KnownTime)
+            changed += folder.relativeFilePath(path);
+    }
+    changed.sort();
+    return changed;
+}
+
+void RecordingDesk::MarkAsKnown(const QString &name) const
+{
+    const QString path = Path(name);
+    const QString file = QDir(Folder()).relativeFilePath(path);
+    if (!QFileInfo::exists(path)) {
+        m_knownFiles -= file;
+        return;
+    }
+    m_knownFiles += file;
+    std::error_code failed;
+    if (std::filesystem::is_regular_file(Native(path), failed))
+        std::filesystem::last_write_time(Native(path), KnownTime, failed);
 }
 
 QString RecordingDesk::Path(const QString &name) const
@@ -76,10 +193,13 @@ void RecordingDesk::WriteFile(const QString &name, const QByteArray &text) const
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
         qFatal("cannot write %s", qPrintable(path));
+    file.close();
+    MarkAsKnown(name);
 }
 
 QByteArray RecordingDesk::ReadFile(const QString &name) const
 {
+    MarkAsKnown(name);
     QFile file(Path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
@@ -87,6 +207,7 @@ QByteArray RecordingDesk::ReadFile(const QString &name) const
 void RecordingDesk::RemoveFile(const QString &name) const
 {
     QFile::remove(Path(name));
+    MarkAsKnown(name);
 }
 
 void RecordingDesk::LayHousehold() const

@@ -1,5 +1,5 @@
-// Stands in for everything outside the program: records what is shown, asked and printed, and answers only what was
-// scripted. The shared state and the printer are put back when it comes and when it goes.
+// Stands in for everything outside the program: records what is shown, asked, printed, saved and written, and answers
+// only what was scripted. The whole program is put back when it comes and when it goes.
 #pragma once
 
 #include "foundation/State.h"
@@ -7,7 +7,11 @@
 #include "platform/desk/Printer.h"
 
 #include <QMap>
+#include <QSet>
 #include <QTemporaryDir>
+
+/// Puts back everything that lives as long as the program: the state of all subsystems, the printer and the doors.
+void ResetProgram();
 
 class RecordingDesk
 {
@@ -17,10 +21,24 @@ public:
     RecordingDesk(const RecordingDesk &) = delete;
     RecordingDesk &operator=(const RecordingDesk &) = delete;
 
-    /// The oldest message that was not taken yet; an empty one if there is none.
+    // What the program did, taken off the record: the oldest of its kind, something empty where there is none.
     Message TakeMessage();
+    PrintJob TakePrinted();
+    HelpQuestion TakeHelp();
+    bool TakeBeep();
+    /// Everything the calculator was asked for, in order.
+    QStringList TakeCalculatorCalls();
+    /// The calls of the pointer, in order: true the hourglass, false the normal one.
+    QList<bool> TakeHourglass();
+    /// Whether the program was ended.
+    bool TakeEnd();
+    /// What an option was set to; null if it was not set since it was taken last.
+    QString TakeOption(const QString &key);
+    /// The files of the folder that were written or removed by others than the test since they were taken or read
+    /// last, in alphabetical order; in folders with "/".
+    QStringList TakeFiles();
 
-    // What the program did
+    // The record
     QList<Message> Messages;
     QList<FileQuestion> FileQuestions;
     QList<HelpQuestion> HelpQuestions;
@@ -33,7 +51,8 @@ public:
     // What it is answered
     QList<Answer> Answers;          ///< for boxes with Yes and No, in order
     QStringList FileAnswers;        ///< for file dialogs, in order
-    QMap<QString, QString> Options; ///< keys in lower case
+    QMap<QString, QString> Options; ///< as the store holds them, keys in lower case
+    QSet<QString> SavedOptions;     ///< keys of those that the program set
     QDateTime Now{QDate(2004, 1, 5), QTime(9, 30)};
     int StartCalculatorError = 0; ///< 0: it starts
     int BringForwardError = 0;
@@ -44,13 +63,20 @@ public:
     /// The path of a data file there; "\" parts folders.
     QString Path(const QString &name) const;
     void WriteFile(const QString &name, const QByteArray &text) const;
-    /// The bytes of a file, null if there is none.
+    /// The bytes of a file, null if there is none. Who reads a file knows what became of it: it counts as taken.
     QByteArray ReadFile(const QString &name) const;
     void RemoveFile(const QString &name) const;
     /// Lays down a fresh household: empty lists, environm.ini of a biweekly household, untitled.lst, 26 tutor pages.
     void LayHousehold() const;
 
+protected:
+    /// As TakeFiles(), but they stay on the record.
+    QStringList ChangedFiles() const;
+
 private:
+    void MarkAsKnown(const QString &name) const;
+
     Desk m_before;
     QTemporaryDir m_folder;
+    mutable QSet<QString> m_knownFiles; ///< those that were there when the test looked last
 };

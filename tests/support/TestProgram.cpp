@@ -24,6 +24,9 @@ int RunRegisteredTest(int argc, char **argv)
         qWarning("which test? %s", qPrintable(Tests().keys().join(QLatin1Char(' '))));
         return 2;
     }
+    // A function that takes longer hangs; the test library then ends the program and names it.
+    if (!qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT"))
+        qputenv("QTEST_FUNCTION_TIMEOUT", "60000");
     argv[1] = argv[0];
     const auto test = make();
     return QTest::qExec(test.get(), argc - 1, argv + 1);

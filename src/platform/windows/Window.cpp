@@ -55,7 +55,7 @@ void WindowBase::Refuse(const QString &text, QWidget *field, int helpContext)
     // A window that is refused while another one is active comes to the front, or the user would not see the field.
     if (TheWindows.Active() != this && isVisible())
         TheWindows.Show(objectName());
-    ShowText(text); // over the window that it is about
+    ShowText(text, helpContext); // over the window that it is about
     FocusOn(field);
 }
 
