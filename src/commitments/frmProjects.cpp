@@ -20,11 +20,6 @@ bool IsKeyPress(const QKeyEvent &key)
     return !key.text().isEmpty() && key.text().front().isPrint();
 }
 
-bool IsControlEnter(const QKeyEvent &key)
-{
-    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && (key.modifiers() & Qt::ControlModifier);
-}
-
 } // namespace
 
 frmProjects::frmProjects() : ListPanel(ProjectList), ui(std::make_unique<Ui::frmProjects>())
@@ -43,7 +38,6 @@ frmProjects::frmProjects() : ListPanel(ProjectList), ui(std::make_unique<Ui::frm
     // The ring ends at the date, where Enter is a key like any other.
     OnEnter(ui->txtProjectCompletionDate, [this] { PickCompletionDate(); });
     ui->txtProjectCompletionDate->installEventFilter(this);
-    ui->lstProjects->installEventFilter(this);
 }
 
 frmProjects::~frmProjects() = default;
@@ -58,13 +52,6 @@ bool frmProjects::eventFilter(QObject *watched, QEvent *event)
             PickCompletionDate();
             return true;
         }
-    }
-    // The keyboard's way to what a double-click does.
-    if (watched == ui->lstProjects && event->type() == QEvent::KeyPress && ui->lstProjects->currentRow() >= 0 &&
-        IsControlEnter(*static_cast<QKeyEvent *>(event))) {
-        ui->lstProjects->SetListIndex(ui->lstProjects->currentRow());
-        lstProjects_DblClick();
-        return true;
     }
     return ListPanel::eventFilter(watched, event);
 }

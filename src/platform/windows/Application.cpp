@@ -1,5 +1,6 @@
 #include "platform/windows/Application.h"
 
+#include "platform/controls/ClearEdges.h"
 #include "platform/desk/Desk.h"
 #include "platform/values/RuntimeError.h"
 #include "platform/windows/WindowRegister.h"
@@ -11,11 +12,14 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setApplicationName(QStringLiteral("Tallymere"));
     setApplicationDisplayName(QString());
     setQuitOnLastWindowClosed(false); // the register decides
+    setStyle(new ClearEdges);
     TheWindows.Start();
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)
 {
+    if (m_clickGuard.Swallows(receiver, *event))
+        return true;
     try {
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError &error) {

@@ -1,6 +1,8 @@
 // The application object: the one place where an error that nobody traps ends the program.
 #pragma once
 
+#include "platform/windows/ClickGuard.h"
+
 #include <QApplication>
 
 class Application : public QApplication
@@ -9,6 +11,9 @@ class Application : public QApplication
 public:
     Application(int &argc, char **argv);
     bool notify(QObject *receiver, QEvent *event) override;
+
+private:
+    ClickGuard m_clickGuard;
 };
 
 class RuntimeError;

@@ -1,5 +1,7 @@
 #include "platform/windows/Form.h"
 
+#include "platform/controls/Fields.h"
+
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,7 +33,7 @@ Form::Form() : QWidget(nullptr, Qt::Window) {}
 void Form::GotFocus(QWidget *control)
 {
     if (auto *field = qobject_cast<QLineEdit *>(control))
-        field->selectAll();
+        SelectWhole(field);
     if (const auto handler = m_gotFocus.value(control))
         handler();
 }
@@ -75,9 +77,15 @@ void Form::EnterRing(const QList<QLineEdit *> &ring)
         QLineEdit *next = ring[(i + 1) % ring.size()];
         OnEnter(ring[i], [this, next] {
             FocusOn(next);
-            next->selectAll();
+            SelectWhole(next);
         });
     }
+}
+
+void Form::CurrencyWhenLeft(const QList<QLineEdit *> &fields)
+{
+    for (QLineEdit *field : fields)
+        OnLostFocus(field, [field] { ShowAsCurrency(field); });
 }
 
 void Form::OnEnter(QLineEdit *field, const std::function<void()> &handler)
@@ -106,6 +114,9 @@ bool Form::HandleEnter(QObject *control)
 bool Form::event(QEvent *event)
 {
     const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Polish)
+        for (QLineEdit *field : findChildren<QLineEdit *>())
+            ShowFromBeginning(field);
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
         GiveLinesTheirHeight();
     return done;
