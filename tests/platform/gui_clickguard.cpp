@@ -33,7 +33,7 @@ struct Stage {
     Stage()
     {
         for (const QString &name : {u"lower"_s, u"upper"_s})
-            TheWindows.Declare(name, [] { return new Plain; });
+            TheWindows.Register(name, [] { return new Plain; });
         TheWindows.Show(u"lower"_s);
         TheWindows.Show(u"upper"_s);
         Lower().Field->setFocus();

@@ -34,7 +34,7 @@ public:
 
 Entry &Present()
 {
-    TheWindows.Declare(u"entry"_s, [] { return new Entry; });
+    TheWindows.Register(u"entry"_s, [] { return new Entry; });
     Show(u"entry"_s);
     return static_cast<Entry &>(*TheWindows.Loaded(u"entry"_s));
 }

@@ -291,6 +291,7 @@ private Q_SLOTS:
         grid.AddItem("Left\tRight", 1);
         grid.SetBold(1, 0, true); // the same letters as in the heading
         grid.SetBold(1, 1, true);
+        grid.setFocusPolicy(Qt::NoFocus); // no mark over the texts
         Present(grid);
         // The first and the last column of pixels with ink between two borders of columns.
         const auto ink = [](const QImage &picture, int from, int to) {

@@ -291,6 +291,7 @@ private Q_SLOTS:
         QCOMPARE(stage.List->currentRow(), 1);
         stage.Press(Qt::Key_Return);
         QCOMPARE(stage.List->ListIndex(), 1);
+        QTest::qWait(QApplication::keyboardInputInterval() + 100);
         QTest::keyClicks(stage.List, "j");
         QTest::qWait(QApplication::keyboardInputInterval() + 100);
         stage.Press(Qt::Key_Space); // a while later the blank is a click again

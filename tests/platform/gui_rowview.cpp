@@ -59,7 +59,7 @@ QPoint PlaceOf(const QAbstractItemView &view, int row)
 /// Shows another window and comes back.
 void LeaveAndReturn(const QString &window)
 {
-    TheWindows.Declare(u"another"_s, [] { return new Form; });
+    TheWindows.Register(u"another"_s, [] { return new Form; });
     Show(u"another"_s);
     Show(window);
 }
@@ -129,7 +129,7 @@ private Q_SLOTS:
         auto &grid = Present<Grid>(window, control);
         QSignalSpy clicks(&grid, &Grid::Click);
         const auto fill = [&] {
-            grid.SetShape(1, 2);
+            grid.SetShape(1, grid.Columns());
             for (int row = 1; row <= 3; ++row)
                 grid.AddItem(u"item"_s, row);
             Settle();

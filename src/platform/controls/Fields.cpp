@@ -23,4 +23,5 @@ void ShowFromBeginning(QLineEdit *field)
 void ShowAsCurrency(QLineEdit *field)
 {
     field->setText(Format(field->text(), NumberFormat::Currency));
+    field->setCursorPosition(0); // also where the text is the same
 }

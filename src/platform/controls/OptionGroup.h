@@ -56,8 +56,12 @@ protected:
         const auto &press = *static_cast<QKeyEvent *>(event);
         const bool forward = press.key() == Qt::Key_Down || press.key() == Qt::Key_Right;
         const bool backward = press.key() == Qt::Key_Up || press.key() == Qt::Key_Left;
-        if ((!forward && !backward) || (press.modifiers() & ~Qt::KeypadModifier)) // Alt+Left is not ours
+        if (!forward && !backward)
             return false;
+        if (press.modifiers() & ~Qt::KeypadModifier) { // nor is Alt+Left the toolkit's: it is the window's
+            event->ignore();
+            return true;
+        }
         const int count = int(buttons().size());
         QAbstractButton *next = option;
         do

@@ -63,7 +63,6 @@ PrintSwitch::PrintSwitch(QWidget *parent)
     row->addWidget(m_on);
     row->addWidget(m_off);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setFocusProxy(m_on);
 
     m_off->setChecked(true);
     auto *sides = new QButtonGroup(this); // one of them is always checked
