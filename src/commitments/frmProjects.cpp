@@ -21,11 +21,6 @@ bool IsKeyPress(const QKeyEvent &key)
     return !key.text().isEmpty() && key.text().front().isPrint();
 }
 
-bool IsControlEnter(const QKeyEvent &key)
-{
-    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && (key.modifiers() & Qt::ControlModifier);
-}
-
 } // namespace
 
 frmProjects::frmProjects() : ListWindow(ProjectList)
@@ -46,7 +41,6 @@ frmProjects::frmProjects() : ListWindow(ProjectList)
     OnEnter(ui.txtProjectCompletionDate, [this] { PickCompletionDate(); });
     ui.txtProjectCompletionDate->installEventFilter(this);
     connect(&TheCompletionDateOutlet, &CompletionDateOutlet::Picked, ui.txtProjectCompletionDate, &QLineEdit::setText);
-    ui.lstProjects->installEventFilter(this);
 }
 
 bool frmProjects::eventFilter(QObject *watched, QEvent *event)
@@ -59,13 +53,6 @@ bool frmProjects::eventFilter(QObject *watched, QEvent *event)
             PickCompletionDate();
             return true;
         }
-    }
-    // The keyboard's way to what a double-click does.
-    if (watched == ui.lstProjects && event->type() == QEvent::KeyPress && ui.lstProjects->currentRow() >= 0 &&
-        IsControlEnter(*static_cast<QKeyEvent *>(event))) {
-        ui.lstProjects->SetListIndex(ui.lstProjects->currentRow());
-        ViewProject();
-        return true;
     }
     return ListPanel::eventFilter(watched, event);
 }

@@ -19,31 +19,17 @@ bool ProjectIsThere()
 frmViewProject::frmViewProject() : ui(std::make_unique<Ui::frmViewProject>())
 {
     ui->setupUi(this);
-    ui->grdViewProject->SetShape(StartRows, 3);
-    SetColumnWidths(); // before it is shown: the window opens wide enough
+    ui->grdViewProject->SetColumns({{QStringLiteral("Pay Period"), DateTwips},
+                                    {QStringLiteral("Installment"), AmountTwips, Qt::AlignRight},
+                                    {QStringLiteral("Accumulated"), AmountTwips, Qt::AlignRight}},
+                                   StartRows);
     OnGotFocus(ui->grdViewProject, [this] { grdViewProject_GotFocus(); });
 }
 
 frmViewProject::~frmViewProject() = default;
 
-void frmViewProject::SetColumnWidths()
-{
-    ui->grdViewProject->SetColumnWidth(0, DateTwips);
-    ui->grdViewProject->SetColumnWidth(1, AmountTwips);
-    ui->grdViewProject->SetColumnWidth(2, AmountTwips);
-}
-
 void frmViewProject::Activate()
 {
-    Grid &grid = *ui->grdViewProject;
-    SetColumnWidths();
-    for (int column : {0, 1, 2})
-        grid.SetBold(0, column, true);
-    grid.SetRightAligned(1, true);
-    grid.SetRightAligned(2, true);
-    grid.SetText(0, 0, QStringLiteral("Pay Period"));
-    grid.SetText(0, 1, QStringLiteral("Installment"));
-    grid.SetText(0, 2, QStringLiteral("Accumulated"));
     if (ProjectIsThere())
         setWindowTitle(State.ProjectNames(Projects.SelectedProject));
 }

@@ -19,7 +19,6 @@ public:
     void Activate() override;
 
 private:
-    void SetColumnWidths();
     void grdViewProject_GotFocus();
 
     std::unique_ptr<Ui::frmViewProject> ui;

@@ -18,10 +18,7 @@ frmEnvironmentSettings::frmEnvironmentSettings() : ui(std::make_unique<Ui::frmEn
     optPayFrequency = std::make_unique<OptionGroup>(
         QList{ui->optPayFrequency0, ui->optPayFrequency1, ui->optPayFrequency2, ui->optPayFrequency3},
         [this](int index) { optPayFrequency_Click(index); });
-    connect(ui->txtStoreFile, &QLineEdit::textChanged, this, [this](const QString &name) {
-        ui->txtStoreFile->setCursorPosition(0); // a long name shows its beginning
-        ui->txtStoreFile->setToolTip(name);
-    });
+    connect(ui->txtStoreFile, &QLineEdit::textChanged, ui->txtStoreFile, &QLineEdit::setToolTip);
     connect(ui->cmdExit, &QPushButton::clicked, this, &frmEnvironmentSettings::cmdExit_Click);
     EnterRing({ui->txtForecastPeriods, ui->txtPaycheckAmount, ui->txtSalesTax, ui->txtAverageNetPercentage});
 }

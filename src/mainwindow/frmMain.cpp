@@ -237,7 +237,6 @@ void frmMain::ReadOptions()
 
 void frmMain::FillBudgetState()
 {
-    const int marked = ui->lstBudgetState->currentRow();
     ui->lstBudgetState->Clear();
     for (const StateEntry &entry : BudgetStateLines()) {
         ui->lstBudgetState->AddItem({});
@@ -246,7 +245,6 @@ void frmMain::FillBudgetState()
             line->setFlags(line->flags() & ~Qt::ItemIsEnabled);
         ShowStateLine(*line, entry);
     }
-    ui->lstBudgetState->Mark(marked); // the keyboard goes on where it was
     ReserveSpace();
 }
 

@@ -453,6 +453,25 @@ private Q_SLOTS:
         QVERIFY(toys["A"].isVisible());
     }
 
+    void TheSecondPressOfADoubleClickDoesNotFallThrough()
+    {
+        ToyBox toys;
+        ShowAtRest("A", Left);
+        ShowAtRest("B", Left); // covers it, button over button
+        When("B Click", [] { Hide("B"); });
+        TakeLog();
+        const QPoint place = toys["B"].Button->mapToGlobal(toys["B"].Button->rect().center());
+        QVERIFY(Do({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
+                    QString::number(place.y()), QStringLiteral("click"), QStringLiteral("--repeat"),
+                    QStringLiteral("2"), QStringLiteral("--delay"), QStringLiteral("60"), QStringLiteral("1")}));
+        QTRY_VERIFY(Log.contains("B Click"));
+        QTest::qWait(QApplication::doubleClickInterval() + 100);
+        QVERIFY(!toys["B"].isVisible());
+        QVERIFY(!Log.contains("A Click"));
+        QVERIFY(ClickControl(*toys["A"].Button));
+        QTRY_VERIFY(Log.contains("A Click"));
+    }
+
     void AWindowThatIsOnlyLookedAtLeavesTheUserAtWork()
     {
         ToyBox toys;

@@ -1,8 +1,8 @@
 #include "Households.h"
 
 #include "GuiDesk.h"
+#include "Palettes.h"
 #include "foundation/Calendar.h"
-#include "platform/controls/Theme.h"
 
 #include <QApplication>
 #include <QDirIterator>

@@ -4,11 +4,11 @@
 
 #include "GuiDesk.h"
 #include "Windows.h"
+#include "platform/controls/ClearEdges.h"
 #include "platform/values/Locale.h"
 #include "platform/windows/Application.h"
 
 #include <QImage>
-#include <QStyleFactory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -83,7 +83,7 @@ int main(int argc, char **argv)
         qWarning("it is: screenshots FOLDER");
         return 2;
     }
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new ClearEdges(u"Fusion"_s));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     RegisterWindows();
     const QStringList windows = TheWindows.Names();

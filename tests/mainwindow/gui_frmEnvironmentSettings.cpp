@@ -2,7 +2,7 @@
 #include "GuiDesk.h"
 #include "TestProgram.h"
 
-#include "mainwindow/UpDown.h"
+#include "platform/controls/UpDown.h"
 
 #include <QRadioButton>
 #include <QTimer>

@@ -1,5 +1,6 @@
 // The grid: rows put in and written in place, the heading, the colours, and many rows without waiting.
 #include "ErrorOf.h"
+#include "Palettes.h"
 #include "TestProgram.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/Theme.h"
@@ -264,6 +265,53 @@ private Q_SLOTS:
         QVERIFY(!colour(0).isValid());
     }
 
+    void ColumnsAreLaidOutOnce()
+    {
+        Grid grid;
+        grid.SetColumns({{"Pay Period", 1750}, {"Amount", 1447, Qt::AlignRight}}, 3);
+        QCOMPARE(RowsOf(grid), (QStringList{"Pay Period | Amount", " | ", " | "}));
+        for (const int column : {0, 1}) {
+            QVERIFY(grid.Bold(0, column));
+            QVERIFY(!grid.Bold(1, column));
+        }
+        QCOMPARE(grid.ColumnWidth(0), 1750);
+        QCOMPARE(grid.ColumnWidth(1), 1447);
+        QVERIFY(!grid.RightAligned(0));
+        QVERIFY(grid.RightAligned(1));
+        grid.SetColumns({{"Only"}}); // another lay-out replaces it
+        QCOMPARE(RowsOf(grid), (QStringList{"Only"}));
+        QCOMPARE(grid.ColumnWidth(0), 960);
+        QVERIFY(!grid.RightAligned(0));
+    }
+
+    void AFigureEndsWhereItsHeadingEnds()
+    {
+        Grid grid;
+        grid.SetColumns({{"Left", 1500}, {"Right", 1500, Qt::AlignRight}}, 1);
+        grid.AddItem("Left\tRight", 1);
+        grid.SetBold(1, 0, true); // the same letters as in the heading
+        grid.SetBold(1, 1, true);
+        grid.setFocusPolicy(Qt::NoFocus); // no mark over the texts
+        Present(grid);
+        // The first and the last column of pixels with ink between two borders of columns.
+        const auto ink = [](const QImage &picture, int from, int to) {
+            int first = to, last = from;
+            for (int x = from; x < to; ++x)
+                for (int y = 2; y < picture.height() - 2; ++y)
+                    if (Contrast(picture.pixelColor(x, y), picture.pixelColor(from + 1, 2)) > 2) {
+                        first = qMin(first, x);
+                        last = x;
+                    }
+            return std::pair(first, last);
+        };
+        const QImage heading = grid.horizontalHeader()->viewport()->grab().toImage();
+        const QImage row = grid.viewport()->grab(QRect(0, 0, grid.viewport()->width(), grid.rowHeight(0))).toImage();
+        const int border = grid.horizontalHeader()->sectionSize(0);
+        QCOMPARE(ink(heading, 0, border).first, ink(row, 0, border).first);
+        QCOMPARE(ink(heading, border, heading.width()).second, ink(row, border, row.width()).second);
+        QVERIFY(ink(row, border, row.width()).first > border + 40); // and it stands on the right
+    }
+
     void WidthsAreSharedInProportion()
     {
         Grid grid;
@@ -358,6 +406,65 @@ private Q_SLOTS:
         QTest::keyClick(&grid, Qt::Key_Space);
         QCOMPARE(clicks.count(), 2);
         QCOMPARE(grid.CurrentRow(), 3);
+    }
+
+    void ArrowsMoveTheMarkAndLettersNothing()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        grid.setFocus();
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(1, 0)).center());
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QCOMPARE(grid.currentIndex().row(), 2);
+        QCOMPARE(grid.selectionModel()->selectedRows().first().row(), 1);
+        QTest::keyClicks(&grid, "item 5"); // a text that was meant for the window before
+        QCOMPARE(grid.currentIndex().row(), 2);
+        QCOMPARE(grid.CurrentRow(), 3);
+    }
+
+    void NoKeyClicksBeforeTheUserHasChosen_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Enter") << int(Qt::Key_Return);
+        QTest::newRow("Space") << int(Qt::Key_Space);
+    }
+    void NoKeyClicksBeforeTheUserHasChosen()
+    {
+        QFETCH(int, key);
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        grid.setFocus();
+        QSignalSpy clicks(&grid, &Grid::Click);
+        QTest::keyClick(&grid, Qt::Key(key));
+        QCOMPARE(clicks.count(), 0);
+        QCOMPARE(grid.CurrentRow(), 0);
+        QTest::keyClick(&grid, Qt::Key_Down); // the mark began on the first row
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&grid, &held);
+        QCOMPARE(clicks.count(), 0);
+        QTest::keyClick(&grid, Qt::Key(key));
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(grid.CurrentRow(), 2);
+        grid.SetCurrentRow(0); // the window has filled it anew
+        QTest::keyClick(&grid, Qt::Key(key));
+        QCOMPARE(clicks.count(), 1);
+    }
+
+    void APressBelowTheRowsThatWandersOntoOneSelectsNothing()
+    {
+        Grid grid;
+        Fill(grid, 3);
+        Present(grid);
+        QSignalSpy clicks(&grid, &Grid::Click);
+        const QPoint row = grid.visualRect(grid.model()->index(1, 0)).center();
+        QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, grid.viewport()->rect().bottomLeft() + QPoint(5, -3));
+        QTest::mouseMove(grid.viewport(), row);
+        QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, row);
+        QVERIFY(!grid.selectionModel()->hasSelection());
+        QCOMPARE(grid.CurrentRow(), 0);
+        QCOMPARE(clicks.count(), 0);
     }
 
     void SettingTheRowIsNoClick()

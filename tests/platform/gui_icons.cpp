@@ -1,4 +1,5 @@
 // The icons and colours of our own, as they come out on a light and on a dark desktop.
+#include "Palettes.h"
 #include "TestProgram.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/Theme.h"
@@ -72,6 +73,19 @@ int Coverage(const QImage &image)
         for (int x = 0; x < image.width(); ++x)
             covered += qAlpha(image.pixel(x, y)) > 127 ? 1 : 0;
     return 100 * covered / (image.width() * image.height());
+}
+
+/// How steep the edges are, from point to point in a line.
+double Sharpness(const QImage &image)
+{
+    double sum = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 1; x < image.width(); ++x) {
+            const double step = qAlpha(image.pixel(x, y)) - qAlpha(image.pixel(x - 1, y));
+            sum += step * step;
+        }
+    }
+    return sum;
 }
 
 bool Shows(const QImage &image, const QColor &colour)
@@ -161,6 +175,34 @@ private Q_SLOTS:
                 const int coverage = Coverage(image);
                 QVERIFY2(coverage >= 8 && coverage <= 85, qPrintable(QString::number(coverage)));
                 QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+            }
+        }
+    }
+
+    void IsCrispAtEverySize_data() { IconRows(); }
+    void IsCrispAtEverySize()
+    {
+        QFETCH(QString, name);
+        const QIcon icon = ThemedIcon(name);
+        for (const int size : {16, 20, 22, 24, 32, 48, 64, 96}) {
+            for (const double scale : {1.0, 1.25, 2.0}) {
+                const QImage drawn = Picture(icon, size, scale);
+                QCOMPARE(drawn.size(), (QSizeF(size, size) * scale).toSize());
+                // A button paints it point for point.
+                QImage painted(drawn.size(), QImage::Format_ARGB32_Premultiplied);
+                painted.setDevicePixelRatio(scale);
+                painted.fill(Qt::transparent);
+                QPainter painter(&painted);
+                icon.paint(&painter, QRect(0, 0, size, size));
+                painter.end();
+                QCOMPARE(painted.convertToFormat(QImage::Format_ARGB32), drawn);
+                // It is drawn for this size and not enlarged from a smaller picture, which has soft edges.
+                if (drawn.width() < 24)
+                    continue;
+                const QImage enlarged = Picture(icon, drawn.width() / 2)
+                                            .scaled(drawn.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                QVERIFY2(Sharpness(drawn) > 1.15 * Sharpness(enlarged),
+                         qPrintable(QStringLiteral("%1 at %2").arg(size).arg(scale)));
             }
         }
     }

@@ -166,23 +166,149 @@ private Q_SLOTS:
         QCOMPARE(stage.Clicks.count(), 1);
     }
 
-    void TheMarkThatCodePutsSelectsNothing()
+    // A row that is marked without its click would be overwritten by a change that was meant for another.
+    void APressBelowTheRowsThatWandersOntoOneSelectsNothing()
     {
         Stage stage;
-        stage.List->setFocus();
-        stage.List->Mark(1);
-        QCOMPARE(stage.List->currentRow(), 1);
-        QCOMPARE(stage.List->ListIndex(), -1);
-        stage.Press(Qt::Key_Down); // the keys go on from it
-        QCOMPARE(stage.List->currentRow(), 2);
+        const QPoint below = stage.List->viewport()->rect().bottomLeft() - QPoint(-5, 3);
         stage.Click(0);
-        stage.List->Mark(2);
-        QCOMPARE(stage.List->currentRow(), 2);
+        QTest::mousePress(stage.List->viewport(), Qt::LeftButton, {}, below);
+        QTest::mouseMove(stage.List->viewport(), stage.At(2));
+        QTest::mouseMove(stage.List->viewport(), stage.At(1));
+        QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(1));
         QCOMPARE(stage.List->ListIndex(), 0);
-        stage.List->Mark(-1);
-        QCOMPARE(stage.List->currentRow(), -1);
-        QCOMPARE(stage.List->ListIndex(), 0);
+        QCOMPARE(stage.List->currentRow(), 0);
         QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void APressSelectsNothingBeforeItsRelease()
+    {
+        Stage stage;
+        QTest::mousePress(stage.List->viewport(), Qt::LeftButton, {}, stage.At(1));
+        QCOMPARE(stage.List->currentRow(), 1); // the mark shows where the click will be
+        QCOMPARE(stage.List->ListIndex(), -1);
+        QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(1));
+        QCOMPARE(stage.List->ListIndex(), 1);
+        QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void ARowThatIsGoneBeforeTheReleaseIsNotClicked()
+    {
+        Stage stage;
+        QTest::mousePress(stage.List->viewport(), Qt::LeftButton, {}, stage.At(1));
+        stage.List->Clear();
+        stage.List->AddItem("new");
+        QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(0));
+        QCOMPARE(stage.List->ListIndex(), -1);
+        QCOMPARE(stage.Clicks.count(), 0);
+    }
+
+    void ADoubleClickPicksNothingInTheListThatItsFirstClickHasFilled()
+    {
+        Stage stage;
+        connect(stage.List, &ListBox::Click, stage.List, [&stage] {
+            stage.List->Clear();
+            stage.List->AddItem("new");
+        });
+        stage.Click(0);
+        stage.DoubleClick(0);
+        QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(0));
+        QCOMPARE(stage.Clicks.count(), 1);
+        QCOMPARE(stage.DoubleClicks.count(), 0);
+        stage.Click(0); // a later click is one again
+        QCOMPARE(stage.Clicks.count(), 2);
+    }
+
+    void TwoQuickClicksOnDifferentRowsAreTwoClicks()
+    {
+        Stage stage;
+        stage.Click(0);
+        stage.DoubleClick(2);
+        QTest::mouseRelease(stage.List->viewport(), Qt::LeftButton, {}, stage.At(2));
+        QCOMPARE(stage.Clicks.count(), 2);
+        QCOMPARE(stage.DoubleClicks.count(), 0);
+        QCOMPARE(stage.List->ListIndex(), 2);
+    }
+
+    void TheMarkBeginsOnTheFirstRowThatCanBeChosen()
+    {
+        Stage stage;
+        stage.List->item(0)->setFlags(Qt::NoItemFlags);
+        QCOMPARE(stage.List->currentRow(), -1);
+        QTest::keyClick(stage.Before, Qt::Key_Tab);
+        QCOMPARE(stage.List->currentRow(), 1);
+        stage.List->Clear();
+        stage.List->AddItem("new"); // and again in a list that is filled while the keys are in it
+        QCOMPARE(stage.List->currentRow(), 0);
+        QCOMPARE(stage.List->ListIndex(), -1);
+    }
+
+    void NoKeyClicksBeforeTheUserHasChosen_data() { EnterAndSpaceAreTheClick_data(); }
+    void NoKeyClicksBeforeTheUserHasChosen()
+    {
+        QFETCH(int, key);
+        Stage stage;
+        QTest::keyClick(stage.Before, Qt::Key_Tab);
+        QCOMPARE(stage.List->currentRow(), 0);
+        stage.Press(Qt::Key(key));
+        stage.Press(Qt::Key_Shift);
+        stage.Press(Qt::Key(key));
+        QCOMPARE(stage.Clicks.count(), 0);
+        QCOMPARE(stage.List->ListIndex(), -1);
+        stage.Press(Qt::Key_Home); // it stands there already, but now the user has said so
+        stage.Press(Qt::Key(key));
+        QCOMPARE(stage.Clicks.count(), 1);
+        QCOMPARE(stage.List->ListIndex(), 0);
+        stage.List->Clear();
+        stage.List->AddItem("new");
+        stage.Press(Qt::Key(key)); // nobody has chosen among the new rows
+        QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void AKeyHeldDownNeverClicks_data() { EnterAndSpaceAreTheClick_data(); }
+    void AKeyHeldDownNeverClicks()
+    {
+        QFETCH(int, key);
+        Stage stage;
+        stage.Press(Qt::Key_Down);
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Space ? " " : "\r", true);
+        QApplication::sendEvent(stage.List, &held);
+        QCOMPARE(stage.Clicks.count(), 0);
+        QCOMPARE(stage.List->ListIndex(), -1);
+        stage.Press(Qt::Key(key));
+        QApplication::sendEvent(stage.List, &held);
+        QCOMPARE(stage.Clicks.count(), 1);
+    }
+
+    void TypingChoosesAndItsBlanksClickNothing()
+    {
+        Stage stage;
+        stage.List->Clear();
+        for (const char *text : {"May 1", "May 15", "June 1"})
+            stage.List->AddItem(QString::fromLatin1(text));
+        QTest::keyClicks(stage.List, "may 15");
+        QCOMPARE(stage.Clicks.count(), 0);
+        QCOMPARE(stage.List->currentRow(), 1);
+        stage.Press(Qt::Key_Return);
+        QCOMPARE(stage.List->ListIndex(), 1);
+        QTest::qWait(QApplication::keyboardInputInterval() + 100);
+        QTest::keyClicks(stage.List, "j");
+        QTest::qWait(QApplication::keyboardInputInterval() + 100);
+        stage.Press(Qt::Key_Space); // a while later the blank is a click again
+        QCOMPARE(stage.List->ListIndex(), 2);
+        QCOMPARE(stage.Clicks.count(), 2);
+    }
+
+    void ControlAndEnterIsADoubleClick()
+    {
+        Stage stage;
+        QTest::keyClick(stage.List, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(stage.DoubleClicks.count(), 0); // on a row that nobody chose
+        stage.Press(Qt::Key_Down);
+        QTest::keyClick(stage.List, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(stage.Clicks.count(), 1);
+        QCOMPARE(stage.DoubleClicks.count(), 1);
+        QCOMPARE(stage.List->ListIndex(), 1);
     }
 
     void EnterAndSpaceAreTheClick_data()

@@ -1,15 +1,14 @@
 // The program of the window tests: the program's own application object, a United States desktop, no motion.
 #include "TestProgram.h"
 #include "Watchdog.h"
+#include "platform/controls/ClearEdges.h"
 #include "platform/values/Locale.h"
 #include "platform/windows/Application.h"
-
-#include <QStyleFactory>
 
 int main(int argc, char **argv)
 {
     Application application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ClearEdges(QStringLiteral("Fusion")));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     const Watchdog watchdog(qEnvironmentVariable("TALLYMERE_MODAL_LIMIT", QStringLiteral("10000")).toInt());
     return RunRegisteredTest(argc, argv);

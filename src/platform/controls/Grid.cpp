@@ -6,7 +6,6 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
 #include <algorithm>
@@ -19,7 +18,6 @@ constexpr int MeasuredLetter = 5; // pixels
 constexpr int RowsAtLeast = 6;
 constexpr int MostLetters = 120;  // that a grid claims the width of
 constexpr int HairlineAlpha = 60; // of 255
-constexpr int DefaultTwips = 960; // of a column that was given no width
 } // namespace
 
 /// The rows of a grid. The view is told of any number of changes at once, when the program comes to rest.
@@ -242,7 +240,7 @@ protected:
     }
 };
 
-Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
+Grid::Grid(QWidget *parent) : RowView(parent), m_model(new GridModel(this))
 {
     setHorizontalHeader(new GridHeading(this));
     setItemDelegate(new RowLook(this));
@@ -262,15 +260,10 @@ Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
     horizontalHeader()->setMinimumSectionSize(1);
     ShareHeight();
 
-    const auto clickRow = [this](int row) {
-        m_currentRow = row;
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this] {
+        SetCurrentRow(0);
         Q_EMIT Click();
-    };
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this, clickRow] {
-        selectionModel()->clear();
-        clickRow(0);
     });
-    connect(this, &QTableView::clicked, this, [=](const QModelIndex &index) { clickRow(index.row() + 1); });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
         SetCurrentRow(m_currentRow);
         ShareWidth();
@@ -280,9 +273,20 @@ Grid::Grid(QWidget *parent) : QTableView(parent), m_model(new GridModel(this))
 void Grid::SetShape(int rows, int columns)
 {
     m_model->SetShape(rows, columns);
-    m_twips.assign(std::size_t(columns), DefaultTwips);
+    m_twips.assign(std::size_t(columns), GridColumn().Twips);
     SetCurrentRow(0);
     ShareWidth();
+}
+
+void Grid::SetColumns(const QList<GridColumn> &columns, int rows)
+{
+    SetShape(rows, int(columns.size()));
+    for (int column = 0; column < int(columns.size()); ++column) {
+        SetText(0, column, columns[column].Heading);
+        SetBold(0, column, true);
+        SetColumnWidth(column, columns[column].Twips);
+        SetRightAligned(column, columns[column].Alignment == Qt::AlignRight);
+    }
 }
 
 int Grid::Rows() const
@@ -394,11 +398,19 @@ int Grid::ResultRow() const
 void Grid::SetCurrentRow(int row)
 {
     m_currentRow = row;
-    if (row > 0 && row <= m_model->rowCount())
+    if (row > 0 && row <= m_model->rowCount()) {
         selectionModel()->setCurrentIndex(m_model->index(row - 1, 0),
                                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    else
+    } else {
         selectionModel()->clear();
+        ForgetChoice();
+    }
+}
+
+void Grid::ClickRow(int row)
+{
+    SetCurrentRow(row + 1);
+    Q_EMIT Click();
 }
 
 /// The widths of the columns were measured with letters five pixels wide; today's are wider.
@@ -463,18 +475,4 @@ QSize Grid::minimumSizeHint() const
     const int scrollBar = 24;
     const int most = MostLetters * fontMetrics().averageCharWidth();
     return {qMin(NaturalWidth(), most) + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
-}
-
-void Grid::keyPressEvent(QKeyEvent *event)
-{
-    const int key = event->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-        if (currentIndex().isValid()) {
-            m_currentRow = currentIndex().row() + 1;
-            Q_EMIT Click();
-        }
-        return;
-    }
-    QTableView::keyPressEvent(event);
-    m_currentRow = currentIndex().isValid() ? currentIndex().row() + 1 : 0;
 }

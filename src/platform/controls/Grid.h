@@ -2,6 +2,8 @@
 // many thousands of them cost no widget and no waiting.
 #pragma once
 
+#include "platform/controls/RowView.h"
+
 #include <QTableView>
 #include <vector>
 
@@ -10,12 +12,21 @@ class GridModel;
 /// The colours of amounts, told by their customary numbers: 0 the text colour, 9 light blue, 12 light red.
 enum class GridColour { Text = 0, LightBlue = 9, LightRed = 12 };
 
-class Grid : public QTableView
+/// A column as its window lays it out.
+struct GridColumn {
+    QString Heading;
+    int Twips = 960;
+    Qt::AlignmentFlag Alignment = Qt::AlignLeft;
+};
+
+class Grid : public RowView<QTableView>
 {
     Q_OBJECT
 public:
     explicit Grid(QWidget *parent = nullptr);
 
+    /// An empty grid of these columns under bold headings, with that many rows, the heading included.
+    void SetColumns(const QList<GridColumn> &columns, int rows = 1);
     /// An empty grid of that size, heading included.
     void SetShape(int rows, int columns);
     int Rows() const;
@@ -61,12 +72,17 @@ public:
     void SetCurrentRow(int row);
 
 Q_SIGNALS:
-    /// A click on a cell or on the heading; CurrentRow() tells the row. Enter or Space on a row is a click, too.
+    /// A click on a row or on the heading; CurrentRow() is the row. Enter or Space on a row is a click, too
+    /// (RowView.h).
     void Click();
 
 protected:
+    void ClickRow(int row) override;
+    void MarkMoved(int row) override { m_currentRow = row + 1; }
+    void Arrived() override { SetCurrentRow(0); }
+    /// Letters that were meant for the window before move nothing.
+    void keyboardSearch(const QString &) override {}
     void resizeEvent(QResizeEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -2,9 +2,6 @@
 
 #include "platform/controls/RowLook.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
-
 namespace {
 
 class Item : public QListWidgetItem
@@ -17,21 +14,19 @@ public:
     }
 };
 
-} // namespace
-
-namespace {
 // What a list opens with room for.
 constexpr int LettersAtFirst = 40;
 constexpr int RowsAtFirst = 12;
+
 } // namespace
 
-ListBox::ListBox(QWidget *parent) : QListWidget(parent)
+ListBox::ListBox(QWidget *parent) : RowView(parent)
 {
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
     setTabKeyNavigation(false);
     setItemDelegate(new RowLook(this));
-    connect(this, &QListWidget::doubleClicked, this, [this] { Q_EMIT DoubleClick(); });
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { ShowMark(); });
 }
 
 int ListBox::ListIndex() const
@@ -60,16 +55,12 @@ void ListBox::SetListIndex(int row)
 void ListBox::Clear()
 {
     clear();
+    ForgetChoice();
 }
 
 void ListBox::AddItem(const QString &text)
 {
     addItem(new Item(text));
-}
-
-void ListBox::Mark(int row)
-{
-    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
 }
 
 QStringList ListBox::Items() const
@@ -87,53 +78,13 @@ QSize ListBox::sizeHint() const
         {LettersAtFirst * metrics.averageCharWidth(), RowsAtFirst * metrics.height()});
 }
 
-QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const
+void ListBox::ClickRow(int row)
 {
-    // Only the left button clicks; any other would leave a row selected that nobody was told of.
-    const auto isLeft = [event] {
-        const auto *mouse = static_cast<const QMouseEvent *>(event);
-        return event->type() == QEvent::MouseMove ? bool(mouse->buttons() & Qt::LeftButton)
-                                                  : mouse->button() == Qt::LeftButton;
-    };
-    const bool ofMouse = event && (event->type() == QEvent::MouseButtonPress ||
-                                   event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseMove);
-    return ofMouse && index.isValid() && isLeft() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+    Select(row);
+    Q_EMIT Click();
 }
 
-void ListBox::keyPressEvent(QKeyEvent *event)
+void ListBox::DoubleClickRow()
 {
-    const bool clicks = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
-                        (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier);
-    if (!clicks) {
-        QListWidget::keyPressEvent(event);
-        return;
-    }
-    if (currentItem() && (currentItem()->flags() & Qt::ItemIsEnabled)) {
-        Select(currentRow());
-        Q_EMIT Click();
-    }
-}
-
-void ListBox::mousePressEvent(QMouseEvent *event)
-{
-    QListWidget::mousePressEvent(event);
-    m_pressed = event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
-}
-
-void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        QListWidget::mouseDoubleClickEvent(event);
-}
-
-void ListBox::mouseReleaseEvent(QMouseEvent *event)
-{
-    QListWidget::mouseReleaseEvent(event);
-    if (event->button() != Qt::LeftButton || !m_pressed)
-        return;
-    // The selection has followed the mouse, so the row that it was let go on counts, not the one that it was pressed
-    // on.
-    m_pressed = false;
-    if (ListIndex() >= 0)
-        Q_EMIT Click();
+    Q_EMIT DoubleClick();
 }

@@ -1,11 +1,13 @@
-// A list whose click opens, picks or moves on: the arrow keys only move the mark, and Enter or Space is the click.
-// The selected row is the one that was clicked last; filling the list or moving the focus into it selects nothing.
-// A list that sorts (its property sortingEnabled) ignores case.
+// A list whose click opens, picks or moves on: the arrow keys only move the mark, and Enter or Space is the click
+// (RowView.h). The selected row is the one that was clicked last; filling the list or moving the focus into it selects
+// nothing. Ctrl+Enter is a double-click. A list that sorts (its property sortingEnabled) ignores case.
 #pragma once
+
+#include "platform/controls/RowView.h"
 
 #include <QListWidget>
 
-class ListBox : public QListWidget
+class ListBox : public RowView<QListWidget>
 {
     Q_OBJECT
 public:
@@ -19,8 +21,6 @@ public:
     void Clear();
     void AddItem(const QString &text);
     QStringList Items() const;
-    /// Puts the mark of the arrow keys on a row and selects nothing.
-    void Mark(int row);
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -29,13 +29,9 @@ Q_SIGNALS:
     void DoubleClick();
 
 protected:
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
+    void ClickRow(int row) override;
+    void DoubleClickRow() override;
 
 private:
     void Select(int row);
-    bool m_pressed = false;
 };

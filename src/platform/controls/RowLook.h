@@ -2,6 +2,8 @@
 // instead of one of its cells.
 #pragma once
 
+#include "platform/controls/Theme.h"
+
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -24,6 +26,7 @@ public:
             QColor mark = cell.palette.color(QPalette::Highlight);
             mark.setAlpha(FocusAlpha);
             painter->fillRect(cell.rect, mark);
+            DrawMarkEdge(painter, cell, index);
         }
         if (index.data(RuleAbove).toBool()) {
             QColor ink = cell.palette.color(QPalette::Text);
@@ -47,8 +50,24 @@ private:
                 return false;
         return true;
     }
+    /// A line around the whole row, of which each cell draws its part.
+    void DrawMarkEdge(QPainter *painter, const QStyleOptionViewItem &cell, const QModelIndex &index) const
+    {
+        const QRect edge = cell.rect.adjusted(0, 0, -1, -1);
+        painter->save();
+        painter->setPen(
+            ReadableOn(cell.palette.color(QPalette::Highlight), cell.palette.color(QPalette::Base), EdgeContrast));
+        painter->drawLine(edge.topLeft(), edge.topRight());
+        painter->drawLine(edge.bottomLeft(), edge.bottomRight());
+        if (index.column() == 0)
+            painter->drawLine(edge.topLeft(), edge.bottomLeft());
+        if (index.column() == index.model()->columnCount() - 1)
+            painter->drawLine(edge.topRight(), edge.bottomRight());
+        painter->restore();
+    }
     static constexpr int FocusAlpha = 50; // of 255
     static constexpr int RuleAlpha = 160;
+    static constexpr double EdgeContrast = 3;
 
     /// What the toolkit's own margin lacks to ours.
     int MoreMargin() const { return Margin - m_view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) - 1; }

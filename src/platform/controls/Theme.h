@@ -28,10 +28,6 @@ QColor ReadableOn(const QColor &pure, const QColor &background, double contrast 
 /// readable on `background`. 0 and every other index is `text`.
 QColor QBColor(int index, const QColor &background, const QColor &text);
 
-/// Complete palettes for a desktop that names no colours, and for looking at windows in both.
-QPalette LightPalette();
-QPalette DarkPalette();
-
 /// Gives the panel the rounded accent background and the text colour that goes with it; labels in it inherit that,
 /// buttons and lists keep their own colours. Follows the desktop's colours.
 /// For the title panels of splash, welcome and main window only.

@@ -1,5 +1,6 @@
 #include "platform/windows/Application.h"
 
+#include "platform/controls/ClearEdges.h"
 #include "platform/desk/Desk.h"
 #include "platform/values/RuntimeError.h"
 #include "platform/windows/WindowRegister.h"
@@ -19,6 +20,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     // only saves. The logout itself comes as QEvent::Quit.
     connect(this, &QGuiApplication::commitDataRequest, this, &Application::SaveRequested);
     connect(this, &QGuiApplication::saveStateRequest, this, &Application::SaveRequested);
+    setStyle(new ClearEdges);
     TheWindows.Start();
 }
 
@@ -32,6 +34,8 @@ bool Application::event(QEvent *event)
 
 bool Application::notify(QObject *receiver, QEvent *event)
 {
+    if (m_clickGuard.Swallows(receiver, *event))
+        return true;
     try {
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError &error) {

@@ -2,6 +2,8 @@
 // that it is to end from outside.
 #pragma once
 
+#include "platform/windows/ClickGuard.h"
+
 #include <QApplication>
 
 class Application : public QApplication
@@ -19,6 +21,9 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+
+private:
+    ClickGuard m_clickGuard;
 };
 
 class RuntimeError;

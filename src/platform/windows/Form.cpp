@@ -1,5 +1,7 @@
 #include "platform/windows/Form.h"
 
+#include "platform/controls/Fields.h"
+
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -33,7 +35,7 @@ Form::Form() : QWidget(nullptr, Qt::Window) {}
 void Form::GotFocus(QWidget *control)
 {
     if (auto *field = qobject_cast<QLineEdit *>(control))
-        field->selectAll();
+        SelectWhole(field);
     if (const auto handler = m_gotFocus.value(control))
         handler();
 }
@@ -77,9 +79,15 @@ void Form::EnterRing(const QList<QLineEdit *> &ring)
         QLineEdit *next = ring[(i + 1) % ring.size()];
         OnEnter(ring[i], [this, next] {
             FocusOn(next);
-            next->selectAll();
+            SelectWhole(next);
         });
     }
+}
+
+void Form::CurrencyWhenLeft(const QList<QLineEdit *> &fields)
+{
+    for (QLineEdit *field : fields)
+        OnLostFocus(field, [field] { ShowAsCurrency(field); });
 }
 
 void Form::OnEnter(QLineEdit *field, const std::function<void()> &handler)
@@ -108,8 +116,11 @@ bool Form::HandleEnter(QObject *control)
 bool Form::event(QEvent *event)
 {
     const bool done = QWidget::event(event);
-    if (event->type() == QEvent::Polish)
+    if (event->type() == QEvent::Polish) {
         ShowDescriptionsUnderThePointer();
+        for (QLineEdit *field : findChildren<QLineEdit *>())
+            ShowFromBeginning(field);
+    }
     if (event->type() == QEvent::Polish || event->type() == QEvent::FontChange)
         GiveFieldsTheirWidth();
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)

@@ -41,7 +41,7 @@ public:
     /// The instance ends.
     virtual void Unload() {}
     /// A control of this window got the focus, also each time the window is activated. The base selects the whole
-    /// text of a field and calls the handler of OnGotFocus.
+    /// text of a field, seen from its beginning, and calls the handler of OnGotFocus.
     virtual void GotFocus(QWidget *control);
     virtual void LostFocus(QWidget *control);
     /// Where the help opens on F1 in this window; 0 for its contents.
@@ -57,10 +57,16 @@ public:
     /// The control that has the focus or will have it when the window is activated.
     QWidget *FocusControl() const;
 
+Q_SIGNALS:
+    /// The user comes to this window, for the first time or again; its Activate follows.
+    void Arrives();
+
 protected:
     /// Enter moves from each of these fields to the next one, round and round, and selects its text; the key is
     /// swallowed.
     void EnterRing(const QList<QLineEdit *> &ring);
+    /// Each of these fields formats its text as currency when the focus leaves it; one that is no number stays.
+    void CurrencyWhenLeft(const QList<QLineEdit *> &fields);
     /// Enter in one field does this instead; the key is swallowed.
     void OnEnter(QLineEdit *field, const std::function<void()> &handler);
     void OnGotFocus(QWidget *control, const std::function<void()> &handler);

@@ -54,6 +54,7 @@ void WindowRegister::MakeActive(Form *form, bool byUser)
     }
     m_active = form;
     m_arriving = form;
+    Q_EMIT form->Arrives();
     form->Activate();
     if (move != m_moves || life != m_resets || m_active != form)
         return;

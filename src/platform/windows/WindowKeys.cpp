@@ -1,6 +1,7 @@
 // What the user's keys and clicks mean in every window.
 #include "platform/windows/WindowRegister.h"
 
+#include "platform/controls/Fields.h"
 #include "platform/desk/Desk.h"
 
 #include <QAbstractButton>
@@ -37,7 +38,7 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
         // The press has set the caret in a field that was selected as a whole when it got the focus.
         if (auto *field = qobject_cast<QLineEdit *>(watched); field && m_clicked == field && FormOf(field)) {
             if (!field->hasSelectedText())
-                field->selectAll();
+                SelectWhole(field);
             m_clicked = nullptr;
         }
         break;

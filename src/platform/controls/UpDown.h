@@ -1,4 +1,5 @@
-// A spinner: two small arrows beside a field. It counts nothing itself; it tells the steps that the user asks for.
+// A spinner at the right end of its field: two arrows, one over the other, as high as the field. It counts nothing
+// itself; it raises the steps that the user asks for.
 #pragma once
 
 #include <QWidget>
@@ -16,6 +17,7 @@ public:
     void SetMaximum(int maximum) { m_maximum = maximum; }
     /// The up and down keys in this field are steps too.
     void SetBuddy(QLineEdit *field);
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     void Stepped(int step); ///< 1 up, -1 down

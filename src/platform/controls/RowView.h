@@ -1,0 +1,165 @@
+// What lists and grids have in common: which row counts as chosen, and what is a click on it.
+//
+// The mark is the row that the keys stand on. It begins on the first row, moves with the arrow keys and selects
+// nothing. A row is selected by its click alone: the release of the left button on it, or Enter or Space once the user
+// has moved the mark or clicked. So a key that was meant for the window before, or is held down, picks nothing.
+#pragma once
+
+#include "platform/windows/Form.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPersistentModelIndex>
+#include <optional>
+
+template <class View>
+class RowView : public View
+{
+public:
+    using View::View;
+
+protected:
+    /// Selects the row and raises its click.
+    virtual void ClickRow(int row) = 0;
+    virtual void DoubleClickRow() {}
+    /// The user's key has moved the mark.
+    virtual void MarkMoved(int row) { Q_UNUSED(row) }
+    /// The user comes to the window, for the first time or again.
+    virtual void Arrived() { ForgetChoice(); }
+
+    /// No row counts as chosen, and the mark begins anew.
+    void ForgetChoice()
+    {
+        m_chosen = false;
+        MoveMark({});
+        ShowMark();
+    }
+    /// While it has the focus, a view that has rows has a mark.
+    void ShowMark()
+    {
+        if (this->hasFocus())
+            BeginMark();
+    }
+    void MoveMark(const QModelIndex &row)
+    {
+        this->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+    }
+
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &, const QEvent *) const override
+    {
+        return QItemSelectionModel::NoUpdate;
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        BeginMark();
+        // A blank belongs to a text that the user is typing to search for.
+        if (IsClick(*event) && !(event->key() == Qt::Key_Space && !m_searching.hasExpired())) {
+            if (m_chosen && !event->isAutoRepeat() && IsEnabled(this->currentIndex())) {
+                ClickRow(this->currentIndex().row());
+                if (event->modifiers() & Qt::ControlModifier)
+                    DoubleClickRow();
+            }
+            return;
+        }
+        const QModelIndex before = this->currentIndex();
+        View::keyPressEvent(event);
+        m_chosen = m_chosen || MovesTheMark(event->key());
+        if (this->currentIndex() != before)
+            MarkMoved(this->currentIndex().row());
+    }
+    void keyboardSearch(const QString &text) override
+    {
+        const QModelIndex before = this->currentIndex();
+        View::keyboardSearch(text);
+        m_searching.setRemainingTime(QApplication::keyboardInputInterval());
+        const QModelIndex found = this->currentIndex();
+        m_chosen = m_chosen || found != before || found.data().toString().startsWith(text, Qt::CaseInsensitive);
+    }
+
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        m_clicked.reset();
+        m_pressed = RowAt(*event, event->button());
+        if (m_pressed.isValid())
+            MoveMark(m_pressed);
+    }
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        const QModelIndex row = RowAt(*event, Qt::LeftButton);
+        if (!m_pressed.isValid() || !row.isValid())
+            return;
+        m_pressed = row;
+        MoveMark(row);
+    }
+    /// The mark has followed the mouse, so the row where it is released counts and not the one where it was pressed.
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        if (event->button() != Qt::LeftButton || !m_pressed.isValid())
+            return;
+        m_clicked = std::exchange(m_pressed, {});
+        m_chosen = true;
+        ClickRow(m_clicked->row());
+    }
+    void mouseDoubleClickEvent(QMouseEvent *event) override
+    {
+        const bool rowIsGone = m_clicked && !m_clicked->isValid(); // the first click has filled the view anew
+        if (event->button() != Qt::LeftButton || rowIsGone)
+            return;
+        const QModelIndex row = RowAt(*event, Qt::LeftButton);
+        if (row.isValid() && m_clicked && row.row() == m_clicked->row())
+            DoubleClickRow();
+        else
+            mousePressEvent(event); // the second of two quick clicks on different rows
+    }
+
+    void showEvent(QShowEvent *event) override
+    {
+        View::showEvent(event);
+        if (auto *form = qobject_cast<Form *>(this->window()); form && form != m_form) {
+            m_form = form;
+            QObject::connect(form, &Form::Arrives, this, [this] { Arrived(); });
+        }
+    }
+
+private:
+    /// The mark begins on the first row that can be chosen. The view stays where it is scrolled to.
+    void BeginMark()
+    {
+        if (this->currentIndex().isValid())
+            return;
+        int row = 0;
+        while (row < this->model()->rowCount() && !IsEnabled(this->model()->index(row, 0)))
+            ++row;
+        const bool scrolls = this->hasAutoScroll();
+        this->setAutoScroll(false);
+        MoveMark(this->model()->index(row, 0));
+        this->setAutoScroll(scrolls);
+    }
+    static bool IsClick(const QKeyEvent &event)
+    {
+        const int key = event.key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter ||
+               (key == Qt::Key_Space && event.modifiers() == Qt::NoModifier);
+    }
+    static bool MovesTheMark(int key)
+    {
+        return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
+               key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+    }
+    static bool IsEnabled(const QModelIndex &row) { return row.isValid() && (row.flags() & Qt::ItemIsEnabled); }
+    QModelIndex RowAt(const QMouseEvent &event, Qt::MouseButton button) const
+    {
+        const QModelIndex row = this->indexAt(event.position().toPoint());
+        return button == Qt::LeftButton && IsEnabled(row) ? row : QModelIndex();
+    }
+
+    bool m_chosen = false;                          // the user has moved the mark or clicked
+    QDeadlineTimer m_searching;                     // until then a blank goes on with the text that is searched for
+    QPersistentModelIndex m_pressed;                // the row that the button is held down on
+    std::optional<QPersistentModelIndex> m_clicked; // the row that the mouse has clicked last
+    QPointer<Form> m_form;
+};
