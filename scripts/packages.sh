@@ -32,11 +32,13 @@ packages_to_test=(
     ccache              # keeps what was compiled once, for the next build of the same file
 )
 
-# What .ci/run checks besides.
-# shellcheck disable=SC2034  # read by .ci/run
+# What scripts/check-code looks at the code with, beside what the tests need.
+# shellcheck disable=SC2034  # read by check-code
 packages_to_check=(
+    "${packages_to_test[@]}"
     clang-format        # the layout of the code
     clang-tidy          # finds what compilers do not warn of
+    shellcheck          # the same for shell scripts
 )
 
 # announce_size COMMAND...: how much that installation brings, in apt's own words, since nothing is heard while it runs.

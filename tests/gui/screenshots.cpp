@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QDateTime TimeOfPictures(QDate(2026, 11, 16), QTime(9, 30));
+const QDateTime TimeOfPictures(QDate(2026, 1, 5), QTime(9, 30));
 
 /// The picture with at most 256 colours, which takes a third of the room. Where it has more, neighbours are made equal
 /// in steps that the eye does not see.
