@@ -5,13 +5,14 @@
 
 data_files=(environm.ini creditor.txt regulars.txt extra.txt projects.txt mastshop.txt)
 
-# found FOLDER NAME: the file or folder of that name in any letter case, as the program finds it; nothing where none is.
-found() {
-    [[ ! -d $1 ]] || find -L "$1" -maxdepth 1 -iname "$2" -print -quit
-}
-
+# is_there FOLDER NAME: a file or folder of that name in any letter case, as the program finds it; `there` is its path then,
+# else FOLDER/NAME.
 is_there() {
-    [[ -n $(found "$1" "$2") ]]
+    for there in "$1"/*; do
+        if [[ ${there,,} == "${1,,}/${2,,}" && -e $there ]]; then return 0; fi
+    done
+    there=$1/$2
+    return 1
 }
 
 has_household() {
@@ -70,8 +71,7 @@ move_household() {
 
 # lay_file SOURCE TARGET: under its name only when it is whole.
 lay_file() {
-    local unfinished
-    unfinished=$(dirname "$2")/.unfinished
+    local unfinished=${2%/*}/.unfinished
     cp "$1" "$unfinished"
     mv -fT "$unfinished" "$2"
 }
@@ -88,12 +88,12 @@ lay_program() {
 # The help texts and pictures that FOLDER lacks; what is there stays, as users may have their own tips.
 lay_help() {
     local folder=$1 file help
-    help=$(found "$folder" help)
-    help=${help:-$folder/help}
+    is_there "$folder" help || true
+    help=$there
     mkdir -p "$help"
     is_there "$folder" TIPOFDAY.TXT || lay_file household/TIPOFDAY.TXT "$folder/TIPOFDAY.TXT"
     for file in household/help/*; do
-        is_there "$help" "$(basename "$file")" || lay_file "$file" "$help/$(basename "$file")"
+        is_there "$help" "${file##*/}" || lay_file "$file" "$help/${file##*/}"
     done
 }
 
@@ -110,9 +110,10 @@ lay_household() {
     done
 
     # The empty store list belongs to the household as long as the settings name it.
-    store=$(sed -n '8s/["\r]//gp' "$(found "$folder" environm.ini)")
-    stores=$(found "$folder" stores)
-    stores=${stores:-$folder/stores}
+    is_there "$folder" environm.ini
+    store=$(sed -n '8s/["\r]//gp' "$there")
+    is_there "$folder" stores || true
+    stores=$there
     mkdir -p "$stores"
     if [[ ${store,,} == untitled.lst ]] && ! is_there "$stores" untitled.lst; then
         lay_file household/stores/untitled.lst "$stores/untitled.lst"
