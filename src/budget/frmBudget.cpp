@@ -3,6 +3,7 @@
 #include "foundation/State.h"
 #include "foundation/StatementGrid.h"
 #include "platform/controls/Icons.h"
+#include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 
 using namespace Qt::Literals::StringLiterals;

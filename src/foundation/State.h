@@ -35,7 +35,6 @@ constexpr int MostForecastPeriods = 1000;
 constexpr int MostExtraItems = 200;
 constexpr int MostProjectEntries = 100;
 constexpr int MostTutorPages = 26;
-constexpr int MostForecastPeriods = 1000;
 
 struct ExtraPayPeriodRecord {
     DateText PayPeriodDate;

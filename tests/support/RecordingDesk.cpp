@@ -36,9 +36,10 @@ void ResetProgram()
     Scan = {};
     Extras = {};
     Projects = {};
-    ShowBudgetPage = nullptr;
-    FillPayPeriodList = nullptr;
-    TheTutorRequests.disconnect();
+    // Whoever stands behind a door and outlived its test hears no more of it.
+    for (QObject *door : std::initializer_list<QObject *>{&TheTutorRequests, &TheBudgetOutlet, &TheForecastOutlet,
+                                                          &ThePayPeriodOutlet, &TheCompletionDateOutlet})
+        door->disconnect();
 }
 
 RecordingDesk::RecordingDesk() : m_before(TheDesk)
