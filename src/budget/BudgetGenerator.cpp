@@ -176,7 +176,7 @@ void GenerateBudget()
         CalculateBudget(nullptr);
         return;
     }
-    Statement statement;
+    Statement statement{.Name = u"Budget"_s};
     CalculateBudget(&statement);
     if (isShown)
         Q_EMIT TheBudgetOutlet.Ready(statement);

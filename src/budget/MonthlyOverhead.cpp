@@ -28,7 +28,8 @@ Statement CalculateOverhead()
     State.BudgetBalance = Overhead.MonthlyNetIncome;
     Statement statement{.Heading = u"OVERHEAD"_s,
                         .Opening = {{u"Monthly Net Income"_s}, {Overhead.MonthlyNetIncome}},
-                        .FirstRow = 2}; // an empty row below the income
+                        .FirstRow = 2,
+                        .Name = u"Overhead"_s}; // an empty row below the income
     Currency total;
     const auto add = [&](const QString &label, Currency amount) {
         statement.Rows.push_back({{label}, {amount}});

@@ -64,7 +64,10 @@ StatementRow ForecastHeadings()
 
 Statement ForecastStatement()
 {
-    Statement statement{.Heading = u"SAVINGS FORECAST"_s, .Opening = ForecastHeadings(), .Numbered = true};
+    Statement statement{.Heading = u"SAVINGS FORECAST"_s,
+                        .Opening = ForecastHeadings(),
+                        .Numbered = true,
+                        .Name = u"Savings Forecast"_s};
     for (int number = 1; number <= State.ForecastPeriods; ++number) {
         const ForecastRow &row = Forecast.Rows(number);
         statement.Rows.push_back(

@@ -150,14 +150,14 @@ Statement ProjectStatement(int project)
 {
     Statement statement{
         .Heading = State.ProjectNames(project),
-        .Opening = {{QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated")}}};
+        .Opening = {{QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated")}},
+        .Name = State.ProjectNames(project)};
     Currency total;
     for (int entry = 1; entry <= EntriesOf(project); ++entry) {
         const Currency amount = State.ProjectEntryAmounts(project)(entry);
         total += amount;
-        statement.Rows.push_back({{FormatLongDate(State.ProjectEntryDates(project)(entry))},
-                                  {amount, total},
-                                  StatementRow::Signed});
+        statement.Rows.push_back(
+            {{FormatLongDate(State.ProjectEntryDates(project)(entry))}, {amount, total}, StatementRow::Signed});
     }
     return statement;
 }

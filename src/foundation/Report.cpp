@@ -33,6 +33,7 @@ void PrintCentred(const QString &text)
 void PrintStatement(const Statement &statement, const PageColumns &columns)
 {
     ApplyPrintSettings();
+    ThePrinter.DocumentName = statement.Name;
     PrintCentred(QStringLiteral("The Corvelle's Tallymere 1.0"));
     if (!statement.Opening.Texts.isEmpty()) {
         PrintCentred(statement.Heading);

@@ -32,6 +32,7 @@ struct Statement {
     std::vector<StatementRow> Rows = {};
     int FirstRow = 1;      ///< of the grid; 2 leaves an empty row below the opening
     bool Numbered = false; ///< whether the grid, but not the page, tells the number of each row in front
+    QString Name = {};     ///< of the printed document: "Savings Forecast"
 };
 
 /// A statement's way to the window that shows it. The window connects with itself as context, so that the connection

@@ -101,8 +101,7 @@ private Q_SLOTS:
             for (std::size_t i = 0; i < rows.size(); ++i) {
                 QCOMPARE(rows[i].TheKind, StatementRow::Signed);
                 QCOMPARE(rows[i].Texts, QStringList{Format(QDate(2003, 12, 31).addDays(7 * int(i)), DateFormat::Long)});
-                QCOMPARE(rows[i].Amounts,
-                         (std::vector{Dollars(i == 0 ? -2765.44 : 1234.56), Dollars(accumulated[i])}));
+                QCOMPARE(rows[i].Amounts, (std::vector{Dollars(i == 0 ? -2765.44 : 1234.56), Dollars(accumulated[i])}));
                 // What is shown reads back as the same amount.
                 for (const Currency amount : rows[i].Amounts)
                     QVERIFY2(ToCurrency(FormatCurrency(amount)) == amount, qPrintable(locale.name()));
@@ -144,6 +143,7 @@ private Q_SLOTS:
         QCOMPARE(State.Creditors(1).CreditorAmount, Dollars(0.5));
         QCOMPARE(State.Regulars(1).RegularAmount, Dollars(-0.25));
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItemAmount, Dollars(4000));
+        QCOMPARE(desk.TakeFiles(), (QStringList{u"creditor.txt"_s, u"extra.txt"_s, u"regulars.txt"_s}));
     }
 };
 

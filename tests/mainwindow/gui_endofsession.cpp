@@ -98,7 +98,8 @@ private Q_SLOTS:
     {
         m_desk = std::make_unique<RecordingDesk>();
         // The household lies in the folder of the program.
-        QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + u"/steered_program"_s, m_desk->Path(u"program"_s)));
+        QVERIFY(
+            QFile::copy(QCoreApplication::applicationDirPath() + u"/steered_program"_s, m_desk->Path(u"program"_s)));
     }
     void cleanupTestCase() { m_desk.reset(); }
 
@@ -185,7 +186,8 @@ private Q_SLOTS:
         QDir(desk.Folder()).mkdir(u"environm.ini"_s); // no file can take its place
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Error \\d+"_s));
         LeaveWithoutQuestion();
-        QVERIFY(desk.Ended);
+        QVERIFY(desk.TakeEnd());
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"close"_s});
         QCOMPARE(desk.Messages.size(), 0);
         ShowMessage(u"later"_s, {}, Icon::None);
         QCOMPARE(desk.TakeMessage().Text, u"later"_s); // only then was it quiet

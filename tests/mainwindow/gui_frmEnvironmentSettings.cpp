@@ -214,8 +214,7 @@ private Q_SLOTS:
         GuiDesk desk;
         TakeHousehold();
         Show(Window);
-        for (const QString &next :
-             {Paycheck, Tax, Net, u"optPayFrequency1"_s, u"cmdExit"_s, Forecast}) {
+        for (const QString &next : {Paycheck, Tax, Net, u"optPayFrequency1"_s, u"cmdExit"_s, Forecast}) {
             QTest::keyClick(TheWindows.Loaded(Window)->FocusControl(), Qt::Key_Tab);
             Settle();
             QCOMPARE(FocusOf(Window), next);

@@ -88,15 +88,16 @@ private Q_SLOTS:
             "Paycheck Amount does not contain a valid currency amount", "txtPaycheckAmount");
         row("sales tax", {Good.ForecastPeriods, Good.PaycheckAmount, bad, Good.AverageNetPercentage},
             "Sales Tax does not contain a valid numeric amount", "txtSalesTax");
-        row("net percentage, which is called a due date", {Good.ForecastPeriods, Good.PaycheckAmount, Good.SalesTax, bad},
+        row("net percentage, which is called a due date",
+            {Good.ForecastPeriods, Good.PaycheckAmount, Good.SalesTax, bad},
             "Due Date does not contain a valid numeric amount", "txtAverageNetPercentage");
         row("empty is no number", {{}, Good.PaycheckAmount, Good.SalesTax, Good.AverageNetPercentage},
             "Forecast Periods does not contain a valid numeric amount", "txtForecastPeriods");
         row("a per cent sign is no number",
             {Good.ForecastPeriods, Good.PaycheckAmount, u"6%"_s, Good.AverageNetPercentage},
             "Sales Tax does not contain a valid numeric amount", "txtSalesTax");
-        row("all: the first is reported", {bad, bad, bad, bad}, "Forecast Periods does not contain a valid numeric amount",
-            "txtForecastPeriods");
+        row("all: the first is reported", {bad, bad, bad, bad},
+            "Forecast Periods does not contain a valid numeric amount", "txtForecastPeriods");
         row("the last three: the paycheck is reported", {Good.ForecastPeriods, bad, bad, bad},
             "Paycheck Amount does not contain a valid currency amount", "txtPaycheckAmount");
         row("the last two: the tax is reported", {Good.ForecastPeriods, Good.PaycheckAmount, bad, bad},

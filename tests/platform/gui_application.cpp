@@ -59,7 +59,8 @@ private Q_SLOTS:
         QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
         QCoreApplication::sendPostedEvents(&thrower);
         QCOMPARE(desk.TakeMessage(), (Message{text, AppTitle, Icon::Stop}));
-        QVERIFY(desk.Ended);
+        QVERIFY(desk.TakeEnd());
+        QCOMPARE(desk.TakeHourglass(), QList{false});
     }
 
     void TheDesktopKnowsTheProgram() { QCOMPARE(QGuiApplication::desktopFileName(), u"tallymere"_s); }

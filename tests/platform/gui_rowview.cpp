@@ -16,7 +16,7 @@ void AddRows()
 {
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("control");
-    const GuiDesk desk;
+    GuiDesk desk;
     int found = 0;
     for (const QString &window : TheWindows.Names()) {
         for (const Control *control : TheWindows.Touch(window).findChildren<Control *>()) {
@@ -26,12 +26,14 @@ void AddRows()
     }
     if (found == 0)
         qFatal("no window has such a control");
+    desk.TakeAll();
 }
 
 template <class Control>
 Control &Present(const QString &window, const QString &name)
 {
     State.CurrentPayPeriodConfirmed = true;
+    State.CurrentPayPeriod = u"01-05-2004"_s;
     Show(window);
     Form &form = *TheWindows.Loaded(window);
     auto &control = Find<Control>(window, name);
@@ -78,6 +80,7 @@ private Q_SLOTS:
         QFETCH(QString, control);
         GuiDesk desk;
         auto &list = Present<ListBox>(window, control);
+        desk.TakeAll(); // how the window came to be is no matter here
         FillList(list);
         QSignalSpy clicks(&list, &ListBox::Click);
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, PlaceOf(list, 0));
@@ -99,6 +102,7 @@ private Q_SLOTS:
         QFETCH(QString, control);
         GuiDesk desk;
         auto &list = Present<ListBox>(window, control);
+        desk.TakeAll(); // how the window came to be is no matter here
         FillList(list);
         QSignalSpy clicks(&list, &ListBox::Click);
         QTest::keyClick(&list, Qt::Key_Return);
@@ -127,6 +131,7 @@ private Q_SLOTS:
         QFETCH(QString, control);
         GuiDesk desk;
         auto &grid = Present<Grid>(window, control);
+        desk.TakeAll(); // how the window came to be is no matter here
         QSignalSpy clicks(&grid, &Grid::Click);
         const auto fill = [&] {
             grid.SetShape(1, grid.Columns());

@@ -205,6 +205,7 @@ private Q_SLOTS:
         Loans desk;
         Press(u"cmdExit"_s);
         QVERIFY(!TheWindows.Loaded(Loan));
+        QVERIFY(desk.TakeEnd()); // it was the last window
         QCOMPARE(LoanWindow::Closings, QList{Form::CloseMode::Code});
     }
 
@@ -214,6 +215,7 @@ private Q_SLOTS:
         QTest::keyClick(&Control(u"txtAmount"_s), Qt::Key_Escape);
         Settle();
         QVERIFY(!TheWindows.Loaded(Loan));
+        QVERIFY(desk.TakeEnd()); // it was the last window
         QCOMPARE(LoanWindow::Closings, QList{Form::CloseMode::CloseBox});
     }
 

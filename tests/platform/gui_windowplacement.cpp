@@ -137,6 +137,7 @@ private Q_SLOTS:
         TheWindows.Touch(u"frmMain"_s).move(3, 4);
         Show(u"frmMain"_s); // from the hub
         QCOMPARE(PlaceOf(u"frmMain"_s).topLeft(), QPoint(3, 4));
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
     }
 };
 

@@ -121,6 +121,19 @@ bool RecordingDesk::TakeBeep()
     return true;
 }
 
+void RecordingDesk::TakeAll()
+{
+    Messages.clear();
+    Printed.clear();
+    HelpQuestions.clear();
+    Beeps = 0;
+    HourglassCalls.clear();
+    CalculatorCalls.clear();
+    SavedOptions.clear();
+    Ended = false;
+    TakeFiles();
+}
+
 QStringList RecordingDesk::TakeCalculatorCalls()
 {
     return std::exchange(CalculatorCalls, {});

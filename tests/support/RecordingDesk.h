@@ -32,6 +32,8 @@ public:
     QList<bool> TakeHourglass();
     /// Whether the program was ended.
     bool TakeEnd();
+    /// Takes everything so far: for tests of something else than what windows do.
+    void TakeAll();
     /// What an option was set to; null if it was not set since it was taken last.
     QString TakeOption(const QString &key);
     /// The files of the folder that were written or removed by others than the test since they were taken or read
