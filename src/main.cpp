@@ -1,4 +1,5 @@
 #include "Windows.h"
+#include "foundation/Identity.h"
 #include "mainwindow/EndOfSession.h"
 #include "platform/controls/Icons.h"
 #include "platform/desk/RealDesk.h"
@@ -10,9 +11,9 @@
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv);
-    application.setWindowIcon(ThemedIcon(QStringLiteral("tallymere")));
-    InstallRealDesk(QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
+    Application application(argc, argv, ProgramName);
+    application.setWindowIcon(ThemedIcon(ProgramName.toLower()));
+    InstallRealDesk(AppTitle, QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
     RegisterWindows();
     QObject::connect(&application, &Application::SaveRequested, SaveWithoutQuestion);
     QObject::connect(&application, &Application::EndRequested, LeaveWithoutQuestion);

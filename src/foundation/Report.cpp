@@ -1,5 +1,6 @@
 #include "foundation/Report.h"
 
+#include "foundation/Identity.h"
 #include "foundation/StartAndEnd.h"
 #include "platform/values/Format.h"
 
@@ -34,7 +35,7 @@ void PrintStatement(const Statement &statement, const PageColumns &columns)
 {
     ApplyPrintSettings();
     ThePrinter.DocumentName = statement.Name;
-    PrintCentred(QStringLiteral("The Corvelle's Tallymere 1.0"));
+    PrintCentred(ReportTitle);
     if (!statement.Opening.Texts.isEmpty()) {
         PrintCentred(statement.Heading);
         PrintRow(statement.Opening, columns);

@@ -297,7 +297,7 @@ private Q_SLOTS:
         ToyBox toys;
         QTemporaryDir folder;
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(folder.path());
+        InstallRealDesk(QStringLiteral("Toys"), folder.path());
         TheDesk.EndProgram = end;
         ShowAtRest("C", Below);
         ShowAtRest("A", Left);
@@ -328,7 +328,7 @@ private Q_SLOTS:
         ToyBox toys;
         QTemporaryDir folder;
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(folder.path());
+        InstallRealDesk(QStringLiteral("Toys"), folder.path());
         TheDesk.EndProgram = end;
         ShowAtRest("A", Left);
         ShowAtRest("B", Right);
@@ -519,7 +519,7 @@ int main(int argc, char **argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--stranger") == 0)
         return BeAStranger(argc, argv);
-    Application application(argc, argv);
+    Application application(argc, argv, QStringLiteral("Toys"));
     e2e_life test;
     return QTest::qExec(&test, argc, argv);
 }

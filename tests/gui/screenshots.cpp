@@ -78,7 +78,7 @@ bool TakePicture(const QString &window, Household household, bool dark, const QS
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv);
+    Application application(argc, argv, QStringLiteral("Tallymere"));
     if (argc != 2) {
         qWarning("it is: screenshots FOLDER");
         return 2;

@@ -1,4 +1,5 @@
 // The real message boxes: what stands in them and what their buttons do; and where the file dialogs open.
+#include "foundation/Identity.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
 #include "platform/desk/RealDesk.h"
@@ -42,7 +43,7 @@ private Q_SLOTS:
     {
         m_toys = std::make_unique<ToyBox>();
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(m_folder.path());
+        InstallRealDesk(AppTitle, m_folder.path());
         TheDesk.EndProgram = end;
         Show("A");
         Settle();
@@ -166,7 +167,7 @@ private Q_SLOTS:
     void ABoxBeforeTheFirstWindowStandsAlone()
     {
         m_toys = std::make_unique<ToyBox>();
-        InstallRealDesk(m_folder.path());
+        InstallRealDesk(AppTitle, m_folder.path());
         Ask({"text", "title"}, [&](QMessageBox &box) { QVERIFY(!box.parentWidget()); });
     }
 

@@ -1,4 +1,5 @@
 // The real desk: its own boxes, and what they wait for.
+#include "foundation/Identity.h"
 #include "InChild.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
@@ -81,7 +82,7 @@ private:
     void ShowWindows()
     {
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(m_folder.filePath(u"printed"_s));
+        InstallRealDesk(AppTitle, m_folder.filePath(u"printed"_s));
         TheDesk.EndProgram = end;
         TheDesk.Now = [] { return QDateTime(QDate(2026, 11, 21), QTime(9, 30)); };
         Show("A");
@@ -184,7 +185,7 @@ private Q_SLOTS:
         ShowWindows();
         const QString said = m_folder.filePath(u"said"_s);
         QCOMPARE(InChild([&] {
-                     InstallRealDesk(m_folder.filePath(u"printed"_s));
+                     InstallRealDesk(AppTitle, m_folder.filePath(u"printed"_s));
                      Reader reader;
                      QTimer::singleShot(300, &reader, [&] {
                          QFile file(said);

@@ -1,4 +1,5 @@
 // The life of windows: what each of them hears, in which order, and that it is heard before the call returns.
+#include "foundation/Identity.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
 #include "platform/controls/ListBox.h"
@@ -1420,7 +1421,7 @@ private:
     void UseRealBoxes()
     {
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(m_folder.path());
+        InstallRealDesk(AppTitle, m_folder.path());
         TheDesk.EndProgram = end;
     }
 };

@@ -1,4 +1,6 @@
 // The options store: per user, under the program's title, section "Options".
+#include "foundation/Identity.h"
+#include "platform/desk/Desk.h"
 #include "TestProgram.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/Options.h"
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(m_home.isValid());
+        TheDesk.ProgramTitle = AppTitle;
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_home.path());
     }
     void init() { QFile::remove(m_home.filePath(AppTitle + QStringLiteral(".ini"))); }

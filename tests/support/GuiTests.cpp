@@ -1,5 +1,6 @@
 // The program of the window tests: the program's own application object, a United States desktop, no motion.
 #include "TestProgram.h"
+#include "foundation/Identity.h"
 #include "Watchdog.h"
 #include "platform/controls/ClearEdges.h"
 #include "platform/values/Locale.h"
@@ -7,7 +8,7 @@
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv);
+    Application application(argc, argv, ProgramName);
     QApplication::setStyle(new ClearEdges(QStringLiteral("Fusion")));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     const Watchdog watchdog(qEnvironmentVariable("TALLYMERE_MODAL_LIMIT", QStringLiteral("10000")).toInt());

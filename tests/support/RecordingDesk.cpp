@@ -45,6 +45,7 @@ void ResetProgram()
 RecordingDesk::RecordingDesk() : m_before(TheDesk)
 {
     ResetProgram();
+    TheDesk.ProgramTitle = AppTitle;
     State.ApplicationPath = Folder();
     State.StoresDirectory = Folder() + QStringLiteral("\\stores\\");
     TheDesk.ShowMessage = [this](const Message &message) {

@@ -2,6 +2,7 @@
 // only what was scripted. The whole program is put back when it comes and when it goes.
 #pragma once
 
+#include "foundation/Identity.h"
 #include "foundation/State.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/Printer.h"

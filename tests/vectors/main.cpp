@@ -25,7 +25,7 @@ int main(int argc, char **argv)
 {
     // Windows are only filled and read, so no display is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    Application application(argc, argv);
+    Application application(argc, argv, QStringLiteral("Tallymere"));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     QTextStream out(stdout);
     if (argc != 2) {

@@ -81,7 +81,9 @@ bool Runs(const StartedCalculator &calculator = Started)
 /// The name under which the oldest of the calculators is started, to know its window by.
 QString InstanceName()
 {
-    return QStringLiteral("tallymere-calculator-%1").arg(QCoreApplication::applicationPid());
+    return QStringLiteral("%1-calculator-%2")
+        .arg(QCoreApplication::applicationName().toLower())
+        .arg(QCoreApplication::applicationPid());
 }
 
 /// Starts a calculator that lives on by itself, and tells its process; 0 if it could not be started.

@@ -9,9 +9,6 @@
 #include <QString>
 #include <functional>
 
-/// The program's title as the platform knows it: options store and default error report use it.
-inline const QString AppTitle = QStringLiteral("Corvelle's Tallymere 1.0");
-
 enum class Icon { None, Stop, Question, Warning, Information };
 enum class Buttons { Ok, OkHelp, YesNo };
 enum class Answer { Ok, Yes, No };
@@ -43,6 +40,7 @@ struct HelpQuestion {
 };
 
 struct Desk {
+    QString ProgramTitle; ///< options store, default error report and the platform's own messages go by it
     std::function<Answer(const Message &)> ShowMessage;
     std::function<QString(const FileQuestion &)> AskFile; ///< empty: cancelled
     std::function<void(const HelpQuestion &)> ShowHelp;

@@ -20,14 +20,14 @@ QString StoredKey(const QSettings &store, const QString &key)
 
 QString GetSetting(const QString &key, const QString &fallback)
 {
-    QSettings store(QSettings::IniFormat, QSettings::UserScope, AppTitle);
+    QSettings store(QSettings::IniFormat, QSettings::UserScope, TheDesk.ProgramTitle);
     store.beginGroup(QLatin1String(Section));
     return store.value(StoredKey(store, key), fallback).toString();
 }
 
 void SaveSetting(const QString &key, const QString &value)
 {
-    QSettings store(QSettings::IniFormat, QSettings::UserScope, AppTitle);
+    QSettings store(QSettings::IniFormat, QSettings::UserScope, TheDesk.ProgramTitle);
     store.beginGroup(QLatin1String(Section));
     store.setValue(StoredKey(store, key), value);
     store.sync(); // the way out ends the process at once

@@ -138,7 +138,7 @@ QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPain
         RaiseError(RuntimeError::DeviceError);
     {
         QPdfWriter pdf(&file);
-        pdf.setCreator(AppTitle);
+        pdf.setCreator(TheDesk.ProgramTitle);
         pdf.setTitle(job.Name);
         pdf.setPageSize(QPageSize(PaperOf(UserLocale())));
         pdf.setPageMargins(PageMargins, QPageLayout::Millimeter);

@@ -144,7 +144,7 @@ public:
         const QString words = paths.size() == 1
                                   ? QStringLiteral("No printer could be used. The printed pages are in the file\n%1")
                                   : QStringLiteral("No printer could be used. The printed pages are in the files\n%1");
-        ShowMessage(words.arg(paths.join(QLatin1Char('\n'))), AppTitle, Icon::Information);
+        ShowMessage(words.arg(paths.join(QLatin1Char('\n'))), TheDesk.ProgramTitle, Icon::Information);
     }
 
 private:
@@ -165,12 +165,14 @@ private:
 
 } // namespace
 
-void InstallRealDesk(const QString &printedFolder)
+void InstallRealDesk(const QString &programTitle, const QString &printedFolder)
 {
+    TheDesk.ProgramTitle = programTitle;
     TheDesk.ShowMessage = ShowBox;
     TheDesk.AskFile = AskFile;
     TheDesk.ShowHelp = [](const HelpQuestion &) {
-        ShowMessage(QStringLiteral("The help pages are not part of this version yet."), AppTitle, Icon::Information);
+        ShowMessage(QStringLiteral("The help pages are not part of this version yet."), TheDesk.ProgramTitle,
+                    Icon::Information);
     };
     const auto notice = std::make_shared<PdfNotice>();
     TheDesk.PrintDocument = [printedFolder, notice](const PrintJob &job) {

@@ -10,11 +10,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+Application::Application(int &argc, char **argv, const QString &name) : QApplication(argc, argv)
 {
-    setApplicationName(u"Tallymere"_s);
+    setApplicationName(name);
     setApplicationDisplayName(QString());
-    setDesktopFileName(u"tallymere"_s);
+    setDesktopFileName(name.toLower());
     setQuitOnLastWindowClosed(false); // the register decides
     // The session manager asks for a checkpoint as well as before a logout, which the user may still call off: so this
     // only saves. The logout itself comes as QEvent::Quit.
@@ -56,6 +56,7 @@ void ReportFatalError(const RuntimeError &error)
         return;
     const QScopedValueRollback once(reporting, true);
     TheDesk.Hourglass(false);
-    ShowMessage(u"Run-time error '%1':\n\n%2"_s.arg(int(error.Number)).arg(error.Description()), AppTitle, Icon::Stop);
+    ShowMessage(u"Run-time error '%1':\n\n%2"_s.arg(int(error.Number)).arg(error.Description()), TheDesk.ProgramTitle,
+                Icon::Stop);
     TheDesk.EndProgram();
 }

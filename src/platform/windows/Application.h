@@ -10,7 +10,8 @@ class Application : public QApplication
 {
     Q_OBJECT
 public:
-    Application(int &argc, char **argv);
+    /// name: the program's short name, in small letters also that of its desktop file.
+    Application(int &argc, char **argv, const QString &name);
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
@@ -28,6 +29,6 @@ private:
 
 class RuntimeError;
 
-/// The default report of an error: title AppTitle, "Run-time error '13':", an empty line, the description. Then the
-/// program ends. What else fails while the report stands open is not reported.
+/// The default report of an error: title TheDesk.ProgramTitle, "Run-time error '13':", an empty line, the description.
+/// Then the program ends. What else fails while the report stands open is not reported.
 void ReportFatalError(const RuntimeError &error);
