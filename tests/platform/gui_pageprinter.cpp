@@ -92,7 +92,7 @@ public:
         : QPdfWriter(failure == AtTheStart ? path + "/nowhere" : path), m_failure(failure), m_engine(failure)
     {
     }
-    bool newPage() override { return m_failure != AtTheSecondPage && QPdfWriter::newPage(); }
+    bool newPage() override { return m_failure == AtTheEnd || (m_failure != AtTheSecondPage && QPdfWriter::newPage()); }
 
 protected:
     QPaintEngine *paintEngine() const override

@@ -97,10 +97,9 @@ void RequireRoom(const QFileInfo &oldFile, qint64 bytes)
     struct statvfs disk = {};
     if (::stat(path.constData(), &old) != 0 || ::statvfs(path.constData(), &disk) != 0 || disk.f_blocks == 0)
         return; // a disk that does not tell its room is known to be full only by writing to it
-    const qint64 block = qint64(disk.f_frsize);
     // The room of a file that has another name as well does not become free.
     const qint64 freed = old.st_nlink == 1 ? qint64(old.st_blocks) * 512 : 0;
-    if (qint64(disk.f_bavail) * block + freed < (bytes + block - 1) / block * block)
+    if (qint64(disk.f_bavail) * qint64(disk.f_frsize) + freed < bytes)
         RaiseError(RuntimeError::DiskFull);
 }
 
