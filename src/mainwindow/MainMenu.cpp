@@ -1,6 +1,7 @@
 #include "mainwindow/MainMenu.h"
 
 #include "foundation/State.h"
+#include "foundation/WindowNames.h"
 #include "platform/values/Format.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -9,52 +10,53 @@ using namespace Qt::Literals::StringLiterals;
 // clang-format off
 const QList<MenuEntry> &MainMenu()
 {
+    using namespace WindowName;
     static const QList<MenuEntry> entries{
         {{}, u"mnuFile"_s, u"&File"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuFile"_s, u"mnuFileCreditors"_s, u"C&reditors"_s, Command::Open, u"frmCreditors"_s, 3, {}},
-        {u"mnuFile"_s, u"mnuFileRegulars"_s, u"Re&gular Items"_s, Command::Open, u"frmRegulars"_s, 17, {}},
-        {u"mnuFile"_s, u"mnuFileExtras"_s, u"&Extra Items"_s, Command::Open, u"frmExtras"_s, 6, {}},
-        {u"mnuFile"_s, u"mnuFileProjects"_s, u"&Projects"_s, Command::Open, u"frmProjects"_s, 16, u"Ctrl+J"_s},
+        {u"mnuFile"_s, u"mnuFileCreditors"_s, u"C&reditors"_s, Command::Open, frmCreditors, 3, {}},
+        {u"mnuFile"_s, u"mnuFileRegulars"_s, u"Re&gular Items"_s, Command::Open, frmRegulars, 17, {}},
+        {u"mnuFile"_s, u"mnuFileExtras"_s, u"&Extra Items"_s, Command::Open, frmExtras, 6, {}},
+        {u"mnuFile"_s, u"mnuFileProjects"_s, u"&Projects"_s, Command::Open, frmProjects, 16, u"Ctrl+J"_s},
         {u"mnuFile"_s, u"FileSeparator"_s, {}, Command::Separator, {}, 0, {}},
         {u"mnuFile"_s, u"mnuFileExit"_s, u"E&xit"_s, Command::Exit, {}, 0, u"Ctrl+X"_s},
         {{}, u"mnuIncome"_s, u"&Income"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuIncome"_s, u"mnuIncomeScanPayPeriods"_s, u"&Scan Pay Periods"_s, Command::Open, u"frmScanPayPeriods"_s, 20, u"F6"_s},
-        {u"mnuIncome"_s, u"mnuIncomeAverageNetPercentage"_s, u"&Average Net Percentage"_s, Command::Open, u"frmAverageNetPercentage"_s, 1, {}},
-        {u"mnuIncome"_s, u"mnuIncomeCalculateWages"_s, u"&Calculate Wages"_s, Command::Open, u"frmCalculateWages"_s, 24, u"F5"_s},
+        {u"mnuIncome"_s, u"mnuIncomeScanPayPeriods"_s, u"&Scan Pay Periods"_s, Command::Open, frmScanPayPeriods, 20, u"F6"_s},
+        {u"mnuIncome"_s, u"mnuIncomeAverageNetPercentage"_s, u"&Average Net Percentage"_s, Command::Open, frmAverageNetPercentage, 1, {}},
+        {u"mnuIncome"_s, u"mnuIncomeCalculateWages"_s, u"&Calculate Wages"_s, Command::Open, frmCalculateWages, 24, u"F5"_s},
         {{}, u"mnuBudget"_s, u"&Budget"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuBudget"_s, u"mnuBudgetCurrentOverhead"_s, u"&Current Overhead"_s, Command::Open, u"frmMonthlyOverhead"_s, 12, u"Ctrl+O"_s},
-        {u"mnuBudget"_s, u"mnuBudgetViewBudget"_s, u"&View Budget"_s, Command::Open, u"frmBudget"_s, 2, u"Ctrl+B"_s},
-        {u"mnuBudget"_s, u"mnuBudgetSavingsForecast"_s, u"&Savings Forecast"_s, Command::SavingsForecast, u"frmSavingsForecast"_s, 19, u"Ctrl+F"_s},
+        {u"mnuBudget"_s, u"mnuBudgetCurrentOverhead"_s, u"&Current Overhead"_s, Command::Open, frmMonthlyOverhead, 12, u"Ctrl+O"_s},
+        {u"mnuBudget"_s, u"mnuBudgetViewBudget"_s, u"&View Budget"_s, Command::Open, frmBudget, 2, u"Ctrl+B"_s},
+        {u"mnuBudget"_s, u"mnuBudgetSavingsForecast"_s, u"&Savings Forecast"_s, Command::SavingsForecast, frmSavingsForecast, 19, u"Ctrl+F"_s},
         {{}, u"mnuShopper"_s, u"&Shopper"_s, Command::Submenu, {}, 0, {}},
         {u"mnuShopper"_s, u"mnuShopperOpenStoreList"_s, u"&Open Store List..."_s, Command::OpenStoreList, {}, 11, {}},
-        {u"mnuShopper"_s, u"mnuShopperReviewCurrentList"_s, u"&Review Current List"_s, Command::Open, u"frmCurrentShoppingList"_s, 4, u"Ctrl+S"_s},
+        {u"mnuShopper"_s, u"mnuShopperReviewCurrentList"_s, u"&Review Current List"_s, Command::Open, frmCurrentShoppingList, 4, u"Ctrl+S"_s},
         {u"mnuShopper"_s, u"mnuShopperPrintCurrentList"_s, u"&Print Current List"_s, Command::PrintCurrentList, {}, 14, {}},
         {u"mnuShopper"_s, u"mnuShopperSeparator"_s, {}, Command::Separator, {}, 0, {}},
-        {u"mnuShopper"_s, u"mnuShopperMasterShoppingList"_s, u"&Master Shopping List"_s, Command::Open, u"frmMasterShoppingList"_s, 9, u"Ctrl+M"_s},
+        {u"mnuShopper"_s, u"mnuShopperMasterShoppingList"_s, u"&Master Shopping List"_s, Command::Open, frmMasterShoppingList, 9, u"Ctrl+M"_s},
         {{}, u"mnuFinance"_s, u"Fi&nance"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuFinance"_s, u"mnuFinanceSavings"_s, u"&Savings"_s, Command::Open, u"frmSavings"_s, 18, {}},
+        {u"mnuFinance"_s, u"mnuFinanceSavings"_s, u"&Savings"_s, Command::Open, frmSavings, 18, {}},
         {u"mnuFinance"_s, u"mnuFinanceLoans"_s, u"&Loans..."_s, Command::Submenu, {}, 0, {}},
-        {u"mnuFinanceLoans"_s, u"mnuFinanceLoansPayments"_s, u"&Payments"_s, Command::Open, u"frmPaymentCalculator"_s, 8, {}},
-        {u"mnuFinanceLoans"_s, u"mnuFinanceLoansInterestRates"_s, u"&Interest Rates"_s, Command::Open, u"frmInterestRateCalculator"_s, 7, {}},
-        {u"mnuFinance"_s, u"mnuFinancePayOff"_s, u"&Pay Off"_s, Command::Open, u"frmPayOff"_s, 13, u"Ctrl+Y"_s},
+        {u"mnuFinanceLoans"_s, u"mnuFinanceLoansPayments"_s, u"&Payments"_s, Command::Open, frmPaymentCalculator, 8, {}},
+        {u"mnuFinanceLoans"_s, u"mnuFinanceLoansInterestRates"_s, u"&Interest Rates"_s, Command::Open, frmInterestRateCalculator, 7, {}},
+        {u"mnuFinance"_s, u"mnuFinancePayOff"_s, u"&Pay Off"_s, Command::Open, frmPayOff, 13, u"Ctrl+Y"_s},
         {u"mnuFinance"_s, u"FinanceSeparator"_s, {}, Command::Separator, {}, 0, {}},
         {u"mnuFinance"_s, u"mnuFinanceMathCalculator"_s, u"&Math Calculator"_s, Command::MathCalculator, {}, 10, u"Ctrl+C"_s},
         {{}, u"mnuOptions"_s, u"&Options"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuOptions"_s, u"mnuOptionsSetCurrentPayPeriod"_s, u"Set &Current Pay Period"_s, Command::SetCurrentPayPeriod, u"frmSetCurrentPayPeriod"_s, 22, u"F7"_s},
-        {u"mnuOptions"_s, u"mnuOptionsPrinterSetup"_s, u"&Printer Setup..."_s, Command::Open, u"frmPrinter"_s, 15, u"F2"_s},
+        {u"mnuOptions"_s, u"mnuOptionsSetCurrentPayPeriod"_s, u"Set &Current Pay Period"_s, Command::SetCurrentPayPeriod, frmSetCurrentPayPeriod, 22, u"F7"_s},
+        {u"mnuOptions"_s, u"mnuOptionsPrinterSetup"_s, u"&Printer Setup..."_s, Command::Open, frmPrinter, 15, u"F2"_s},
         {u"mnuOptions"_s, u"OptionsSeparator"_s, {}, Command::Separator, {}, 0, {}},
-        {u"mnuOptions"_s, u"mnuOptionsEnvironmentSettings"_s, u"&Environment Setting"_s, Command::Open, u"frmEnvironmentSettings"_s, 5, u"Ctrl+E"_s},
-        {u"mnuOptions"_s, u"mnuTipOfTheDay"_s, u"&Tip of the Day on Startup"_s, Command::TipOfTheDay, u"frmTip"_s, 0, {}},
-        {u"mnuOptions"_s, u"mnuTallymereTutor"_s, u"&Tallymere Tutor"_s, Command::Tutor, u"frmTallymereTutor"_s, 0, {}},
-        {u"mnuOptions"_s, u"mnuWelcomeScreen"_s, u"&Welcome Screen"_s, Command::WelcomeScreen, u"frmWelcome"_s, 0, {}},
+        {u"mnuOptions"_s, u"mnuOptionsEnvironmentSettings"_s, u"&Environment Setting"_s, Command::Open, frmEnvironmentSettings, 5, u"Ctrl+E"_s},
+        {u"mnuOptions"_s, u"mnuTipOfTheDay"_s, u"&Tip of the Day on Startup"_s, Command::TipOfTheDay, frmTip, 0, {}},
+        {u"mnuOptions"_s, u"mnuTallymereTutor"_s, u"&Tallymere Tutor"_s, Command::Tutor, frmTallymereTutor, 0, {}},
+        {u"mnuOptions"_s, u"mnuWelcomeScreen"_s, u"&Welcome Screen"_s, Command::WelcomeScreen, frmWelcome, 0, {}},
         {{}, u"mnuHelp"_s, u"&Help"_s, Command::Submenu, {}, 0, {}},
         {u"mnuHelp"_s, u"mnuHelpSearch"_s, u"&Search for Help On..."_s, Command::Search, {}, 0, {}},
         {u"mnuHelp"_s, u"mnuGettingStarted"_s, u"&Getting Started"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuGettingStarted"_s, u"mnuStartBudget"_s, u"Getting Started With Your &Budget"_s, Command::Open, u"frmGettingStarted"_s, 0, {}},
-        {u"mnuGettingStarted"_s, u"mnuStartShopping"_s, u"Getting Started With &Shopping"_s, Command::Open, u"frmGettingStarted"_s, 0, {}},
-        {u"mnuGettingStarted"_s, u"mnuStartPayingOffBills"_s, u"Getting Started With &Paying Off Bills"_s, Command::Open, u"frmGettingStarted"_s, 0, {}},
-        {u"mnuHelp"_s, u"mnuHowDoI"_s, u"Ho&w Do I...?"_s, Command::Open, u"frmHowDoI"_s, 0, {}},
-        {u"mnuHelp"_s, u"mnuHelpAbout"_s, u"&About"_s, Command::Open, u"frmAbout"_s, 0, {}},
+        {u"mnuGettingStarted"_s, u"mnuStartBudget"_s, u"Getting Started With Your &Budget"_s, Command::Open, frmGettingStarted, 0, {}},
+        {u"mnuGettingStarted"_s, u"mnuStartShopping"_s, u"Getting Started With &Shopping"_s, Command::Open, frmGettingStarted, 0, {}},
+        {u"mnuGettingStarted"_s, u"mnuStartPayingOffBills"_s, u"Getting Started With &Paying Off Bills"_s, Command::Open, frmGettingStarted, 0, {}},
+        {u"mnuHelp"_s, u"mnuHowDoI"_s, u"Ho&w Do I...?"_s, Command::Open, frmHowDoI, 0, {}},
+        {u"mnuHelp"_s, u"mnuHelpAbout"_s, u"&About"_s, Command::Open, frmAbout, 0, {}},
     };
     return entries;
 }
@@ -101,20 +103,21 @@ const QList<ToolbarEntry> &MainToolbar()
 
 const QList<StateEntry> &BudgetStateLines()
 {
+    using namespace WindowName;
     static const auto count = [](qint16 number) { return Format(int(number), NumberFormat::GeneralNumber); };
     static const QList<StateEntry> entries{
-        {[] { return u"Creditors: "_s + count(State.NumberOfCreditors); }, u"frmCreditors"_s},
-        {[] { return u"Regular Items: "_s + count(State.NumberOfRegulars); }, u"frmRegulars"_s},
-        {[] { return u"Extra Item Pay Periods: "_s + count(State.NumberOfExtraPayPeriods); }, u"frmExtras"_s},
-        {[] { return u"Projects: "_s + count(State.NumberOfProjects); }, u"frmProjects"_s},
+        {[] { return u"Creditors: "_s + count(State.NumberOfCreditors); }, frmCreditors},
+        {[] { return u"Regular Items: "_s + count(State.NumberOfRegulars); }, frmRegulars},
+        {[] { return u"Extra Item Pay Periods: "_s + count(State.NumberOfExtraPayPeriods); }, frmExtras},
+        {[] { return u"Projects: "_s + count(State.NumberOfProjects); }, frmProjects},
         {[] { return u"Average Net Percentage: "_s + Format(State.AverageNetPercentage, NumberFormat::Percent); },
-         u"frmAverageNetPercentage"_s},
-        {[] { return u"Paycheck Amount: "_s + FormatCurrency(State.PaycheckAmount); }, u"frmEnvironmentSettings"_s},
-        {[] { return u"Current Shopping List: "_s + State.CurrentStoreFile; }, u"frmCurrentShoppingList"_s},
+         frmAverageNetPercentage},
+        {[] { return u"Paycheck Amount: "_s + FormatCurrency(State.PaycheckAmount); }, frmEnvironmentSettings},
+        {[] { return u"Current Shopping List: "_s + State.CurrentStoreFile; }, frmCurrentShoppingList},
         {[] { return u"Savings Forecast: "_s + count(State.ForecastPeriods) + u" Pay Periods"_s; },
-         u"frmEnvironmentSettings"_s},
+         frmEnvironmentSettings},
         {[] { return u"Current Sales Tax: "_s + Format(State.SalesTax, NumberFormat::Percent); },
-         u"frmEnvironmentSettings"_s},
+         frmEnvironmentSettings},
     };
     return entries;
 }

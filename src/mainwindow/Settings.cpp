@@ -41,20 +41,6 @@ EnvironmentEntry ShownEnvironment()
             .AverageNetPercentage = PerCent(State.AverageNetPercentage)};
 }
 
-std::optional<Refusal> ValidateEnvironmentEntry(const EnvironmentEntry &entry)
-{
-    return FirstFailure({
-        {IsNumeric(entry.ForecastPeriods), "Forecast Periods does not contain a valid numeric amount",
-         "txtForecastPeriods"},
-        {IsNumeric(entry.PaycheckAmount), "Paycheck Amount does not contain a valid currency amount",
-         "txtPaycheckAmount"},
-        {IsNumeric(entry.SalesTax), "Sales Tax does not contain a valid numeric amount", "txtSalesTax"},
-        // It names a due date although the percentage is meant: the wording that users know, kept.
-        {IsNumeric(entry.AverageNetPercentage), "Due Date does not contain a valid numeric amount",
-         "txtAverageNetPercentage"},
-    });
-}
-
 QString BoundedForecastPeriods(const QString &text)
 {
     const qint16 periods = ToInteger(text);

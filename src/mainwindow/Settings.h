@@ -16,9 +16,6 @@ struct EnvironmentEntry {
 /// The settings as the window shows them.
 EnvironmentEntry ShownEnvironment();
 
-/// What the texts are refused for, if anything: each has to be a number, in the order of the record.
-std::optional<Refusal> ValidateEnvironmentEntry(const EnvironmentEntry &entry);
-
 /// The forecast text, replaced by "1000" or "1" where its integer value lies outside 1 to 1000.
 /// Error 6 if it is beyond an Integer, 13 if it is no number.
 QString BoundedForecastPeriods(const QString &text);

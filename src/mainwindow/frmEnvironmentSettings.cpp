@@ -1,104 +1,98 @@
 #include "mainwindow/frmEnvironmentSettings.h"
 
-#include "platform/controls/OptionGroup.h"
+#include "foundation/WindowNames.h"
 #include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"
-#include "ui_frmEnvironmentSettings.h"
 
 #include <QScopedValueRollback>
 
-frmEnvironmentSettings::frmEnvironmentSettings() : ui(std::make_unique<Ui::frmEnvironmentSettings>())
-{
-    ui->setupUi(this);
-    QPalette shownOnly = ui->txtStoreFile->palette();
-    shownOnly.setColor(QPalette::Base, Qt::transparent);
-    ui->txtStoreFile->setPalette(shownOnly);
-    ui->updForecastPeriods->SetBuddy(ui->txtForecastPeriods);
-    connect(ui->updForecastPeriods, &UpDown::Stepped, this, &frmEnvironmentSettings::updForecastPeriods_Change);
-    optPayFrequency = std::make_unique<OptionGroup>(
-        QList{ui->optPayFrequency0, ui->optPayFrequency1, ui->optPayFrequency2, ui->optPayFrequency3},
-        [this](int index) { optPayFrequency_Click(index); });
-    connect(ui->txtStoreFile, &QLineEdit::textChanged, ui->txtStoreFile, &QLineEdit::setToolTip);
-    connect(ui->cmdExit, &QPushButton::clicked, this, &frmEnvironmentSettings::cmdExit_Click);
-    EnterRing({ui->txtForecastPeriods, ui->txtPaycheckAmount, ui->txtSalesTax, ui->txtAverageNetPercentage});
-}
+using namespace Qt::Literals::StringLiterals;
 
-frmEnvironmentSettings::~frmEnvironmentSettings() = default;
+namespace {
+using Design = Ui::frmEnvironmentSettings;
+constexpr EntryRule<Design> Rules[] = {
+    {&Design::txtForecastPeriods, Numeric, "Forecast Periods does not contain a valid numeric amount"},
+    {&Design::txtPaycheckAmount, Numeric, "Paycheck Amount does not contain a valid currency amount"},
+    {&Design::txtSalesTax, Numeric, "Sales Tax does not contain a valid numeric amount"},
+    // It names a due date although the percentage is meant: the wording that users know, kept.
+    {&Design::txtAverageNetPercentage, Numeric, "Due Date does not contain a valid numeric amount"},
+};
+} // namespace
+
+frmEnvironmentSettings::frmEnvironmentSettings()
+    : Window({.Title = u"Environment Settings"_s, .TheIcon = Icon::Warning}),
+      optPayFrequency({{ui.optPayFrequency0, Weekly},
+                       {ui.optPayFrequency1, Biweekly},
+                       {ui.optPayFrequency2, Semimonthly},
+                       {ui.optPayFrequency3, Monthly}},
+                      [this](qint16 frequency) { optPayFrequency_Click(frequency); })
+{
+    QPalette shownOnly = ui.txtStoreFile->palette();
+    shownOnly.setColor(QPalette::Base, Qt::transparent);
+    ui.txtStoreFile->setPalette(shownOnly);
+    ui.updForecastPeriods->SetBuddy(ui.txtForecastPeriods);
+    connect(ui.updForecastPeriods, &UpDown::Stepped, this, [this](int step) { updForecastPeriods_Change(step); });
+    connect(ui.txtStoreFile, &QLineEdit::textChanged, ui.txtStoreFile, &QLineEdit::setToolTip);
+    OnClickTrapped(ui.cmdExit, [this] { cmdExit_Click(); });
+    EnterRing({ui.txtForecastPeriods, ui.txtPaycheckAmount, ui.txtSalesTax, ui.txtAverageNetPercentage});
+    StartAt(ui.txtForecastPeriods);
+}
 
 void frmEnvironmentSettings::Load()
 {
-    ui->updForecastPeriods->SetMaximum(MostForecastPeriods);
+    ui.updForecastPeriods->SetMaximum(MostForecastPeriods);
     const QScopedValueRollback filling(loading, true);
     const EnvironmentEntry shown = ShownEnvironment();
-    ui->txtForecastPeriods->setText(shown.ForecastPeriods);
-    ui->txtPaycheckAmount->setText(shown.PaycheckAmount);
-    optPayFrequency->Select(OptionOfPayFrequency(State.PayFrequency));
-    ui->txtSalesTax->setText(shown.SalesTax);
-    ui->txtStoreFile->setText(State.CurrentStoreFile);
-    ui->txtAverageNetPercentage->setText(shown.AverageNetPercentage);
-}
-
-void frmEnvironmentSettings::Activate()
-{
-    FocusOn(ui->txtForecastPeriods);
+    ui.txtForecastPeriods->setText(shown.ForecastPeriods);
+    ui.txtPaycheckAmount->setText(shown.PaycheckAmount);
+    optPayFrequency.Select(State.PayFrequency);
+    ui.txtSalesTax->setText(shown.SalesTax);
+    ui.txtStoreFile->setText(State.CurrentStoreFile);
+    ui.txtAverageNetPercentage->setText(shown.AverageNetPercentage);
 }
 
 void frmEnvironmentSettings::updForecastPeriods_Change(int step)
 {
-    FocusOn(ui->txtForecastPeriods);
-    ui->txtForecastPeriods->setText(
-        SteppedForecastPeriods(ui->txtForecastPeriods->text(), step, ui->updForecastPeriods->Maximum()));
-    ui->txtForecastPeriods->selectAll();
+    FocusOn(ui.txtForecastPeriods);
+    ui.txtForecastPeriods->setText(
+        SteppedForecastPeriods(ui.txtForecastPeriods->text(), step, ui.updForecastPeriods->Maximum()));
+    ui.txtForecastPeriods->selectAll();
 }
 
 /// Takes effect at once, whatever the fields hold, and leaves the pay dates of the other frequencies alone.
-void frmEnvironmentSettings::optPayFrequency_Click(int index)
+void frmEnvironmentSettings::optPayFrequency_Click(qint16 frequency)
 {
     if (loading)
         return;
-    const PayFrequencyOption &chosen = PayFrequencyOptions()[index];
-    State.PayFrequency = chosen.Frequency;
-    const QString wages = QStringLiteral("frmCalculateWages");
-    if (TheWindows.Knows(wages))
-        TheWindows.Touch(wages).setWindowTitle(chosen.WagesCaption);
+    const PayFrequencyOption &chosen = PayFrequencyOptions()[OptionOfPayFrequency(frequency)];
+    State.PayFrequency = frequency;
+    if (TheWindows.Knows(WindowName::frmCalculateWages))
+        TheWindows.Touch(WindowName::frmCalculateWages).setWindowTitle(chosen.WagesCaption);
     if (!chosen.DatesWindow.isEmpty() && !State.InitializingVariables)
         TheWindows.ShowModal(chosen.DatesWindow);
 }
 
 EnvironmentEntry frmEnvironmentSettings::Entry() const
 {
-    return {.ForecastPeriods = ui->txtForecastPeriods->text(),
-            .PaycheckAmount = ui->txtPaycheckAmount->text(),
-            .SalesTax = ui->txtSalesTax->text(),
-            .AverageNetPercentage = ui->txtAverageNetPercentage->text()};
-}
-
-bool frmEnvironmentSettings::ValidateEnvironmentSettings()
-{
-    const auto refusal = ValidateEnvironmentEntry(Entry());
-    if (!refusal)
-        return true;
-    TheWindows.Show(objectName()); // its close box can be pressed while another window is active
-    ShowMessage(refusal->Text, QStringLiteral("Environment Settings"), Icon::Warning);
-    FocusOn(findChild<QWidget *>(refusal->Focus));
-    return false;
+    return {.ForecastPeriods = ui.txtForecastPeriods->text(),
+            .PaycheckAmount = ui.txtPaycheckAmount->text(),
+            .SalesTax = ui.txtSalesTax->text(),
+            .AverageNetPercentage = ui.txtAverageNetPercentage->text()};
 }
 
 bool frmEnvironmentSettings::TakeSettings()
 {
-    if (!ValidateEnvironmentSettings())
+    if (!Accepts(Rules))
         return false;
-    ui->txtForecastPeriods->setText(BoundedForecastPeriods(ui->txtForecastPeriods->text()));
+    ui.txtForecastPeriods->setText(BoundedForecastPeriods(ui.txtForecastPeriods->text()));
     TakeEnvironmentEntry(Entry());
     return true;
 }
 
 void frmEnvironmentSettings::cmdExit_Click()
 {
-    bool leave = false;
-    TrapUnknownError(QStringLiteral("Environment Settings"), [&] { leave = TakeSettings(); });
-    if (leave)
-        TheWindows.Unload(objectName());
+    if (TakeSettings())
+        Close();
 }
 
 bool frmEnvironmentSettings::QueryUnload(CloseMode mode)
@@ -108,6 +102,6 @@ bool frmEnvironmentSettings::QueryUnload(CloseMode mode)
     // Only a refused entry cancels: after an error the closing goes on. Its title is another window's, a habit of this
     // window that is kept.
     bool leave = true;
-    TrapUnknownError(QStringLiteral("Creditors"), [&] { leave = TakeSettings(); });
+    TrapUnknownError(u"Creditors"_s, [&] { leave = TakeSettings(); });
     return leave;
 }

@@ -2,34 +2,24 @@
 #pragma once
 
 #include "mainwindow/Settings.h"
-#include "platform/windows/Form.h"
+#include "platform/controls/OptionGroup.h"
+#include "platform/windows/Window.h"
+#include "ui_frmEnvironmentSettings.h"
 
-#include <memory>
-
-namespace Ui {
-class frmEnvironmentSettings;
-}
-class OptionGroup;
-
-class frmEnvironmentSettings : public Form
+class frmEnvironmentSettings : public Window<Ui::frmEnvironmentSettings>
 {
-    Q_OBJECT
 public:
     frmEnvironmentSettings();
-    ~frmEnvironmentSettings() override;
     void Load() override;
-    void Activate() override;
     bool QueryUnload(CloseMode mode) override;
 
 private:
     EnvironmentEntry Entry() const;
-    bool ValidateEnvironmentSettings();
     bool TakeSettings();
     void cmdExit_Click();
-    void optPayFrequency_Click(int index);
+    void optPayFrequency_Click(qint16 frequency);
     void updForecastPeriods_Change(int step);
 
-    std::unique_ptr<Ui::frmEnvironmentSettings> ui;
-    std::unique_ptr<OptionGroup> optPayFrequency;
+    ValueOptions<qint16> optPayFrequency;
     bool loading = false; // the load event fills the fields
 };

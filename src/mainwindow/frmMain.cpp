@@ -5,11 +5,12 @@
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
 #include "foundation/Tutor.h"
+#include "foundation/WindowFields.h"
+#include "foundation/WindowNames.h"
 #include "mainwindow/StateLineLook.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/Theme.h"
 #include "platform/windows/WindowRegister.h"
-#include "ui_frmMain.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -33,13 +34,12 @@ void ShowStateLine(QListWidgetItem &line, const StateEntry &entry)
 
 } // namespace
 
-frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
+frmMain::frmMain()
 {
-    ui->setupUi(this);
     setWindowIcon(ThemedIcon(u"tallymere"_s));
-    for (QFrame *panel : {ui->pnlBudgetState, ui->pnlToolbar})
+    for (QFrame *panel : {ui.pnlBudgetState, ui.pnlToolbar})
         StyleTitlePanel(panel);
-    for (QLabel *title : {ui->lblBudgetState, ui->lblToolbarTitle}) {
+    for (QLabel *title : {ui.lblBudgetState, ui.lblToolbarTitle}) {
         QFont font = title->font();
         font.setPointSizeF(font.pointSizeF() * 1.25);
         font.setBold(true);
@@ -55,23 +55,21 @@ frmMain::frmMain() : ui(std::make_unique<Ui::frmMain>())
     BuildMenus();
     BuildToolbar();
     BuildStatusBar();
-    ui->lstBudgetState->setItemDelegate(new StateLineLook(ui->lstBudgetState));
-    ui->lstBudgetState->setMouseTracking(true);
+    ui.lstBudgetState->setItemDelegate(new StateLineLook(ui.lstBudgetState));
+    ui.lstBudgetState->setMouseTracking(true);
     ReserveSpace();
-    ui->cmdTutor->setEnabled(Entry(u"mnuTallymereTutor"_s)->isEnabled());
-    ui->cmdHowDoI->setEnabled(Entry(u"mnuHowDoI"_s)->isEnabled());
-    ui->cmdGettingStarted->setEnabled(Entry(u"mnuGettingStarted"_s)->isEnabled());
+    ui.cmdTutor->setEnabled(Entry(u"mnuTallymereTutor"_s)->isEnabled());
+    ui.cmdHowDoI->setEnabled(Entry(u"mnuHowDoI"_s)->isEnabled());
+    ui.cmdGettingStarted->setEnabled(Entry(u"mnuGettingStarted"_s)->isEnabled());
 
-    connect(ui->lstBudgetState, &ListBox::Click, this, &frmMain::lstBudgetState_Click);
-    connect(ui->cmdExit, &QPushButton::clicked, this, LeaveProgram);
-    connect(ui->cmdTutor, &QPushButton::clicked, this, [this] { Entry(u"mnuTallymereTutor"_s)->trigger(); });
-    connect(ui->cmdHowDoI, &QPushButton::clicked, this, [this] { ActOn(u"mnuHowDoI"_s); });
-    connect(ui->cmdGettingStarted, &QPushButton::clicked, this, &frmMain::cmdGettingStarted_Click);
+    connect(ui.lstBudgetState, &ListBox::Click, this, &frmMain::lstBudgetState_Click);
+    OnClick(ui.cmdExit, LeaveProgram);
+    OnClick(ui.cmdTutor, [this] { Entry(u"mnuTallymereTutor"_s)->trigger(); });
+    OnClick(ui.cmdHowDoI, [this] { ActOn(u"mnuHowDoI"_s); });
+    OnClick(ui.cmdGettingStarted, [this] { cmdGettingStarted_Click(); });
     connect(&Timer1, &QTimer::timeout, this, &frmMain::Timer1_Timer);
     connect(&tmrAutoTutor, &QTimer::timeout, this, &frmMain::tmrAutoTutor_Timer);
 }
-
-frmMain::~frmMain() = default;
 
 void frmMain::BuildMenus()
 {
@@ -137,7 +135,7 @@ void frmMain::BuildStatusBar()
         (*label)->setObjectName(u"staMain%1"_s.arg(++panel));
         (*label)->setContentsMargins(8, 2, 8, 2);
         (*label)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        ui->staMain->addWidget(*label, panel < 3 ? 1 : 0);
+        ui.staMain->addWidget(*label, panel < 3 ? 1 : 0);
     }
 }
 
@@ -145,10 +143,10 @@ void frmMain::BuildStatusBar()
 /// its lines, so that nothing jumps when a text changes.
 void frmMain::ReserveSpace()
 {
-    QLabel &hint = *ui->lblToolbar;
+    QLabel &hint = *ui.lblToolbar;
     hint.setMinimumWidth(LineCharacters * hint.fontMetrics().averageCharWidth());
     const int edge = 2 * (hint.margin() + hint.frameWidth());
-    const int width = qMax(ui->Toolbar1->width(), hint.minimumWidth()) - edge;
+    const int width = qMax(ui.Toolbar1->width(), hint.minimumWidth()) - edge;
     int height = 0;
     for (const ToolbarEntry &entry : MainToolbar())
         height = qMax(
@@ -162,7 +160,7 @@ void frmMain::ReserveSpace()
         panel->setMinimumWidth(panel->fontMetrics().horizontalAdvance(longest) + margins.left() + margins.right());
     }
 
-    ListBox &list = *ui->lstBudgetState;
+    ListBox &list = *ui.lstBudgetState;
     const int lines = int(BudgetStateLines().size());
     const int least = list.fontMetrics().height() + LeastLinePadding;
     list.setMinimumSize(LineCharacters * list.fontMetrics().averageCharWidth(),
@@ -173,13 +171,13 @@ void frmMain::ReserveSpace()
 
 void frmMain::resizeEvent(QResizeEvent *event)
 {
-    Form::resizeEvent(event);
+    Window::resizeEvent(event);
     ReserveSpace();
 }
 
 void frmMain::changeEvent(QEvent *event)
 {
-    Form::changeEvent(event);
+    Window::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         ReserveSpace();
 }
@@ -191,12 +189,11 @@ void frmMain::Load()
     // The toolkit alone would open it at two thirds of a small screen at most.
     resize(sizeHint().boundedTo(screen()->availableSize() - QSize(0, TitleBarHeight)).expandedTo(minimumSizeHint()));
     Entry(u"mnuFinanceMathCalculator"_s)->setEnabled(!State.MathCalculatorMissing);
-    TheWindows.Unload(u"frmSplash"_s);
+    TheWindows.Unload(WindowName::frmSplash);
     TheDesk.Hourglass(false);
     // Directly left of the tutor's window, which this loads whether or not the tutor is on.
-    const QString tutor = u"frmTallymereTutor"_s;
-    if (TheWindows.Knows(tutor))
-        move(TheWindows.Touch(tutor).x() - width(), y());
+    if (TheWindows.Knows(WindowName::frmTallymereTutor))
+        move(TheWindows.Touch(WindowName::frmTallymereTutor).x() - width(), y());
     Timer1.start();
 }
 
@@ -237,10 +234,10 @@ void frmMain::ReadOptions()
 
 void frmMain::FillBudgetState()
 {
-    ui->lstBudgetState->Clear();
+    ui.lstBudgetState->Clear();
     for (const StateEntry &entry : BudgetStateLines()) {
-        ui->lstBudgetState->AddItem({});
-        QListWidgetItem *line = ui->lstBudgetState->item(ui->lstBudgetState->count() - 1);
+        ui.lstBudgetState->AddItem({});
+        QListWidgetItem *line = ui.lstBudgetState->item(ui.lstBudgetState->count() - 1);
         if (!TheWindows.Knows(entry.Window))
             line->setFlags(line->flags() & ~Qt::ItemIsEnabled);
         ShowStateLine(*line, entry);
@@ -315,7 +312,7 @@ void frmMain::mnuBudgetSavingsForecast_Click(const MenuEntry &entry)
 void frmMain::mnuOptionsSetCurrentPayPeriod_Click(const MenuEntry &entry)
 {
     ShowTutorPageIfRunning(entry.TutorPage);
-    TheWindows.ControlOf<QLabel>(entry.Window, u"lblDate"_s).setText(Format(TheDesk.Now().date(), DateFormat::Weekday));
+    WindowField::Today().setText(Format(TheDesk.Now().date(), DateFormat::Weekday));
     TheWindows.ShowModal(entry.Window);
 }
 
@@ -338,10 +335,9 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
         // A cancelled dialog goes on with the old name, which an edited settings file may give with folders.
         const QString name = chosen.isEmpty() ? State.CurrentStoreFile : chosen;
         State.CurrentStoreFile = name.section(QRegularExpression(u"[\\\\/]"_s), -1);
-        const QString settings = u"frmEnvironmentSettings"_s;
-        if (TheWindows.Knows(settings))
-            TheWindows.ControlOf<QLineEdit>(settings, u"txtStoreFile"_s).setText(State.CurrentStoreFile);
-        ShowStateLine(*ui->lstBudgetState->item(CurrentListLine), BudgetStateLines()[CurrentListLine]);
+        if (TheWindows.Knows(WindowName::frmEnvironmentSettings))
+            WindowField::StoreFile().setText(State.CurrentStoreFile);
+        ShowStateLine(*ui.lstBudgetState->item(CurrentListLine), BudgetStateLines()[CurrentListLine]);
         InputCurrentShoppingList();
     };
     ResumeNext(open, [](const RuntimeError &error) { ShowMessage(error.Text(), u"Open Store File"_s, Icon::Stop); });
@@ -362,7 +358,7 @@ void frmMain::mnuTallymereTutor_Click()
         tmrAutoTutor.start();
     } else {
         tmrAutoTutor.stop();
-        TheWindows.Unload(u"frmTallymereTutor"_s);
+        TheWindows.Unload(WindowName::frmTallymereTutor);
     }
     SaveOption(ShowTutor, turnOn);
     ShowMessage(turnOn ? u"Tallymere Tutor will be displayed automatically in 10 seconds."_s
@@ -379,7 +375,7 @@ void frmMain::mnuHelpSearch_Click()
 
 void frmMain::lstBudgetState_Click()
 {
-    const int line = ui->lstBudgetState->ListIndex();
+    const int line = ui.lstBudgetState->ListIndex();
     if (line >= 0 && TheWindows.Knows(BudgetStateLines()[line].Window))
         TheWindows.Show(BudgetStateLines()[line].Window);
 }
@@ -405,8 +401,8 @@ bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
     if ((type == QEvent::Enter || type == QEvent::MouseMove) && m_hints.contains(watched))
-        ui->lblToolbar->setText(m_hints.value(watched)); // never cleared: leaving the toolbar leaves the last hint
-    return Form::eventFilter(watched, event);
+        ui.lblToolbar->setText(m_hints.value(watched)); // never cleared: leaving the toolbar leaves the last hint
+    return Window::eventFilter(watched, event);
 }
 
 void frmMain::Unload()

@@ -3,31 +3,26 @@
 
 #include "mainwindow/MainMenu.h"
 #include "mainwindow/TutorPause.h"
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
+#include "ui_frmMain.h"
 
 #include <QHash>
 #include <QTimer>
-#include <memory>
 
 class QAction;
 class QLabel;
 class QMenu;
 class QMenuBar;
 
-namespace Ui {
-class frmMain;
-}
-
-class frmMain : public Form
+class frmMain : public Window<Ui::frmMain>
 {
-    Q_OBJECT
 public:
     frmMain();
-    ~frmMain() override;
     void Load() override;
     void Activate() override;
     void Unload() override;
     bool StandsBesideItsCaller() const override { return false; }
+    bool ClosesOnEscape() const override { return false; } // that would end the program
 
     QAction *Entry(const QString &name) const { return m_entries.value(name); }
 
@@ -63,7 +58,6 @@ private:
     void Timer1_Timer();
     void tmrAutoTutor_Timer();
 
-    std::unique_ptr<Ui::frmMain> ui;
     QMenuBar *m_menuBar = nullptr;
     QHash<QString, QAction *> m_entries;
     QHash<QString, QMenu *> m_menus;

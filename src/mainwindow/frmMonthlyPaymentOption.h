@@ -1,27 +1,16 @@
 // Asks whether a monthly paycheck comes at the month's end.
 #pragma once
 
-#include "platform/windows/Form.h"
+#include "platform/controls/OptionGroup.h"
+#include "platform/windows/Window.h"
+#include "ui_frmMonthlyPaymentOption.h"
 
-#include <memory>
-
-namespace Ui {
-class frmMonthlyPaymentOption;
-}
-class OptionGroup;
-
-class frmMonthlyPaymentOption : public Form
+class frmMonthlyPaymentOption : public Window<Ui::frmMonthlyPaymentOption>
 {
-    Q_OBJECT
 public:
     frmMonthlyPaymentOption();
-    ~frmMonthlyPaymentOption() override;
     void Load() override;
 
 private:
-    void cmdOK_Click();
-    void optYesNo_Click(int index);
-
-    std::unique_ptr<Ui::frmMonthlyPaymentOption> ui;
-    std::unique_ptr<OptionGroup> optYesNo;
+    ValueOptions<qint16> optYesNo;
 };

@@ -2,38 +2,35 @@
 
 #include "mainwindow/Settings.h"
 #include "platform/values/Format.h"
-#include "platform/windows/WindowRegister.h"
-#include "ui_frmSemiMonthlyPayInfo.h"
 
-frmSemiMonthlyPayInfo::frmSemiMonthlyPayInfo() : ui(std::make_unique<Ui::frmSemiMonthlyPayInfo>())
+using namespace Qt::Literals::StringLiterals;
+
+frmSemiMonthlyPayInfo::frmSemiMonthlyPayInfo()
+    : Window({.Title = u"Semimonthly Paydate Information"_s, .TheIcon = Icon::Warning})
 {
-    ui->setupUi(this);
-    connect(ui->cmdOK, &QPushButton::clicked, this, &frmSemiMonthlyPayInfo::cmdOK_Click);
-    EnterRing({ui->txtFirstPayDate, ui->txtSecondPayDate});
+    OnClick(ui.cmdOK, [this] { cmdOK_Click(); });
+    EnterRing({ui.txtFirstPayDate, ui.txtSecondPayDate});
 }
-
-frmSemiMonthlyPayInfo::~frmSemiMonthlyPayInfo() = default;
 
 void frmSemiMonthlyPayInfo::Load()
 {
-    ui->txtFirstPayDate->setText(Format(int(State.FirstPayDate), NumberFormat::GeneralNumber));
-    ui->txtSecondPayDate->setText(Format(int(State.SecondPayDate), NumberFormat::GeneralNumber));
+    ui.txtFirstPayDate->setText(Format(int(State.FirstPayDate), NumberFormat::GeneralNumber));
+    ui.txtSecondPayDate->setText(Format(int(State.SecondPayDate), NumberFormat::GeneralNumber));
 }
 
+/// Its tests are of both dates together, so they are no table of the window's fields.
 bool frmSemiMonthlyPayInfo::ValidateSemimonthlyDates()
 {
-    const auto refusal = ValidateSemimonthlyEntry(ui->txtFirstPayDate->text(), ui->txtSecondPayDate->text());
-    if (!refusal)
-        return true;
-    ShowMessage(refusal->Text, QStringLiteral("Semimonthly Paydate Information"), Icon::Warning);
-    FocusOn(findChild<QWidget *>(refusal->Focus));
-    return false;
+    const auto refusal = ValidateSemimonthlyEntry(ui.txtFirstPayDate->text(), ui.txtSecondPayDate->text());
+    if (refusal)
+        Refuse(refusal->Text, findChild<QWidget *>(refusal->Focus));
+    return !refusal;
 }
 
 void frmSemiMonthlyPayInfo::cmdOK_Click()
 {
     if (!ValidateSemimonthlyDates())
         return;
-    TakeSemimonthlyEntry(ui->txtFirstPayDate->text(), ui->txtSecondPayDate->text());
-    TheWindows.Unload(objectName());
+    TakeSemimonthlyEntry(ui.txtFirstPayDate->text(), ui.txtSecondPayDate->text());
+    Close();
 }

@@ -1,75 +1,60 @@
 #include "mainwindow/frmSetCurrentPayPeriod.h"
 
 #include "foundation/State.h"
-#include "platform/desk/Desk.h"
 #include "platform/desk/UnknownError.h"
-#include "platform/windows/WindowRegister.h"
-#include "ui_frmSetCurrentPayPeriod.h"
 
-frmSetCurrentPayPeriod::frmSetCurrentPayPeriod() : ui(std::make_unique<Ui::frmSetCurrentPayPeriod>())
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr EntryRule<Ui::frmSetCurrentPayPeriod> Rules[] = {
+    {&Ui::frmSetCurrentPayPeriod::txtCurrentPayPeriod, IsDate, "You have not entered a valid date"},
+};
+} // namespace
+
+frmSetCurrentPayPeriod::frmSetCurrentPayPeriod()
+    : Window({.Title = u"Set Current Pay Period"_s, .TheIcon = Icon::Warning})
 {
-    ui->setupUi(this);
     Timer1.setParent(this); // found by name like every control
-    Timer1.setObjectName(QStringLiteral("Timer1"));
+    Timer1.setObjectName(u"Timer1"_s);
     Timer1.setInterval(1000);
-    connect(&Timer1, &QTimer::timeout, this, &frmSetCurrentPayPeriod::Timer1_Timer);
-    connect(ui->cmdExit, &QPushButton::clicked, this, &frmSetCurrentPayPeriod::cmdExit_Click);
-    OnEnter(ui->txtCurrentPayPeriod, [this] { TakeEntryAndLeave(); });
+    connect(&Timer1, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+    OnEnter(ui.txtCurrentPayPeriod, [this] { TakeEntryAndLeave(); });
+    // The button's errors are told under another window's title: a habit of this window that is kept.
+    OnClick(ui.cmdExit, [this] { TrapUnknownError(u"Creditors"_s, [this] { TakeEntryAndLeave(); }); });
+    StartAt(ui.txtCurrentPayPeriod);
 }
-
-frmSetCurrentPayPeriod::~frmSetCurrentPayPeriod() = default;
 
 void frmSetCurrentPayPeriod::Load()
 {
-    ui->txtCurrentPayPeriod->setText(FormatLongDate(State.CurrentPayPeriod));
+    ui.txtCurrentPayPeriod->setText(FormatLongDate(State.CurrentPayPeriod));
     Timer1.start();
-}
-
-void frmSetCurrentPayPeriod::Activate()
-{
-    FocusOn(ui->txtCurrentPayPeriod);
 }
 
 void frmSetCurrentPayPeriod::Timer1_Timer()
 {
     State.ClockTime = TheDesk.Now().time();
-    ui->lblTime->setText(FormatClock(State.ClockTime));
+    ui.lblTime->setText(FormatClock(State.ClockTime));
 }
 
-bool frmSetCurrentPayPeriod::IsValidPayPeriodEntry()
+bool frmSetCurrentPayPeriod::TakeEntry()
 {
-    if (IsDate(ui->txtCurrentPayPeriod->text()))
-        return true;
-    ShowMessage(QStringLiteral("You have not entered a valid date"), QStringLiteral("Set Current Pay Period"),
-                Icon::Warning);
-    FocusOn(ui->txtCurrentPayPeriod);
-    return false;
+    if (!Accepts(Rules))
+        return false;
+    State.CurrentPayPeriod = ui.txtCurrentPayPeriod->text(); // as typed: every reader parses it again
+    return true;
 }
 
 void frmSetCurrentPayPeriod::TakeEntryAndLeave()
 {
-    if (!IsValidPayPeriodEntry())
-        return;
-    State.CurrentPayPeriod = ui->txtCurrentPayPeriod->text(); // as typed: every reader parses it again
-    TheWindows.Unload(objectName());
-}
-
-void frmSetCurrentPayPeriod::cmdExit_Click()
-{
-    // The button's errors are told under another window's title: a habit of this window that is kept.
-    TrapUnknownError(QStringLiteral("Creditors"), [this] { TakeEntryAndLeave(); });
+    if (TakeEntry())
+        Close();
 }
 
 bool frmSetCurrentPayPeriod::QueryUnload(CloseMode mode)
 {
-    if (mode != CloseMode::CloseBox)
-        return true; // Enter and the button have taken the entry already
-    bool leave = true;
-    TrapUnknownError(QStringLiteral("Set Current Pay Period"), [&] {
-        leave = IsValidPayPeriodEntry();
-        if (leave)
-            State.CurrentPayPeriod = ui->txtCurrentPayPeriod->text();
-    });
+    bool leave = true; // Enter and the button have taken the entry already
+    if (mode == CloseMode::CloseBox)
+        Trap([&] { leave = TakeEntry(); });
     return leave;
 }
 

@@ -1,32 +1,23 @@
 // Asks which pay period to budget. The first question of every run.
 #pragma once
 
-#include "platform/windows/Form.h"
+#include "platform/windows/Window.h"
+#include "ui_frmSetCurrentPayPeriod.h"
 
 #include <QTimer>
-#include <memory>
 
-namespace Ui {
-class frmSetCurrentPayPeriod;
-}
-
-class frmSetCurrentPayPeriod : public Form
+class frmSetCurrentPayPeriod : public Window<Ui::frmSetCurrentPayPeriod>
 {
-    Q_OBJECT
 public:
     frmSetCurrentPayPeriod();
-    ~frmSetCurrentPayPeriod() override;
     void Load() override;
-    void Activate() override;
     bool QueryUnload(CloseMode mode) override;
     void Unload() override;
 
 private:
-    bool IsValidPayPeriodEntry();
+    bool TakeEntry();
     void TakeEntryAndLeave();
-    void cmdExit_Click();
     void Timer1_Timer();
 
-    std::unique_ptr<Ui::frmSetCurrentPayPeriod> ui;
     QTimer Timer1;
 };
