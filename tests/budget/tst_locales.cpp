@@ -89,8 +89,8 @@ private Q_SLOTS:
     {
         const auto locales = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
         QVERIFY(locales.size() > 100);
+        FakeDesk desk;
         for (const QLocale &locale : locales) {
-            FakeDesk desk;
             SetUserLocale(locale);
             TakeHousehold();
             State.NumberOfCreditors = State.NumberOfRegulars = 0;

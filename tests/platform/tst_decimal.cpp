@@ -78,8 +78,8 @@ private Q_SLOTS:
         QFETCH(QString, asDouble);
         QCOMPARE(Decimal(float(value)).PlainText(), asSingle);
         QCOMPARE(Decimal(value).PlainText(), asDouble);
-        QCOMPARE(Decimal(float(value)).ToFloat(), float(value));
-        QCOMPARE(Decimal(value).ToDouble(), value);
+        QVERIFY(Decimal(float(value)).ToFloat() == float(value)); // exactly
+        QVERIFY(Decimal(value).ToDouble() == value);
     }
 
     void DigitsAreCounted()
@@ -92,7 +92,7 @@ private Q_SLOTS:
     void ShiftingKeepsEveryDigit()
     {
         QCOMPARE(Decimal(0.06625F).Shifted(2).PlainText(), QStringLiteral("6.625"));
-        QCOMPARE(Decimal(6.625F).Shifted(-2).ToFloat(), 0.06625F);
+        QVERIFY(Decimal(6.625F).Shifted(-2).ToFloat() == 0.06625F);
         QCOMPARE(Decimal(-5, 0).Shifted(3).PlainText(), QStringLiteral("-5000"));
         QCOMPARE(Decimal().Shifted(3).PlainText(), QStringLiteral("0"));
     }
@@ -170,9 +170,9 @@ private Q_SLOTS:
 
     void BinaryNumbersHaveTheirRange()
     {
-        QCOMPARE(Of("34", 39).ToFloat(), 3.4e38F);
+        QVERIFY(Of("34", 39).ToFloat() == 3.4e38F);
         QCOMPARE(ErrorOf([] { Of("35", 39).ToFloat(); }), 6);
-        QCOMPARE(Of("35", 39).ToDouble(), 3.5e38);
+        QVERIFY(Of("35", 39).ToDouble() == 3.5e38);
         QCOMPARE(ErrorOf([] { Of("-18", 309).ToDouble(); }), 6);
         QCOMPARE(Of("1", -60).ToFloat(), 0.0F);
         QCOMPARE(Of("1", -400).ToDouble(), 0.0);

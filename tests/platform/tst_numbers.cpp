@@ -4,8 +4,8 @@
 #include "platform/values/Locale.h"
 #include "platform/values/Numbers.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
+#include <ctime>
 #include <limits>
 
 Q_DECLARE_METATYPE(Dialect)
@@ -205,23 +205,24 @@ private Q_SLOTS:
 
     void TextBecomesTheNearestSingle()
     {
-        QCOMPARE(ToSingle(QStringLiteral("0.06")), 0.06F);
-        QCOMPARE(ToSingle(QStringLiteral("$1,234.50")), 1234.5F);
-        QCOMPARE(ToSingle(QStringLiteral("16777217")), 16777216.0F); // a tie between two singles
-        QCOMPARE(ToSingle(QStringLiteral("16777217.0000001")), 16777218.0F);
-        QCOMPARE(ToSingle(QStringLiteral("1e-60")), 0.0F);
+        // The test library compares singles and doubles with a tolerance; these have to be exact.
+        QVERIFY(ToSingle(QStringLiteral("0.06")) == 0.06F);
+        QVERIFY(ToSingle(QStringLiteral("$1,234.50")) == 1234.5F);
+        QVERIFY(ToSingle(QStringLiteral("16777217")) == 16777216.0F); // a tie between two singles
+        QVERIFY(ToSingle(QStringLiteral("16777217.0000001")) == 16777218.0F);
+        QVERIFY(ToSingle(QStringLiteral("1e-60")) == 0.0F);
         QCOMPARE(ErrorOf([] { ToSingle(QStringLiteral("1e39")); }), 6);
         QCOMPARE(ErrorOf([] { ToSingle(QStringLiteral("-1e400")); }), 6);
         QCOMPARE(ErrorOf([] { ToSingle(1e39); }), 6);
-        QCOMPARE(ToSingle(0.1), 0.1F);
+        QVERIFY(ToSingle(0.1) == 0.1F);
     }
 
     void TextBecomesTheNearestDouble()
     {
-        QCOMPARE(ToDouble(QStringLiteral("0.1")), 0.1);
-        QCOMPARE(ToDouble(QStringLiteral("(2)")), -2.0);
-        QCOMPARE(ToDouble(QStringLiteral("1e-400")), 0.0);
-        QCOMPARE(ToDouble(QStringLiteral("1.7976931348623157e308")), std::numeric_limits<double>::max());
+        QVERIFY(ToDouble(QStringLiteral("0.1")) == 0.1);
+        QVERIFY(ToDouble(QStringLiteral("(2)")) == -2.0);
+        QVERIFY(ToDouble(QStringLiteral("1e-400")) == 0.0);
+        QVERIFY(ToDouble(QStringLiteral("1.7976931348623157e308")) == std::numeric_limits<double>::max());
         QCOMPARE(ErrorOf([] { ToDouble(QStringLiteral("1e309")); }), 6);
         QCOMPARE(ErrorOf([] { ToDouble(QStringLiteral("-1e400")); }), 6);
     }
@@ -231,8 +232,7 @@ private Q_SLOTS:
         constexpr int million = 1000000;
         const QString nines(million, QLatin1Char('9'));
         const QString zeros(million, QLatin1Char('0'));
-        QElapsedTimer time;
-        time.start();
+        const std::clock_t start = std::clock(); // the program's own time: other programs may be at work
         QVERIFY(IsNumeric(nines));
         QCOMPARE(ErrorOf([&] { ToCurrency(nines); }), 6);
         QCOMPARE(ErrorOf([&] { ToDouble(nines); }), 6);
@@ -241,9 +241,9 @@ private Q_SLOTS:
         QCOMPARE(ToCurrency(zeros + QLatin1Char('7')).TenThousandths(), qint64(70000));
         QCOMPARE(ToCurrency(QLatin1String("0.") + nines).TenThousandths(), qint64(10000));
         QCOMPARE(ToCurrency(QLatin1String("0.") + zeros + QLatin1Char('1')).TenThousandths(), qint64(0));
-        QCOMPARE(ToDouble(QLatin1String("0.") + zeros + QLatin1String("1e1000001")), 1.0);
+        QVERIFY(ToDouble(QLatin1String("0.") + zeros + QLatin1String("1e1000001")) == 1.0);
         QCOMPARE(ToInteger(QLatin1Char('1') + zeros + QLatin1String("e-1000000")), qint16(1));
-        QCOMPARE(ToDouble(QLatin1String("0.") + zeros + QLatin1String("1e100")), 0.0); // small despite its exponent
+        QVERIFY(ToDouble(QLatin1String("0.") + zeros + QLatin1String("1e100")) == 0.0); // small despite its exponent
         QVERIFY(!IsNumeric(QString(million, QLatin1Char(','))));
         QVERIFY(!IsNumeric(QString(million, QLatin1Char('('))));
         QVERIFY(!IsNumeric(QString(million, QLatin1Char('-'))));
@@ -251,12 +251,12 @@ private Q_SLOTS:
         QVERIFY(!IsNumeric(QLatin1String("&H") + nines));
         for (const char *text : {"0e99999999999", "-0e-99999999999", "0.000e2147483647"}) {
             QCOMPARE(ToCurrency(QLatin1String(text)).TenThousandths(), qint64(0));
-            QCOMPARE(ToDouble(QLatin1String(text)), 0.0);
+            QVERIFY(ToDouble(QLatin1String(text)) == 0.0);
             QCOMPARE(ToDecimal(QLatin1String(text)).PlainText(), QStringLiteral("0"));
         }
         QCOMPARE(NumericPrefix(QStringLiteral("1e-99999999999")), 0.0);
         QCOMPARE(ErrorOf([] { NumericPrefix(QStringLiteral("1e99999999999")); }), 6);
-        QVERIFY2(time.elapsed() < 10000, "a second's work for each of these texts is too much");
+        QVERIFY2(std::clock() - start < 10 * CLOCKS_PER_SEC, "a second's work for each of these texts is too much");
     }
 
     void AnotherLocaleHasItsOwnSigns_data()
@@ -294,7 +294,7 @@ private Q_SLOTS:
         QCOMPARE(ToCurrency(QStringLiteral("12.5"), Dialect::File).TenThousandths(), qint64(125000));
         QCOMPARE(ToCurrency(QStringLiteral("$1,250.00"), Dialect::File).TenThousandths(), qint64(12500000));
         QCOMPARE(int(ToInteger(QStringLiteral("2.5"), Dialect::File)), 2);
-        QCOMPARE(ToSingle(QStringLiteral(".85"), Dialect::File), 0.85F);
+        QVERIFY(ToSingle(QStringLiteral(".85"), Dialect::File) == 0.85F);
         QVERIFY(!IsNumeric(QStringLiteral("12,5 \u20AC"), Dialect::File));
     }
 
@@ -390,7 +390,7 @@ private Q_SLOTS:
         QFETCH(float, value);
         QFETCH(QString, text);
         QCOMPARE(PlainText(value), text);
-        QCOMPARE(ToSingle(text, Dialect::File), value);
+        QVERIFY(ToSingle(text, Dialect::File) == value);
     }
 
     void EverySingleReadsBackAsTheSameValue()
