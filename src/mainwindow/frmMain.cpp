@@ -134,8 +134,9 @@ void frmMain::BuildStatusBar()
         *label = new QLabel(this);
         (*label)->setObjectName(u"staMain%1"_s.arg(++panel));
         (*label)->setContentsMargins(8, 2, 8, 2);
-        (*label)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        ui.staMain->addWidget(*label, panel < 3 ? 1 : 0);
+        // The clock keeps its width; the others share the rest, whatever they say.
+        (*label)->setSizePolicy(panel < 3 ? QSizePolicy::Ignored : QSizePolicy::Minimum, QSizePolicy::Preferred);
+        ui.staMainLayout->addWidget(*label, panel < 3 ? 1 : 0);
     }
 }
 
@@ -156,8 +157,10 @@ void frmMain::ReserveSpace()
     for (const auto &[panel, longest] : {std::pair{staMain1, u"Current Pay Period: September 30, 2004"_s},
                                          {staMain2, u"Wednesday  September 30, 2004"_s},
                                          {staMain3, u"00:00:00 AM"_s}}) {
-        const QMargins margins = panel->contentsMargins();
-        panel->setMinimumWidth(panel->fontMetrics().horizontalAdvance(longest) + margins.left() + margins.right());
+        QLabel widest(longest);
+        widest.setFont(panel->font());
+        widest.setContentsMargins(panel->contentsMargins());
+        panel->setMinimumWidth(widest.sizeHint().width());
     }
 
     ListBox &list = *ui.lstBudgetState;

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString Window = u"frmMain"_s;
+const QString Main = u"frmMain"_s;
 const QString Question = u"frmSetCurrentPayPeriod"_s;
 
 struct MenuRow {
@@ -249,22 +249,22 @@ private:
 
 QTimer &TheTutorTimer()
 {
-    return Find<QTimer>(Window, u"tmrAutoTutor"_s);
+    return Find<QTimer>(Main, u"tmrAutoTutor"_s);
 }
 
 bool Tick(const QString &timer)
 {
-    return QMetaObject::invokeMethod(&Find<QTimer>(Window, timer), "timeout");
+    return QMetaObject::invokeMethod(&Find<QTimer>(Main, timer), "timeout");
 }
 
 QAction &Entry(const QString &name)
 {
-    return Find<QAction>(Window, name);
+    return Find<QAction>(Main, name);
 }
 
 QToolButton &ToolbarButton(int index)
 {
-    return Find<QToolButton>(Window, u"Toolbar1Button%1"_s.arg(index));
+    return Find<QToolButton>(Main, u"Toolbar1Button%1"_s.arg(index));
 }
 
 void PointAt(const QWidget &control)
@@ -278,7 +278,7 @@ void LeaveAndReturn()
 {
     DeclareToy<Toy>(u"frmElsewhere"_s);
     Show(u"frmElsewhere"_s);
-    Show(Window);
+    Show(Main);
 }
 
 } // namespace
@@ -300,7 +300,7 @@ private Q_SLOTS:
         for (const MenuRow &row : MenuRows)
             expected[Text(row.Menu)] += &Entry(Text(row.Name));
         QCOMPARE(expected.size(), 10);
-        QCOMPARE(Find<QMenuBar>(Window, u"menuBar"_s).actions(), expected.take(u"menuBar"_s));
+        QCOMPARE(Find<QMenuBar>(Main, u"menuBar"_s).actions(), expected.take(u"menuBar"_s));
         for (auto menu = expected.begin(); menu != expected.end(); ++menu)
             QCOMPARE(Entry(menu.key()).menu()->actions(), menu.value());
     }
@@ -335,7 +335,7 @@ private Q_SLOTS:
             QCOMPARE(ActiveWindow(), Text(row.Window));
             QCOMPARE(tutor.Pages, row.TutorPage > 0 ? QList<int>{row.TutorPage} : QList<int>());
             if (row.TutorPage > 0)
-                QCOMPARE(tutor.ActiveThen, Window); // the page comes before the window
+                QCOMPARE(tutor.ActiveThen, Main); // the page comes before the window
             TheWindows.Unload(Text(row.Window));
             Settle();
         }
@@ -354,7 +354,7 @@ private Q_SLOTS:
             if (!*row.Window || !*row.Shortcut)
                 continue;
             const QKeyCombination key = QKeySequence(Text(row.Shortcut))[0];
-            QTest::keyClick(&Find(Window, u"lstBudgetState"_s), key.key(), key.keyboardModifiers());
+            QTest::keyClick(&Find(Main, u"lstBudgetState"_s), key.key(), key.keyboardModifiers());
             Settle();
             QCOMPARE(ActiveWindow(), Text(row.Window));
             TheWindows.Unload(Text(row.Window));
@@ -362,7 +362,7 @@ private Q_SLOTS:
             ++pressed;
         }
         QCOMPARE(pressed, 11);
-        QTest::keyClick(&Find(Window, u"lstBudgetState"_s), Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(&Find(Main, u"lstBudgetState"_s), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"forward"_s});
         QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
         QVERIFY(desk.TakeBeep());
@@ -386,7 +386,7 @@ private Q_SLOTS:
                                             [&](const MenuRow &one) { return Text(one.Name) == Text(row.Entry); });
             QVERIFY(entry != std::end(MenuRows));
             tutor.Pages.clear();
-            Click(Window, button.objectName());
+            Click(Main, button.objectName());
             QCOMPARE(tutor.Pages, QList<int>{entry->TutorPage});
             if (*entry->Window) {
                 QCOMPARE(ActiveWindow(), Text(entry->Window));
@@ -419,7 +419,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         desk.StartProgram();
-        Form &main = *TheWindows.Loaded(Window);
+        Form &main = *TheWindows.Loaded(Main);
         const auto icon = [&](const QSize &size) {
             main.resize(size);
             Settle();
@@ -441,17 +441,17 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         desk.StartProgram();
-        Form &main = *TheWindows.Loaded(Window);
+        Form &main = *TheWindows.Loaded(Main);
         for (const QSize &size : {main.minimumSizeHint(), QSize(960, 480), QSize(1600, 1000)}) {
             main.resize(size);
             Settle();
             QCOMPARE(main.size(), size); // 1920 x 1080 at 200 per cent is as small as that
             for (const QString &name :
                  {u"cmdExit"_s, u"cmdTutor"_s, u"cmdHowDoI"_s, u"cmdGettingStarted"_s, u"staMain"_s, u"lblToolbar"_s}) {
-                const QWidget &control = Find(Window, name);
+                const QWidget &control = Find(Main, name);
                 QVERIFY2(main.rect().contains(QRect(control.mapTo(&main, QPoint()), control.size())), qPrintable(name));
             }
-            auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+            auto &list = Find<ListBox>(Main, u"lstBudgetState"_s);
             list.scrollToBottom();
             QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(list.count() - 1))));
         }
@@ -461,10 +461,10 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TheWindows.Reset(); // what they stand for is unknown: all buttons are grey, and explain themselves nevertheless
-        DeclareToy<frmMain>(Window);
+        DeclareToy<frmMain>(Main);
         desk.StartProgram();
-        QCOMPARE(TextOf(Window, u"lblToolbar"_s), QString());
-        auto &hint = Find<QLabel>(Window, u"lblToolbar"_s);
+        QCOMPARE(TextOf(Main, u"lblToolbar"_s), QString());
+        auto &hint = Find<QLabel>(Main, u"lblToolbar"_s);
         const QRect place = hint.geometry();
         int index = 0;
         for (const ToolbarRow &row : ToolbarRows) {
@@ -475,12 +475,12 @@ private Q_SLOTS:
             QVERIFY(hint.heightForWidth(hint.width()) <= hint.height());
         }
         const QPoint gap = (ToolbarButton(1).geometry().topRight() + ToolbarButton(2).geometry().topLeft()) / 2;
-        auto &toolbar = Find(Window, u"Toolbar1"_s);
+        auto &toolbar = Find(Main, u"Toolbar1"_s);
         QVERIFY(!toolbar.childAt(gap));
-        QTest::mouseMove(TheWindows.Loaded(Window)->windowHandle(), toolbar.mapTo(toolbar.window(), gap));
+        QTest::mouseMove(TheWindows.Loaded(Main)->windowHandle(), toolbar.mapTo(toolbar.window(), gap));
         Settle();
         QCOMPARE(hint.text(), Text(ToolbarRows[15].Hint));
-        PointAt(Find(Window, u"lstBudgetState"_s));
+        PointAt(Find(Main, u"lstBudgetState"_s));
         QCOMPARE(hint.text(), Text(ToolbarRows[15].Hint));
         PointAt(ToolbarButton(3));
         QCOMPARE(hint.text(), Text(ToolbarRows[2].Hint));
@@ -493,17 +493,17 @@ private Q_SLOTS:
         desk.StartProgram();
         for (const ToolbarRow &row : ToolbarRows)
             Entry(Text(row.Entry)).hover();
-        QCOMPARE(TextOf(Window, u"lblToolbar"_s), QString()); // empty until the pointer comes to the toolbar
+        QCOMPARE(TextOf(Main, u"lblToolbar"_s), QString()); // empty until the pointer comes to the toolbar
         PointAt(ToolbarButton(3));
         Entry(Text(ToolbarRows[0].Entry)).hover();
-        QCOMPARE(TextOf(Window, u"lblToolbar"_s), Text(ToolbarRows[2].Hint));
+        QCOMPARE(TextOf(Main, u"lblToolbar"_s), Text(ToolbarRows[2].Hint));
     }
 
     void TheStateOfTheBudgetHasNineLines()
     {
         GuiDesk desk;
         desk.StartProgram();
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s),
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s),
                  (QStringList{u"Creditors: 0"_s, u"Regular Items: 0"_s, u"Extra Item Pay Periods: 0"_s,
                               u"Projects: 0"_s, u"Average Net Percentage: 90.00%"_s, u"Paycheck Amount: $1,000.00"_s,
                               u"Current Shopping List: untitled.lst"_s, u"Savings Forecast: 26 Pay Periods"_s,
@@ -526,9 +526,9 @@ private Q_SLOTS:
         State.ForecastPeriods = 1000;
         State.SalesTax = 0.0725F;
         Settle();
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).first(), u"Creditors: 0"_s);
-        Show(Window);
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s),
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s).first(), u"Creditors: 0"_s);
+        Show(Main);
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s),
                  (QStringList{u"Creditors: 1200"_s, u"Regular Items: 3"_s, u"Extra Item Pay Periods: 4"_s,
                               u"Projects: 5"_s, u"Average Net Percentage: 81.25%"_s, u"Paycheck Amount: $1,234.51"_s,
                               u"Current Shopping List: weekly.lst"_s, u"Savings Forecast: 1000 Pay Periods"_s,
@@ -543,18 +543,18 @@ private Q_SLOTS:
         desk.WriteFile(u"stores\\"_s + name, "0\r\n");
         desk.StartProgram();
         const auto tips = [] {
-            const auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+            const auto &list = Find<ListBox>(Main, u"lstBudgetState"_s);
             QStringList texts;
             for (int row = 0; row < list.count(); ++row)
                 texts += list.item(row)->toolTip();
             return texts;
         };
         QCOMPARE(tips()[0], u"Creditors: 0"_s);
-        QCOMPARE(tips(), RowsOf(Window, u"lstBudgetState"_s));
+        QCOMPARE(tips(), RowsOf(Main, u"lstBudgetState"_s));
         desk.FileAnswers += name;
         Choose(u"mnuShopperOpenStoreList"_s);
         QCOMPARE(tips()[6], u"Current Shopping List: "_s + name);
-        QCOMPARE(tips(), RowsOf(Window, u"lstBudgetState"_s));
+        QCOMPARE(tips(), RowsOf(Main, u"lstBudgetState"_s));
     }
 
     void AfterComingBackTheKeysBeginAnew()
@@ -562,7 +562,7 @@ private Q_SLOTS:
         GuiDesk desk;
         DeclareToys();
         desk.StartProgram();
-        auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+        auto &list = Find<ListBox>(Main, u"lstBudgetState"_s);
         list.setFocus();
         for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down})
             QTest::keyClick(&list, key);
@@ -570,12 +570,12 @@ private Q_SLOTS:
         LeaveAndReturn();
         QCOMPARE(list.currentRow(), 0);
         QTest::keyClick(&list, Qt::Key_Return); // on a line that nobody has chosen since
-        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(ActiveWindow(), Main);
         QCOMPARE(list.ListIndex(), -1);
         for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
             QTest::keyClick(&list, key);
         QCOMPARE(ActiveWindow(), u"frmExtras"_s);
-        Show(Window);
+        Show(Main);
         QCOMPARE(list.ListIndex(), -1);
     }
 
@@ -595,7 +595,7 @@ private Q_SLOTS:
                                   u"frmEnvironmentSettings"_s,
                                   u"frmEnvironmentSettings"_s};
         for (int row = 0; row < windows.size(); ++row) {
-            ClickRow(Window, u"lstBudgetState"_s, row);
+            ClickRow(Main, u"lstBudgetState"_s, row);
             QCOMPARE(ActiveWindow(), windows[row]);
             TheWindows.Unload(windows[row]);
             Settle();
@@ -608,14 +608,14 @@ private Q_SLOTS:
         GuiDesk desk;
         DeclareToys();
         desk.StartProgram();
-        auto &list = Find<ListBox>(Window, u"lstBudgetState"_s);
+        auto &list = Find<ListBox>(Main, u"lstBudgetState"_s);
         QCOMPARE(list.ListIndex(), -1);
         QVERIFY(QMetaObject::invokeMethod(&list, "Click"));
         const QRect last = list.visualItemRect(list.item(list.count() - 1));
         QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
                           QPoint(last.center().x(), last.bottom() + 3));
         Settle();
-        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(ActiveWindow(), Main);
         QCOMPARE(desk.Messages.size(), 0);
     }
 
@@ -623,14 +623,14 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         desk.StartProgram();
-        QCOMPARE(TheWindows.Loaded(Window)->windowTitle(), u"The Corvelle's Tallymere 1.0"_s);
-        QCOMPARE(TextOf(Window, u"lblBudgetState"_s), u"State of the Budget"_s);
-        QCOMPARE(TextOf(Window, u"lblBudgetStateSubtitle"_s), u"Click on an item for details"_s);
-        QCOMPARE(TextOf(Window, u"lblToolbarTitle"_s), u"Easy Access Toolbar"_s);
-        QCOMPARE(TextOf(Window, u"cmdExit"_s), u"E&xit"_s);
-        QCOMPARE(TextOf(Window, u"cmdTutor"_s), u"Tutor On/Off"_s);
-        QCOMPARE(TextOf(Window, u"cmdHowDoI"_s), u"How Do I?"_s);
-        QCOMPARE(TextOf(Window, u"cmdGettingStarted"_s), u"Getting Started"_s);
+        QCOMPARE(TheWindows.Loaded(Main)->windowTitle(), u"The Corvelle's Tallymere 1.0"_s);
+        QCOMPARE(TextOf(Main, u"lblBudgetState"_s), u"State of the Budget"_s);
+        QCOMPARE(TextOf(Main, u"lblBudgetStateSubtitle"_s), u"Click on an item for details"_s);
+        QCOMPARE(TextOf(Main, u"lblToolbarTitle"_s), u"Easy Access Toolbar"_s);
+        QCOMPARE(TextOf(Main, u"cmdExit"_s), u"E&xit"_s);
+        QCOMPARE(TextOf(Main, u"cmdTutor"_s), u"Tutor On/Off"_s);
+        QCOMPARE(TextOf(Main, u"cmdHowDoI"_s), u"How Do I?"_s);
+        QCOMPARE(TextOf(Main, u"cmdGettingStarted"_s), u"Getting Started"_s);
     }
 
     // Status bar
@@ -639,21 +639,21 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         desk.StartProgram();
-        QCOMPARE(TextOf(Window, u"staMain1"_s), u"Current Pay Period: January 5, 2004"_s);
-        QCOMPARE(TextOf(Window, u"staMain2"_s), u"Monday  January 5, 2004"_s);
-        auto &clock = Find<QTimer>(Window, u"Timer1"_s);
+        QCOMPARE(TextOf(Main, u"staMain1"_s), u"Current Pay Period: January 5, 2004"_s);
+        QCOMPARE(TextOf(Main, u"staMain2"_s), u"Monday  January 5, 2004"_s);
+        auto &clock = Find<QTimer>(Main, u"Timer1"_s);
         QVERIFY(clock.isActive());
         QCOMPARE(clock.interval(), 1000);
         desk.Now = QDateTime(QDate(2004, 1, 6), QTime(0, 5, 9));
         QVERIFY(Tick(u"Timer1"_s));
-        QCOMPARE(TextOf(Window, u"staMain3"_s), u"12:05:09 AM"_s);
+        QCOMPARE(TextOf(Main, u"staMain3"_s), u"12:05:09 AM"_s);
         QCOMPARE(State.ClockTime, QTime(0, 5, 9));
-        QCOMPARE(TextOf(Window, u"staMain2"_s), u"Monday  January 5, 2004"_s); // until the next activation
+        QCOMPARE(TextOf(Main, u"staMain2"_s), u"Monday  January 5, 2004"_s); // until the next activation
         desk.Now = QDateTime(QDate(2004, 1, 6), QTime(14, 30, 0));
         QVERIFY(Tick(u"Timer1"_s));
-        QCOMPARE(TextOf(Window, u"staMain3"_s), u"02:30:00 PM"_s);
+        QCOMPARE(TextOf(Main, u"staMain3"_s), u"02:30:00 PM"_s);
         LeaveAndReturn();
-        QCOMPARE(TextOf(Window, u"staMain2"_s), u"Tuesday  January 6, 2004"_s);
+        QCOMPARE(TextOf(Main, u"staMain2"_s), u"Tuesday  January 6, 2004"_s);
     }
 
     void ThePanelsKeepTheirPlacesWhateverTheySay()
@@ -664,10 +664,10 @@ private Q_SLOTS:
             Settle();
             QList<QRect> rectangles;
             for (int panel = 1; panel <= 3; ++panel)
-                rectangles += Find(Window, u"staMain%1"_s.arg(panel)).geometry();
+                rectangles += Find(Main, u"staMain%1"_s.arg(panel)).geometry();
             return rectangles;
         };
-        QCOMPARE(TextOf(Window, u"staMain3"_s), QString());
+        QCOMPARE(TextOf(Main, u"staMain3"_s), QString());
         const QList<QRect> before = places();
         for (const QDateTime &now : {QDateTime(QDate(2004, 9, 29), QTime(0, 0, 0)), // a Wednesday
                                      QDateTime(QDate(2005, 5, 1), QTime(11, 11, 11))}) {
@@ -677,7 +677,7 @@ private Q_SLOTS:
             LeaveAndReturn();
             QCOMPARE(places(), before);
             for (int panel = 1; panel <= 3; ++panel) {
-                const auto &label = Find<QLabel>(Window, u"staMain%1"_s.arg(panel));
+                const auto &label = Find<QLabel>(Main, u"staMain%1"_s.arg(panel));
                 QVERIFY2(label.sizeHint().width() <= label.width(), qPrintable(label.text()));
             }
         }
@@ -691,11 +691,11 @@ private Q_SLOTS:
         QTimer::singleShot(0, [&] {
             stood = IsShown(Question) && TheWindows.Loaded(Question)->isModal();
             desk.Now = QDateTime(QDate(2004, 1, 5), QTime(14, 5, 9));
-            went = QTest::qWaitFor([] { return TextOf(Window, u"staMain3"_s) == u"02:05:09 PM"_s; }, 3000);
+            went = QTest::qWaitFor([] { return TextOf(Main, u"staMain3"_s) == u"02:05:09 PM"_s; }, 3000);
             stood = stood && IsShown(Question);
             PressEnter(Question, u"txtCurrentPayPeriod"_s);
         });
-        Show(Window);
+        Show(Main);
         QVERIFY(stood);
         QVERIFY(went);
         QVERIFY(!IsShown(Question));
@@ -807,12 +807,12 @@ private Q_SLOTS:
         DeclareToy<Toy>(u"frmTallymereTutor"_s);
         desk.StartProgram();
         QVERIFY(TheWindows.Loaded(u"frmTallymereTutor"_s));
-        Click(Window, u"cmdTutor"_s);
+        Click(Main, u"cmdTutor"_s);
         QCOMPARE(desk.TakeMessage().Text, Text(OptionRows[1].TurnedOff));
         QVERIFY(!TheTutorTimer().isActive());
         QVERIFY(!Entry(u"mnuTallymereTutor"_s).isChecked());
         QVERIFY(!TheWindows.Loaded(u"frmTallymereTutor"_s));
-        Click(Window, u"cmdTutor"_s);
+        Click(Main, u"cmdTutor"_s);
         QCOMPARE(desk.TakeMessage().Text, Text(OptionRows[1].TurnedOn));
         QCOMPARE(desk.TakeOption(u"show tallymere tutor"_s), u"1"_s);
         QVERIFY(TheTutorTimer().isActive());
@@ -858,7 +858,7 @@ private Q_SLOTS:
         desk.StartProgram();
         Choose(u"mnuFileCreditors"_s);
         QVERIFY(!TheTutorTimer().isActive());
-        Show(Window);
+        Show(Main);
         QVERIFY(IsShown(u"frmCreditors"_s));
         QVERIFY(TheTutorTimer().isActive());
     }
@@ -890,7 +890,7 @@ private Q_SLOTS:
         TutorPages tutor;
         Choose(u"mnuFileExtras"_s);
         const Form *first = TheWindows.Loaded(u"frmExtras"_s);
-        Show(Window);
+        Show(Main);
         Choose(u"mnuFileExtras"_s);
         QCOMPARE(TheWindows.Loaded(u"frmExtras"_s), first);
         QCOMPARE(ActiveWindow(), u"frmExtras"_s);
@@ -902,12 +902,12 @@ private Q_SLOTS:
         for (const OptionRow &row : OptionRows) {
             GuiDesk desk;
             TheWindows.Reset();
-            DeclareToy<frmMain>(Window);
+            DeclareToy<frmMain>(Main);
             DeclareToy<Toy>(Text(row.Window));
             desk.StartProgram();
             for (const OptionRow &other : OptionRows)
                 QCOMPARE(Entry(Text(other.Entry)).isEnabled(), &other == &row);
-            QCOMPARE(IsEnabled(Window, u"cmdTutor"_s), Text(row.Entry) == u"mnuTallymereTutor"_s);
+            QCOMPARE(IsEnabled(Main, u"cmdTutor"_s), Text(row.Entry) == u"mnuTallymereTutor"_s);
         }
     }
 
@@ -945,7 +945,7 @@ private Q_SLOTS:
         QCOMPARE(date, u"Monday  January 5, 2004"_s);
         QCOMPARE(tutor.Pages, QList<int>{22});
         QVERIFY(!IsShown(Question));
-        QCOMPARE(TextOf(Window, u"staMain1"_s), u"Current Pay Period: February 1, 2004"_s);
+        QCOMPARE(TextOf(Main, u"staMain1"_s), u"Current Pay Period: February 1, 2004"_s);
         QVERIFY(TheTutorTimer().isActive());
     }
 
@@ -1012,11 +1012,11 @@ private Q_SLOTS:
                                                            desk.Folder() + u"\\stores\\"_s, QString()}}));
         QCOMPARE(State.CurrentStoreFile, name);
         QCOMPARE(State.NumberOfCurrentItems, 0);
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s)[6], u"Current Shopping List: "_s + name);
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s)[6], u"Current Shopping List: "_s + name);
         QCOMPARE(TextOf(u"frmEnvironmentSettings"_s, u"txtStoreFile"_s), name);
         QVERIFY(!IsShown(u"frmEnvironmentSettings"_s)); // loaded unseen
         QCOMPARE(tutor.Pages, QList<int>{11});
-        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(ActiveWindow(), Main);
     }
 
     // The settings window rests the tutor's timer like every window that is loaded, seen or not.
@@ -1042,7 +1042,7 @@ private Q_SLOTS:
         QVERIFY(TheWindows.Loaded(settings));
         QVERIFY(!IsShown(settings));
         QCOMPARE(TextOf(settings, u"txtStoreFile"_s), name);
-        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(ActiveWindow(), Main);
         QVERIFY(!TheTutorTimer().isActive());
         LeaveAndReturn();
         QVERIFY(TheTutorTimer().isActive());
@@ -1060,7 +1060,7 @@ private Q_SLOTS:
         desk.FileAnswers += u"weekly.lst"_s;
         Choose(u"mnuShopperOpenStoreList"_s);
         QCOMPARE(desk.TakeMessage(), (Message{u"Error 76: Path not found"_s, u"Open Store File"_s, Icon::Stop}));
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s)[6], u"Current Shopping List: untitled.lst"_s);
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s)[6], u"Current Shopping List: untitled.lst"_s);
         QVERIFY(!desk.Ended);
     }
 
@@ -1077,10 +1077,10 @@ private Q_SLOTS:
         GuiDesk desk;
         DeclareToys();
         desk.StartProgram();
-        Click(Window, u"cmdHowDoI"_s);
+        Click(Main, u"cmdHowDoI"_s);
         QCOMPARE(ActiveWindow(), u"frmHowDoI"_s);
-        Show(Window);
-        Click(Window, u"cmdGettingStarted"_s);
+        Show(Main);
+        Click(Main, u"cmdGettingStarted"_s);
         QMenu *menu = Entry(u"mnuGettingStarted"_s).menu();
         QVERIFY(menu->isVisible());
         QCOMPARE(menu->pos(), QCursor::pos());
@@ -1093,7 +1093,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         TheWindows.Reset();
-        DeclareToy<frmMain>(Window);
+        DeclareToy<frmMain>(Main);
         DeclareToy<Toy>(u"frmCreditors"_s);
         desk.StartProgram();
         for (const MenuRow &row : MenuRows)
@@ -1103,15 +1103,15 @@ private Q_SLOTS:
         QVERIFY(!Entry(u"mnuIncome"_s).isEnabled());
         for (const OptionRow &row : OptionRows) // an option must not promise what there is not
             QVERIFY(!Entry(Text(row.Entry)).isEnabled());
-        QVERIFY(!IsEnabled(Window, u"cmdTutor"_s));
+        QVERIFY(!IsEnabled(Main, u"cmdTutor"_s));
         QVERIFY(Entry(u"mnuFile"_s).isEnabled());
-        QVERIFY(!IsEnabled(Window, u"cmdHowDoI"_s));
-        QVERIFY(!IsEnabled(Window, u"cmdGettingStarted"_s));
+        QVERIFY(!IsEnabled(Main, u"cmdHowDoI"_s));
+        QVERIFY(!IsEnabled(Main, u"cmdGettingStarted"_s));
         for (int index = 1; index <= 16; ++index)
             QVERIFY(!ToolbarButton(index).isEnabled());
-        ClickRow(Window, u"lstBudgetState"_s, 1);
-        QCOMPARE(ActiveWindow(), Window);
-        ClickRow(Window, u"lstBudgetState"_s, 0);
+        ClickRow(Main, u"lstBudgetState"_s, 1);
+        QCOMPARE(ActiveWindow(), Main);
+        ClickRow(Main, u"lstBudgetState"_s, 0);
         QCOMPARE(ActiveWindow(), u"frmCreditors"_s);
     }
 
@@ -1124,16 +1124,16 @@ private Q_SLOTS:
         QuestionAnswerer answerer;
         Show(u"frmSplash"_s);
         QCOMPARE(desk.TakeHourglass(), QList<bool>());
-        QVERIFY(!TheWindows.Loaded(Window));
+        QVERIFY(!TheWindows.Loaded(Main));
         Click(u"frmSplash"_s, u"cmdContinue"_s);
         QCOMPARE(desk.TakeHourglass(), (QList<bool>{true, false}));
         QVERIFY(!TheWindows.Loaded(u"frmSplash"_s));
         QTRY_COMPARE(answerer.Asked, 1);
         QCOMPARE(answerer.Offered, u"January 5, 2004"_s);
         QCOMPARE(answerer.ActiveThen, Question);
-        QTRY_COMPARE(ActiveWindow(), Window);
+        QTRY_COMPARE(ActiveWindow(), Main);
         QCOMPARE(State.CurrentPayPeriod, u"1/7/2004"_s);
-        QCOMPARE(TextOf(Window, u"staMain1"_s), u"Current Pay Period: January 7, 2004"_s);
+        QCOMPARE(TextOf(Main, u"staMain1"_s), u"Current Pay Period: January 7, 2004"_s);
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         QVERIFY(!State.InitializingVariables);
         QVERIFY(TheTutorTimer().isActive());
@@ -1160,7 +1160,7 @@ private Q_SLOTS:
         QuestionAnswerer answerer;
         State.WelcomeLevelPending = true;
         State.WelcomeLevel = level;
-        Show(Window);
+        Show(Main);
         QTRY_COMPARE(answerer.Asked, 1);
         QVERIFY(!State.WelcomeLevelPending);
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
@@ -1182,7 +1182,7 @@ private Q_SLOTS:
         desk.Options[u"show tallymere tutor"_s] = u"0"_s; // it is loaded for its place also when it is off
         DeclareToy<TutorToy>(u"frmTallymereTutor"_s);
         desk.StartProgram();
-        const Form &main = *TheWindows.Loaded(Window);
+        const Form &main = *TheWindows.Loaded(Main);
         QVERIFY(TheWindows.Loaded(u"frmTallymereTutor"_s));
         QVERIFY(!IsShown(u"frmTallymereTutor"_s));
         QCOMPARE(main.x() + main.width(), 1500);
@@ -1208,13 +1208,13 @@ private Q_SLOTS:
         else
             desk.WriteFile(u"environm.ini"_s, settings);
         QuestionAnswerer answerer;
-        Show(Window);
+        Show(Main);
         QTRY_COMPARE(answerer.Asked, 1);
         QCOMPARE(answerer.Offered, QString()); // not even today is known
         QCOMPARE(desk.TakeMessage(), (Message{text, u"Initialize Variables"_s, Icon::Stop}));
-        QTRY_COMPARE(ActiveWindow(), Window);
-        QCOMPARE(TextOf(Window, u"staMain1"_s), u"Current Pay Period: January 7, 2004"_s);
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).size(), 9);
+        QTRY_COMPARE(ActiveWindow(), Main);
+        QCOMPARE(TextOf(Main, u"staMain1"_s), u"Current Pay Period: January 7, 2004"_s);
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s).size(), 9);
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList());
         QCOMPARE(Entry(u"mnuFinanceMathCalculator"_s).isEnabled(), calculator);
         QVERIFY(State.InitializingVariables);
@@ -1227,7 +1227,7 @@ private Q_SLOTS:
         desk.WriteFile(u"creditor.txt"_s, "1\r\n1\r\n\"Rent\"\r\n800\r\n");
         desk.StartProgram();
         QVERIFY(!Entry(u"mnuFinanceMathCalculator"_s).isEnabled());
-        QCOMPARE(RowsOf(Window, u"lstBudgetState"_s).first(), u"Creditors: 1"_s);
+        QCOMPARE(RowsOf(Main, u"lstBudgetState"_s).first(), u"Creditors: 1"_s);
     }
 
     // The ways out
@@ -1246,7 +1246,7 @@ private Q_SLOTS:
         DeclareToys();
         desk.StartProgram();
         Choose(u"mnuFileExtras"_s); // it gets no unload event
-        Show(Window);
+        Show(Main);
         State.PaycheckAmount = Currency::FromTenThousandths(12345000);
         QStringList order;
         QByteArray saved;
@@ -1257,11 +1257,11 @@ private Q_SLOTS:
         };
         TheDesk.EndProgram = [&] { order += u"ended"_s; };
         if (way == 0)
-            Click(Window, u"cmdExit"_s);
+            Click(Main, u"cmdExit"_s);
         else if (way == 1)
             Choose(u"mnuFileExit"_s);
         else
-            CloseByFrame(Window);
+            CloseByFrame(Main);
         QCOMPARE(order, (QStringList{u"calculator closed"_s, u"ended"_s}));
         QCOMPARE(saved, QByteArray("26\r\n1234.5\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n"));
         QCOMPARE(Toy::Unloads, 0);

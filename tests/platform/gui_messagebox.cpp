@@ -1,7 +1,7 @@
 // The real message boxes: what stands in them and what their buttons do; and where the file dialogs open.
-#include "foundation/Identity.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
+#include "foundation/Identity.h"
 #include "platform/desk/RealDesk.h"
 
 #include <QLabel>

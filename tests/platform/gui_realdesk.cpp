@@ -1,8 +1,8 @@
 // The real desk: its own boxes, and what they wait for.
-#include "foundation/Identity.h"
 #include "InChild.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
+#include "foundation/Identity.h"
 #include "platform/desk/RealDesk.h"
 
 #include <QMenu>

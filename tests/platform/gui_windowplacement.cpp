@@ -60,7 +60,7 @@ private Q_SLOTS:
         TheWindows.Register(u"frmTwo"_s, [] { return new Toy; });
         TheWindows.Register(u"frmOnlooker"_s, [] { return new Onlooker; });
         Show(u"frmHub"_s);
-        TheWindows.Loaded(u"frmHub"_s)->move(100, 100);
+        TheWindows.Loaded(u"frmHub"_s)->move(20, 100);
     }
     void cleanup()
     {

@@ -1,7 +1,7 @@
 // The life of windows: what each of them hears, in which order, and that it is heard before the call returns.
-#include "foundation/Identity.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
+#include "foundation/Identity.h"
 #include "platform/controls/ListBox.h"
 #include "platform/desk/RealDesk.h"
 #include "platform/values/RuntimeError.h"
@@ -1327,6 +1327,7 @@ private Q_SLOTS:
     {
         ToyBox toys;
         QList<Message> boxes;
+        TheDesk.ProgramTitle = "The toys";
         TheDesk.ShowMessage = [&](const Message &message) {
             boxes += message;
             return Answer::Ok;
@@ -1336,7 +1337,7 @@ private Q_SLOTS:
         QTest::mouseClick(toys["A"].Button, Qt::LeftButton);
         QCOMPARE(boxes.size(), 1);
         QCOMPARE(boxes[0].Text, "Run-time error '13':\n\nType mismatch");
-        QCOMPARE(boxes[0].Title, "Corvelle's Tallymere 1.0");
+        QCOMPARE(boxes[0].Title, "The toys");
         QCOMPARE(boxes[0].TheIcon, Icon::Stop);
         QCOMPARE(boxes[0].TheButtons, Buttons::Ok);
         QCOMPARE(TakeLog().count("the program ends"), 1);

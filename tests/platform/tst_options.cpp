@@ -1,7 +1,6 @@
 // The options store: per user, under the program's title, section "Options".
-#include "foundation/Identity.h"
-#include "platform/desk/Desk.h"
 #include "TestProgram.h"
+#include "foundation/Identity.h"
 #include "platform/desk/Desk.h"
 #include "platform/desk/Options.h"
 
