@@ -78,7 +78,7 @@ Statement ForecastStatement()
 
 QString PickForecastRow(int row, const QString &accumulated)
 {
-    const QString date = row > State.ForecastPeriods ? QString() : Forecast.ForecastDates(row);
+    QString date = row > State.ForecastPeriods ? QString() : Forecast.ForecastDates(row);
     Forecast.ForecastPickRow = ToInteger(row);
     Forecast.ForecastPickAccumulated = accumulated.isEmpty() ? Currency::Zero : ToCurrency(accumulated);
     State.ProjectDateFromForecast = false;

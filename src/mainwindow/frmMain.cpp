@@ -12,6 +12,7 @@
 #include "platform/controls/Theme.h"
 #include "platform/windows/WindowRegister.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>

@@ -1,7 +1,7 @@
 // The program of the window tests: the program's own application object, a United States desktop, no motion.
 #include "TestProgram.h"
-#include "foundation/Identity.h"
 #include "Watchdog.h"
+#include "foundation/Identity.h"
 #include "platform/controls/ClearEdges.h"
 #include "platform/values/Locale.h"
 #include "platform/windows/Application.h"

@@ -3,7 +3,8 @@
 
 #include <QString>
 
-/// Fills TheDesk. programTitle: what the user knows the program by. printedFolder: where documents go as PDF on a machine without a printer.
+/// Fills TheDesk. programTitle: what the user knows the program by. printedFolder: where documents go as PDF on a
+/// machine without a printer.
 void InstallRealDesk(const QString &programTitle, const QString &printedFolder);
 
 struct FileQuestion;

@@ -36,7 +36,7 @@ public:
     static constexpr qint64 GreatestSize = qint64(512) << 20;
     /// The longest value in bytes; a longer one is passed over with error 7. An entry field holds 32,767 characters of
     /// up to three bytes, and what the program has written it must read.
-    static constexpr qsizetype GreatestValue = 128 * 1024;
+    static constexpr qsizetype GreatestValue = qsizetype(128) * 1024;
 
     /// Error 53 or 76 where there is none, 75 where it is no plain file or cannot be read, 7 beyond GreatestSize.
     void Open(const QString &path);
