@@ -29,7 +29,7 @@ std::filesystem::path Native(const QString &path)
 
 void ResetProgram()
 {
-    ResetState();
+    State = {};
     ThePrinter.Reset();
     Forecast = {};
     Overhead = {};

@@ -5,6 +5,7 @@
 #include "platform/values/Numbers.h"
 
 #include <QJsonDocument>
+#include <QSet>
 #include <bit>
 
 QJsonValue Told(Currency amount)
@@ -181,20 +182,54 @@ QJsonArray ToldMessages(RecordingDesk &desk)
     return told;
 }
 
+QJsonValue ToldMessage(RecordingDesk &desk)
+{
+    const QJsonArray all = ToldMessages(desk);
+    if (all.isEmpty())
+        return QJsonValue::Null;
+    return all.size() == 1 ? all[0] : QJsonValue(all);
+}
+
+namespace {
+
+QString Shown(const QJsonValue &value)
+{
+    const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(json.mid(1, json.size() - 2)).left(300);
+}
+
+/// Whether a list stands for any one of its texts.
+bool AnyOf(const QJsonValue &expected, const QJsonValue &actual)
+{
+    return expected.isArray() && actual.isString();
+}
+
+QJsonValue Changed(const QJsonValue &leaf)
+{
+    switch (leaf.type()) {
+    case QJsonValue::Bool: return !leaf.toBool();
+    case QJsonValue::Double: return leaf.toInteger() + 1;
+    case QJsonValue::String: return leaf.toString() + QLatin1Char('x');
+    default: return QStringLiteral("x");
+    }
+}
+
+QJsonArray AllChanged(QJsonArray texts)
+{
+    for (QJsonValueRef text : texts)
+        text = Changed(text);
+    return texts;
+}
+
+} // namespace
+
 QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, const QString &where)
 {
-    const auto shown = [](const QJsonValue &value) {
-        const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-        return QString::fromUtf8(json.mid(1, json.size() - 2)).left(300);
-    };
     QStringList found;
     if (expected.isObject() && actual.isObject()) {
         const QJsonObject one = expected.toObject();
-        const QJsonObject other = actual.toObject();
-        QStringList keys = one.keys() + other.keys();
-        keys.removeDuplicates();
-        for (const QString &key : std::as_const(keys))
-            found += Differences(one[key], other[key], where + QLatin1Char('.') + key);
+        for (auto member = one.begin(); member != one.end(); ++member)
+            found += Differences(member.value(), actual[member.key()], where + QLatin1Char('.') + member.key());
         return found;
     }
     if (expected.isArray() && actual.isArray()) {
@@ -206,9 +241,51 @@ QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, co
                                  QStringLiteral("%1[%2]").arg(where).arg(i));
         return found;
     }
-    if (expected.isArray() && actual.isString() && expected.toArray().contains(actual))
+    if (AnyOf(expected, actual) && expected.toArray().contains(actual))
         return found;
     if (expected != actual)
-        found += QStringLiteral("%1: expected %2, got %3").arg(where, shown(expected), shown(actual));
+        found += QStringLiteral("%1: expected %2, got %3").arg(where, Shown(expected), Shown(actual));
+    return found;
+}
+
+QList<Falsified> Falsifications(const QJsonValue &expected, const QJsonValue &actual)
+{
+    QList<Falsified> found;
+    if (AnyOf(expected, actual))
+        return {{QString(), AllChanged(expected.toArray())}};
+    if (expected.isObject()) {
+        const QJsonObject whole = expected.toObject();
+        for (auto member = whole.begin(); member != whole.end(); ++member) {
+            const QList<Falsified> inside = Falsifications(member.value(), actual[member.key()]);
+            for (const Falsified &one : inside) {
+                QJsonObject changed = whole;
+                changed[member.key()] = one.Value;
+                found.append({QLatin1Char('.') + member.key() + one.Kind, changed});
+            }
+        }
+        return found;
+    }
+    if (!expected.isArray())
+        return {{QString(), Changed(expected)}};
+    const QJsonArray whole = expected.toArray();
+    QSet<QString> kinds;
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        const QList<Falsified> inside = Falsifications(whole[i], actual[i]);
+        for (const Falsified &one : inside) {
+            if (kinds.contains(one.Kind))
+                continue;
+            kinds += one.Kind;
+            QJsonArray changed = whole;
+            changed[i] = one.Value;
+            found.append({QStringLiteral("[]") + one.Kind, changed});
+        }
+    }
+    QJsonArray other = whole;
+    if (other.isEmpty())
+        other.append(QJsonValue::Null);
+    else
+        other.removeLast();
+    found.append(
+        {QStringLiteral("[] ") + (whole.isEmpty() ? QStringLiteral("longer") : QStringLiteral("shorter")), other});
     return found;
 }

@@ -1,6 +1,7 @@
-// Forecast, monthly overhead and the scan of pay periods.
+// Forecast, monthly overhead and the scan of pay periods, as their windows show them.
 #include "Cases.h"
 
+#include "Hand.h"
 #include "RecordingDesk.h"
 #include "StatementOf.h"
 #include "budget/MonthlyOverhead.h"
@@ -8,113 +9,108 @@
 #include "budget/ScanPayPeriods.h"
 #include "foundation/BudgetFiles.h"
 #include "foundation/State.h"
+#include "foundation/WindowNames.h"
 #include "platform/controls/Grid.h"
+#include "platform/controls/ListBox.h"
 #include "platform/values/Format.h"
 #include "platform/windows/WindowRegister.h"
 
-#include "Windows.h"
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// Texts and colours are the window's, days and exact amounts those of the calculation.
 QJsonArray ToldForecast()
 {
+    const Grid &grid = GridIn(WindowName::frmSavingsForecast, u"grdSavingsForecast"_s);
     QJsonArray told;
-    const Statement shown = ForecastStatement();
-    for (int i = 1; i <= State.ForecastPeriods; ++i) {
-        const ForecastRow &row = Forecast.Rows(i);
-        const StatementRow &line = shown.Rows[std::size_t(i - 1)];
-        told += QJsonObject{{QStringLiteral("number"), i},
-                            {QStringLiteral("date"), Format(row.Day, DateFormat::Short)},
-                            {QStringLiteral("date_text"), LabelOf(line)},
-                            {QStringLiteral("savings"), Told(row.Savings)},
-                            {QStringLiteral("savings_text"), FormatCurrency(line.Amounts[0])},
-                            {QStringLiteral("savings_red"), line.Amounts[0] < Currency()},
-                            {QStringLiteral("accumulated"), Told(row.Accumulated)},
-                            {QStringLiteral("accumulated_text"), FormatCurrency(line.Amounts[1])},
-                            {QStringLiteral("accumulated_red"), line.Amounts[1] < Currency()}};
+    for (int row = 1; row <= State.ForecastPeriods; ++row) {
+        const ForecastRow &exact = Forecast.Rows(row);
+        told += QJsonObject{{u"number"_s, grid.Text(row, 0).toInt()},
+                            {u"date"_s, Format(exact.Day, DateFormat::Short)},
+                            {u"date_text"_s, grid.Text(row, 1)},
+                            {u"savings"_s, Told(exact.Savings)},
+                            {u"savings_text"_s, grid.Text(row, 2)},
+                            {u"savings_red"_s, grid.Colour(row, 2) == GridColour::LightRed},
+                            {u"accumulated"_s, Told(exact.Accumulated)},
+                            {u"accumulated_text"_s, grid.Text(row, 3)},
+                            {u"accumulated_red"_s, grid.Colour(row, 3) == GridColour::LightRed}};
     }
     return told;
+}
+
+/// The rows of a grid, the heading included. Of empty rows at its end one is told: taking back a colour below the last
+/// row makes another one.
+QJsonArray ToldGrid(const Grid &grid)
+{
+    const QJsonArray empty{QString(), QString()};
+    QJsonArray rows;
+    for (int row = 0; row < grid.Rows(); ++row)
+        rows += QJsonArray{grid.Text(row, 0), grid.Text(row, 1)};
+    while (rows.size() > 1 && rows.last() == empty && rows[rows.size() - 2] == empty)
+        rows.removeLast();
+    return rows;
 }
 
 } // namespace
 
-QJsonValue RunForecastCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk)
+QJsonValue RunForecastCase(const QJsonObject &input, RecordingDesk &desk)
 {
+    const QString elsewhere = u"frmElsewhere"_s;
+    TheWindows.Register(elsewhere, [] { return new Form; });
     TakeHousehold(input);
-    Forecast = {};
-    State.BudgetPeriodStart = State.CurrentPayPeriod;
-    State.PrintSavingsForecast = expected.contains(u"printed");
-    ForecastSavings();
-    QJsonObject told{{QStringLiteral("rows"), ToldForecast()}};
-    if (expected.contains(u"printed"))
-        told[QStringLiteral("printed")] = Told(desk.Printed.value(0).Lines);
-    if (expected.contains(u"rows_when_focus_returns")) {
-        State.LookingAhead = false;
-        State.BudgetCredit = {};
-        ForecastSavings();
-        told[QStringLiteral("rows_when_focus_returns")] = ToldForecast();
-    }
+    State.PrintSavingsForecast = true;
+    Open(WindowName::frmSavingsForecast);
+    QJsonObject told{{u"rows"_s, ToldForecast()}, {u"printed"_s, Told(desk.TakePrinted().Lines)}};
+    Open(elsewhere);
+    Open(WindowName::frmSavingsForecast);
+    told[u"rows_when_focus_returns"_s] = ToldForecast();
     return told;
 }
 
-QJsonValue RunOverheadCase(const QJsonObject &input, const QJsonObject &expected, RecordingDesk &desk)
+QJsonValue RunOverheadCase(const QJsonObject &input, RecordingDesk &desk)
 {
     TakeHousehold(input);
-    Overhead = {};
-    const Statement statement = CalculateOverhead();
+    Open(WindowName::frmMonthlyOverhead);
+    Press(WindowName::frmMonthlyOverhead, u"cmdPrint"_s);
+    const Grid &grid = GridIn(WindowName::frmMonthlyOverhead, u"grdOverhead"_s);
+    const Statement overhead = CalculateOverhead();
     QJsonArray lines;
-    for (const StatementRow &line : LinesOf(statement))
-        lines += QJsonObject{{QStringLiteral("label"), LabelOf(line)},
-                             {QStringLiteral("amount"), Told(AmountOf(line))},
-                             {QStringLiteral("text"), FormatCurrency(AmountOf(line))}};
-    const Currency total = AmountOf(RowOf(statement, StatementRow::Total));
-    PrintOverhead();
-
-    // The grid is read off the window itself, as many rows as the case tells.
-    RegisterWindows();
-    TheWindows.Show(QStringLiteral("frmMonthlyOverhead"));
-    const auto &shown = TheWindows.ControlOf<Grid>(QStringLiteral("frmMonthlyOverhead"), QStringLiteral("grdOverhead"));
-    QJsonArray grid;
-    for (int row = 0; row < shown.Rows(); ++row)
-        if (row < expected[u"grid"].toArray().size() || !(shown.Text(row, 0) + shown.Text(row, 1)).isEmpty())
-            grid += QJsonArray{shown.Text(row, 0), shown.Text(row, 1)};
-    TheWindows.Reset();
-
-    return QJsonObject{
-        {QStringLiteral("MonthlyNetIncome"), Told(AmountOf(statement.Opening))},
-        {QStringLiteral("MonthlyNetIncome_text"), FormatCurrency(AmountOf(statement.Opening))},
-        {QStringLiteral("lines"), lines},
-        {QStringLiteral("TotalOverhead"), Told(total)},
-        {QStringLiteral("TotalOverhead_text"), FormatCurrency(total)},
-        {QStringLiteral("result"), QJsonObject{{QStringLiteral("label"), ResultLabelOf(statement)},
-                                               {QStringLiteral("amount"), Told(ResultOf(statement))},
-                                               {QStringLiteral("text"), FormatCurrency(ResultOf(statement))}}},
-        {QStringLiteral("grid"), grid},
-        {QStringLiteral("printed"), Told(desk.Printed.value(0).Lines)}};
+    int row = overhead.FirstRow;
+    for (const StatementRow &line : LinesOf(overhead)) {
+        lines += QJsonObject{
+            {u"label"_s, grid.Text(row, 0)}, {u"amount"_s, Told(AmountOf(line))}, {u"text"_s, grid.Text(row, 1)}};
+        ++row;
+    }
+    const StatementRow total = RowOf(overhead, StatementRow::Total);
+    const int result = grid.ResultRow();
+    return QJsonObject{{u"MonthlyNetIncome"_s, Told(AmountOf(overhead.Opening))},
+                       {u"MonthlyNetIncome_text"_s, grid.Text(0, 1)},
+                       {u"lines"_s, lines},
+                       {u"TotalOverhead"_s, Told(AmountOf(total))},
+                       {u"TotalOverhead_text"_s, FormatCurrency(AmountOf(total))},
+                       {u"result"_s, QJsonObject{{u"label"_s, grid.Text(result, 0)},
+                                                 {u"amount"_s, Told(ResultOf(overhead))},
+                                                 {u"text"_s, grid.Text(result, 1)}}},
+                       {u"grid"_s, ToldGrid(grid)},
+                       {u"printed"_s, Told(desk.TakePrinted().Lines)}};
 }
 
 /// A pick in the list that the extras window has opened.
-QJsonValue RunScanCase(const QJsonObject &input, const QJsonObject &, RecordingDesk &desk)
+QJsonValue RunScanCase(const QJsonObject &input, RecordingDesk &desk)
 {
     TakeHousehold(input);
     HoldDatesAsLoaded();
-    Scan = {};
-    desk.WriteFile(QStringLiteral("extra.txt"), "0\r\n");
-    FillScanPayPeriods();
-    QStringList list;
-    for (const DateText &date : Scan.ScanDates)
-        list += FormatLongDate(date);
-    Scan.ScanPickedDate = Format(Scan.ScanDates[std::size_t(input[u"picked_row"].toInt())], DateFormat::Dashes);
-    NewExtraPayPeriod();
-    SortExtraPayPeriods();
+    desk.WriteFile(u"extra.txt"_s, "0\r\n");
     SavePayPeriods();
-    InputPayPeriods();
-    QStringList payPeriods;
-    for (int i = 1; i <= State.NumberOfExtraPayPeriods; ++i)
-        payPeriods += FormatLongDate(State.ExtraPayPeriods(i).PayPeriodDate);
-    return QJsonObject{{QStringLiteral("list"), Told(list)},
-                       {QStringLiteral("ScanPickedDate"), Scan.ScanPickedDate},
-                       {QStringLiteral("ExtraPayPeriods"), ToldExtras(DateFormat::Short)},
-                       {QStringLiteral("pay_period_list"), Told(payPeriods)},
-                       {QStringLiteral("extra.txt"), QString::fromUtf8(desk.ReadFile(QStringLiteral("extra.txt")))}};
+    Open(WindowName::frmExtras);
+    Press(WindowName::frmExtras, u"cmdListPayPeriods"_s);
+    Press(WindowName::frmExtras, u"cmdAddPayPeriod"_s);
+    const QStringList list = ListIn(WindowName::frmScanPayPeriods, u"lstScanPayPeriods"_s).Items();
+    Pick(WindowName::frmScanPayPeriods, u"lstScanPayPeriods"_s, input[u"picked_row"].toInt());
+    return QJsonObject{{u"list"_s, Told(list)},
+                       {u"ScanPickedDate"_s, Scan.ScanPickedDate},
+                       {u"ExtraPayPeriods"_s, ToldExtras(DateFormat::Short)},
+                       {u"pay_period_list"_s, Told(ListIn(WindowName::frmExtras, u"lstExtraItems"_s).Items())},
+                       {u"extra.txt"_s, QString::fromUtf8(desk.ReadFile(u"extra.txt"_s))}};
 }
