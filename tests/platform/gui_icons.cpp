@@ -44,10 +44,8 @@ constexpr IconRow ToolbarIcons[] = {
 };
 
 constexpr IconRow OtherIcons[] = {
-    {"exit", true, true},        {"help", true, true}, {"tutor", true, true}, {"getting-started", true, true},
-    {"tallymere", false, true},  // the program's own: a filled tile
-    {"switch-on", false, true},  // a filled switch
-    {"switch-off", true, false}, // an empty one: nothing is lit
+    {"exit", true, true},       {"help", true, true}, {"tutor", true, true}, {"getting-started", true, true},
+    {"tallymere", false, true}, // the program's own: a filled tile
 };
 
 QList<IconRow> AllIcons()
