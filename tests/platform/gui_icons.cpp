@@ -399,7 +399,7 @@ private Q_SLOTS:
 
         for (const QPalette &palette : {LightPalette(), DarkPalette()}) {
             QApplication::setPalette(palette);
-            QCoreApplication::processEvents(); // windows are told of the new colours by a posted event
+            QCoreApplication::processEvents(); // windows learn of the new colours by a posted event
             const QColor accent = AccentColour(palette);
             const QImage image = window.grab().toImage();
             QCOMPARE(QColor(image.pixel(120, 2)), accent);
