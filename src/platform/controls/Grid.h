@@ -9,7 +9,7 @@
 
 class GridModel;
 
-/// The colours of amounts, told by their customary numbers: 0 the text colour, 9 light blue, 12 light red.
+/// The colours of amounts by their customary numbers: 0 the text colour, 9 light blue, 12 light red.
 enum class GridColour { Text = 0, LightBlue = 9, LightRed = 12 };
 
 /// A column as its window lays it out.

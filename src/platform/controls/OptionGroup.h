@@ -12,7 +12,7 @@
 class OptionGroup : public QButtonGroup
 {
 public:
-    /// click is told of an option that becomes selected, by the user or by code; never of one that stays selected.
+    /// click is called for an option that becomes selected, by the user or by code; never for one that stays so.
     OptionGroup(const QList<QRadioButton *> &options, const std::function<void(int)> &click)
     {
         for (int index = 0; index < options.size(); ++index) {
