@@ -1,14 +1,9 @@
 #include "commitments/ListPanel.h"
 
 #include "platform/controls/ListBox.h"
-#include "platform/values/Format.h"
 
 #include <QPushButton>
 #include <QScopeGuard>
-
-namespace {
-const Currency GreatestUsualAmount = Currency::FromTenThousandths(-999'999'900); // larger ones scroll
-}
 
 void ListPanel::TakeControls(const Controls &controls)
 {
@@ -24,7 +19,6 @@ void ListPanel::TakeControls(const Controls &controls)
         Close();
     });
     EnterRing(controls.Fields);
-    KeepRoomFor(controls.Amount, FormatCurrency(GreatestUsualAmount));
 }
 
 void ListPanel::ReadClicked()
@@ -87,15 +81,6 @@ void ListPanel::FillList()
 int ListPanel::SelectedRecord() const
 {
     return m_controls.List->ListIndex() + 1;
-}
-
-void ListPanel::KeepRoomFor(QLineEdit *field, const QString &text)
-{
-    constexpr int LettersOfHint = 17; // what the toolkit makes a field wide enough for, its frame included
-    field->ensurePolished();
-    const QFontMetrics metrics = field->fontMetrics();
-    const int frame = field->sizeHint().width() - LettersOfHint * metrics.horizontalAdvance(QLatin1Char('x'));
-    field->setMinimumWidth(frame + metrics.horizontalAdvance(text) + 1); // and the caret
 }
 
 void ListPanel::SetFields(const QStringList &texts)

@@ -25,7 +25,6 @@ protected:
         QPushButton *Delete = nullptr;
         QPushButton *Quit = nullptr;
         QPushButton *Commit = nullptr;
-        QLineEdit *Amount = nullptr;
         QList<QLineEdit *> Fields; ///< as the list declares them; the first one gets the focus
     };
     /// Takes the window's controls and connects their events.
@@ -44,8 +43,6 @@ protected:
     /// outlast the selection.
     int SelectedRecord() const;
 
-    /// Makes a field wide enough for a text.
-    static void KeepRoomFor(QLineEdit *field, const QString &text);
     void SetFields(const QStringList &texts);
     void EmptyFields();
     void EnableFields(bool enabled);

@@ -11,6 +11,5 @@ frmCreditors::frmCreditors() : ListWindow(CreditorList)
                   .Delete = ui.cmdDeleteCreditor,
                   .Quit = ui.cmdQuit,
                   .Commit = ui.cmdAddChangeCreditor,
-                  .Amount = ui.txtCreditorAmount,
                   .Fields = {ui.txtCreditorDueDate, ui.txtCreditorAmount, ui.txtCreditor}});
 }

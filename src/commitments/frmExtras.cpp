@@ -15,7 +15,6 @@ frmExtras::frmExtras() : ListWindow(ExtraItemList)
                   .Delete = ui.cmdDeleteExtraItem,
                   .Quit = ui.cmdQuit,
                   .Commit = ui.cmdAddChangeExtraItem,
-                  .Amount = ui.txtExtraItemAmount,
                   .Fields = {ui.txtExtraItemAmount, ui.txtExtraItem}});
     connect(&ThePayPeriodOutlet, &PayPeriodOutlet::PayPeriodAdded, this, &frmExtras::TakePickedPayPeriod);
     OnClick(ui.cmdAddPayPeriod, [this] { AddPayPeriod(); });

@@ -31,9 +31,7 @@ frmProjects::frmProjects() : ListWindow(ProjectList)
                   .Delete = ui.cmdDeleteProject,
                   .Quit = ui.cmdQuit,
                   .Commit = ui.cmdNew,
-                  .Amount = ui.txtProjectAmount,
                   .Fields = {ui.txtProject, ui.txtProjectAmount, ui.txtProjectCompletionDate}});
-    KeepRoomFor(ui.txtProjectCompletionDate, QStringLiteral("September 30, 2004")); // no date is longer
     for (QLineEdit *field : {ui.txtProject, ui.txtProjectAmount, ui.txtProjectCompletionDate})
         connect(field, &QLineEdit::textChanged, this, &frmProjects::UpdateNewButton);
     connect(ui.lstProjects, &ListBox::DoubleClick, this, &frmProjects::ViewProject);

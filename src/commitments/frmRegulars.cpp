@@ -11,7 +11,6 @@ frmRegulars::frmRegulars() : ListWindow(RegularList)
                   .Delete = ui.cmdDeleteRegularItem,
                   .Quit = ui.cmdQuit,
                   .Commit = ui.cmdAddChangeRegularItem,
-                  .Amount = ui.txtRegularAmount,
                   .Fields = {ui.txtRegularAmount, ui.txtRegularItem}});
 }
 

@@ -2,7 +2,6 @@
 
 #include "commitments/Projects.h"
 #include "foundation/StatementGrid.h"
-#include "ui_frmViewProject.h"
 
 namespace {
 constexpr int StartRows = 2; // the heading and one row; every installment brings its own
@@ -16,17 +15,14 @@ bool ProjectIsThere()
 }
 } // namespace
 
-frmViewProject::frmViewProject() : ui(std::make_unique<Ui::frmViewProject>())
+frmViewProject::frmViewProject()
 {
-    ui->setupUi(this);
-    ui->grdViewProject->SetColumns({{QStringLiteral("Pay Period"), DateTwips},
-                                    {QStringLiteral("Installment"), AmountTwips, Qt::AlignRight},
-                                    {QStringLiteral("Accumulated"), AmountTwips, Qt::AlignRight}},
-                                   StartRows);
-    OnGotFocus(ui->grdViewProject, [this] { grdViewProject_GotFocus(); });
+    ui.grdViewProject->SetColumns({{QStringLiteral("Pay Period"), DateTwips},
+                                   {QStringLiteral("Installment"), AmountTwips, Qt::AlignRight},
+                                   {QStringLiteral("Accumulated"), AmountTwips, Qt::AlignRight}},
+                                  StartRows);
+    OnGotFocus(ui.grdViewProject, [this] { FillGrid(); });
 }
-
-frmViewProject::~frmViewProject() = default;
 
 void frmViewProject::Activate()
 {
@@ -34,14 +30,14 @@ void frmViewProject::Activate()
         setWindowTitle(State.ProjectNames(Projects.SelectedProject));
 }
 
-void frmViewProject::grdViewProject_GotFocus()
+void frmViewProject::FillGrid()
 {
     if (!ProjectIsThere())
         return;
     // Rows of an earlier filling stay below the new ones, and each filling prints again: coming back to the window is a
     // filling, too.
-    ShowRows(*ui->grdViewProject, ProjectStatement(Projects.SelectedProject));
-    ui->grdViewProject->SetCurrentRow(0);
+    ShowRows(*ui.grdViewProject, ProjectStatement(Projects.SelectedProject));
+    ui.grdViewProject->SetCurrentRow(0);
     if (State.PrintProjectView)
         PrintProject(Projects.SelectedProject);
 }

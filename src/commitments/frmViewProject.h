@@ -1,25 +1,16 @@
 // The installments of one project with their running total, on the screen and, if the user has asked for it, on paper.
 #pragma once
 
-#include "platform/windows/Form.h"
-
-#include <memory>
-
-namespace Ui {
-class frmViewProject;
-}
+#include "platform/windows/Window.h"
+#include "ui_frmViewProject.h"
 
 /// Not one of the windows that make the tutor rest.
-class frmViewProject : public Form
+class frmViewProject : public Window<Ui::frmViewProject>
 {
-    Q_OBJECT
 public:
     frmViewProject();
-    ~frmViewProject() override;
     void Activate() override;
 
 private:
-    void grdViewProject_GotFocus();
-
-    std::unique_ptr<Ui::frmViewProject> ui;
+    void FillGrid();
 };

@@ -106,6 +106,23 @@ private Q_SLOTS:
         QCOMPARE(Enabled(Window, Controls), u"cmdListPayPeriods cmdDeletePayPeriod cmdAddExtraItem cmdQuit"_s);
     }
 
+    void ADoubleClickOnAPayPeriodOpensItAndSelectsNoItem()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        auto &list = Find<ListBox>(Window, List);
+        const QPoint place = list.visualItemRect(list.item(0)).center();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place); // its second press and release
+        Settle();
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Gift"_s, u"Refund"_s}));
+        QCOMPARE(SelectedRow(Window, List), -1);
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QVERIFY(!IsEnabled(Window, Commit));
+        ClickRow(Window, List, 0); // a click of its own does
+        QCOMPARE(Texts(Window, Fields), u"$30.00 | Gift"_s);
+    }
+
     void ANegativeCountOfItemsIsAnEmptyPayPeriod()
     {
         CommitmentsDesk desk;
