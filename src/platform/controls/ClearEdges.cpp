@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double EdgeContrast = 3.2; // 3, and a little for the corners, which are blended
+constexpr double EdgeContrast = 3.5; // 3, and a little for round edges, which are blended
 constexpr double Radius = 2;
 
 /// An edge is seen against the window outside and the field inside.
