@@ -85,7 +85,7 @@ private Q_SLOTS:
         Fill(grid, 2);
         grid.AddItem("new\t5", 1);
         QCOMPARE(RowsOf(grid), (QStringList{"Item | Amount", "new | 5", "item 1 | 10", "item 2 | 20"}));
-        grid.AddItem("last", 4); // at the row count it appends; cells that are not told are empty
+        grid.AddItem("last", 4); // at the row count it appends; cells that are not given are empty
         QCOMPARE(grid.Rows(), 5);
         QCOMPARE(RowsOf(grid).last(), "last | ");
         grid.AddItem("heading\t", 0); // also before the heading, which becomes a row then
@@ -494,7 +494,7 @@ private Q_SLOTS:
             grid.SetColour(row, 1, GridColour::LightRed);
             grid.SetBold(row, 0, true);
         }
-        QCOMPARE(resets.count() + inserts.count() + changes.count(), 0); // nothing is told row by row
+        QCOMPARE(resets.count() + inserts.count() + changes.count(), 0); // no notice row by row
         QCoreApplication::processEvents();
         QCOMPARE(resets.count(), 1);
         QCOMPARE(inserts.count() + changes.count(), 0);

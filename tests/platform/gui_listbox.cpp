@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(stage.DoubleClicks.count(), 0);
     }
 
-    // What is selected has always been told: the row where the mouse is let go counts.
+    // The row where the button is released counts.
     void APressThatWandersIsAClickWhereItEnds()
     {
         Stage stage;

@@ -1,4 +1,4 @@
-// A group of option buttons: one is selected or none, and only what becomes selected is told.
+// A group of option buttons: one is selected or none, and only what becomes selected is a click.
 #include "GuiDesk.h"
 #include "TestProgram.h"
 #include "platform/controls/OptionGroup.h"

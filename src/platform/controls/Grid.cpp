@@ -20,7 +20,7 @@ constexpr int MostLetters = 120;  // that a grid claims the width of
 constexpr int HairlineAlpha = 60; // of 255
 } // namespace
 
-/// The rows of a grid. The view is told of any number of changes at once, when the program comes to rest.
+/// The rows of a grid. The view hears of any number of changes at once, when the program is idle again.
 class GridModel : public QAbstractTableModel
 {
 public:

@@ -10,6 +10,8 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
+using namespace Qt::Literals::StringLiterals;
+
 // A static library's resources are left out unless something asks for them. This has to stand outside any namespace.
 static void KeepIconFiles()
 {
@@ -20,7 +22,7 @@ namespace {
 
 QString IconFile(const QString &name)
 {
-    return QStringLiteral(":/icons/%1.svg").arg(name);
+    return u":/icons/%1.svg"_s.arg(name);
 }
 
 /// What the three placeholder colours of a drawing become.
@@ -65,8 +67,7 @@ public:
         if (size.isEmpty())
             return {};
         const IconColours colours = ColoursFor(mode);
-        const QString cacheKey = QStringLiteral("icon/%1/%2x%3/%4%5%6")
-                                     .arg(m_name)
+        const QString cacheKey = u"icon/%1/%2x%3/%4%5%6"_s.arg(m_name)
                                      .arg(size.width())
                                      .arg(size.height())
                                      .arg(colours.Ink.name(), colours.Accent.name(), colours.Paper.name());
@@ -79,7 +80,7 @@ public:
     }
 
     QIconEngine *clone() const override { return new ThemedIconEngine(m_name); }
-    QString key() const override { return QStringLiteral("ThemedIcon"); }
+    QString key() const override { return u"ThemedIcon"_s; }
     QString iconName() override { return m_name; }
 
 private:
