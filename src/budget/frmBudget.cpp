@@ -2,7 +2,6 @@
 
 #include "foundation/State.h"
 #include "foundation/StatementGrid.h"
-#include "platform/controls/Icons.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
 
@@ -15,18 +14,12 @@ frmBudget::frmBudget()
     ui.grdBudget->SetColumnWidth(1, 1750);
     ui.grdBudget->SetRightAligned(1, true);
     ui.grdBudget->SetEndsWithText(true); // the rows stay, and each run brings more
-    ui.pbPrintOn->setIcon(ThemedIcon(u"switch-on"_s));
-    ui.pbPrintOff->setIcon(ThemedIcon(u"switch-off"_s));
     connect(&TheBudgetOutlet, &StatementOutlet::Ready, this, [this](const Statement &budget) { ShowBudget(budget); });
     OnClick(ui.cmdBudget, [] { GenerateBudget(); });
-    // The two states raise their click also when code sets them, and none when nothing changes.
-    connect(ui.pbPrintOn, &QToolButton::toggled, this, [this](bool on) {
-        if (on)
-            pbPrintOn_Click();
-    });
-    connect(ui.pbPrintOff, &QToolButton::toggled, this, [this](bool on) {
-        if (on)
-            pbPrintOff_Click();
+    connect(ui.printSwitch, &PrintSwitch::Click, this, [](bool on) {
+        State.PrintBudget = on;
+        if (!on)
+            ThePrinter.EndDoc();
     });
     OnClick(ui.cmdCancel, [this] { cmdCancel_Click(); });
 }
@@ -50,12 +43,12 @@ void frmBudget::Activate()
 void frmBudget::Deactivate()
 {
     RestartAlternation();
-    ui.pbPrintOff->setChecked(true);
+    ui.printSwitch->Set(false);
 }
 
 void frmBudget::Unload()
 {
-    ui.pbPrintOff->setChecked(true); // pages that were printed are sent off and not lost with the window
+    ui.printSwitch->Set(false); // pages that were printed are sent off and not lost with the window
 }
 
 void frmBudget::ClearBudgetGrid()
@@ -77,17 +70,6 @@ void frmBudget::ShowBudget(const Statement &budget)
     SetHeading(budget.Heading);
     ShowRows(*ui.grdBudget, budget);
     ui.grdBudget->scrollToTop();
-}
-
-void frmBudget::pbPrintOn_Click()
-{
-    State.PrintBudget = true;
-}
-
-void frmBudget::pbPrintOff_Click()
-{
-    State.PrintBudget = false;
-    ThePrinter.EndDoc();
 }
 
 void frmBudget::cmdCancel_Click()

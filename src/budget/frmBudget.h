@@ -18,7 +18,5 @@ private:
     void ClearBudgetGrid();
     void SetHeading(const QString &heading);
     void ShowBudget(const Statement &budget);
-    void pbPrintOn_Click();
-    void pbPrintOff_Click();
     void cmdCancel_Click();
 };

@@ -44,10 +44,8 @@ constexpr IconRow ToolbarIcons[] = {
 };
 
 constexpr IconRow OtherIcons[] = {
-    {"exit", true, true},        {"help", true, true}, {"tutor", true, true}, {"getting-started", true, true},
-    {"tallymere", false, true},  // the program's own: a filled tile
-    {"switch-on", false, true},  // a filled switch
-    {"switch-off", true, false}, // an empty one: nothing is lit
+    {"exit", true, true},       {"help", true, true}, {"tutor", true, true}, {"getting-started", true, true},
+    {"tallymere", false, true}, // the program's own: a filled tile
 };
 
 QList<IconRow> AllIcons()
@@ -401,7 +399,7 @@ private Q_SLOTS:
 
         for (const QPalette &palette : {LightPalette(), DarkPalette()}) {
             QApplication::setPalette(palette);
-            QCoreApplication::processEvents(); // windows are told of the new colours by a posted event
+            QCoreApplication::processEvents(); // windows learn of the new colours by a posted event
             const QColor accent = AccentColour(palette);
             const QImage image = window.grab().toImage();
             QCOMPARE(QColor(image.pixel(120, 2)), accent);
