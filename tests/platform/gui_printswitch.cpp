@@ -4,6 +4,7 @@
 #include "platform/controls/PrintSwitch.h"
 #include "platform/controls/Theme.h"
 
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -81,6 +82,26 @@ private Q_SLOTS:
                 const auto *label = stage.Window.findChild<QLabel *>(word);
                 QVERIFY(Contrast(label->palette().color(QPalette::WindowText),
                                  label->parentWidget()->palette().color(QPalette::Button)) >= 4.5);
+            }
+        }
+    }
+
+    // As a window's design makes it: in a frame, shown later, with nothing changed since.
+    void TheWordsCanBeReadFromTheStart()
+    {
+        for (const QPalette &palette : {DarkPalette(), LightPalette()}) {
+            QApplication::setPalette(palette);
+            QWidget window;
+            auto *frame = new QGroupBox(&window);
+            auto *layout = new QHBoxLayout(frame);
+            layout->addWidget(new PrintSwitch(frame));
+            window.show();
+            QCoreApplication::processEvents();
+            for (const char *word : {"Label1", "Label2"}) {
+                const auto *label = window.findChild<QLabel *>(word);
+                const double contrast = Contrast(label->palette().color(QPalette::WindowText),
+                                                 label->parentWidget()->palette().color(QPalette::Button));
+                QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
             }
         }
     }

@@ -106,6 +106,7 @@ void PrintSwitch::TakeColours()
             colours.setColor(QPalette::WindowText, colours.color(QPalette::ButtonText));
         }
         side->setPalette(colours);
+        side->findChild<QLabel *>()->setPalette(colours);
     }
     update();
 }
