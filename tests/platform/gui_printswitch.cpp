@@ -80,7 +80,7 @@ private Q_SLOTS:
             QCOMPARE(stage.Pixels(on ? "pbPrintOff" : "pbPrintOn", AccentColour(stage.Switch->palette())), 0);
             for (const char *word : {"Label1", "Label2"}) {
                 const auto *label = stage.Window.findChild<QLabel *>(word);
-                QVERIFY(Contrast(label->palette().color(QPalette::WindowText),
+                QVERIFY(Contrast(label->palette().color(label->foregroundRole()),
                                  label->parentWidget()->palette().color(QPalette::Button)) >= 4.5);
             }
         }
@@ -99,7 +99,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             for (const char *word : {"Label1", "Label2"}) {
                 const auto *label = window.findChild<QLabel *>(word);
-                const double contrast = Contrast(label->palette().color(QPalette::WindowText),
+                const double contrast = Contrast(label->palette().color(label->foregroundRole()),
                                                  label->parentWidget()->palette().color(QPalette::Button));
                 QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
             }

@@ -101,12 +101,10 @@ void PrintSwitch::TakeColours()
         QPalette colours = palette();
         if (side->isChecked()) {
             colours.setColor(QPalette::Button, accent);
-            colours.setColor(QPalette::WindowText, TextOn(accent));
-        } else {
-            colours.setColor(QPalette::WindowText, colours.color(QPalette::ButtonText));
+            colours.setColor(QPalette::ButtonText,
+                             TextOn(accent)); // a label on a button takes the button's text colour
         }
         side->setPalette(colours);
-        side->findChild<QLabel *>()->setPalette(colours);
     }
     update();
 }
@@ -129,7 +127,7 @@ void PrintSwitch::paintEvent(QPaintEvent *)
     for (const QPushButton *side : {m_on, m_off}) {
         if (!side->hasFocus())
             continue;
-        painter.setPen(QPen(side->palette().color(QPalette::WindowText), 1, Qt::DotLine));
+        painter.setPen(QPen(side->palette().color(QPalette::ButtonText), 1, Qt::DotLine));
         painter.drawRoundedRect(QRectF(side->geometry()).adjusted(3.5, 3.5, -3.5, -3.5), Radius - 2, Radius - 2);
     }
 }
