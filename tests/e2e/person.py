@@ -181,6 +181,11 @@ class Person:
             self.bring_forward(window)
         self.hit(lambda: (found := place()) and found["hit"] and found, f"{window}.{name} {row or ''}", times)
 
+    @staticmethod
+    def read_on():
+        """Lets the time of a double-click pass: a click right after another one at the same place would belong to it."""
+        time.sleep(0.7)
+
     def enter(self, window, name, text):
         """Types into the field that has the focus, after the ring of Enter or a click led there."""
         self.until(lambda: self.look()["focus"] == f"{window}.{name}", f"{window}.{name} has not got the focus")
