@@ -4,7 +4,7 @@
 #include "budget/SavingsForecast.h"
 #include "foundation/State.h"
 #include "foundation/StatementGrid.h"
-#include "foundation/WindowNames.h"
+#include "foundation/WindowFields.h"
 #include "platform/desk/Desk.h"
 #include "platform/values/Dates.h"
 #include "platform/windows/WindowRegister.h"
@@ -52,8 +52,7 @@ void frmSavingsForecast::Deactivate()
 {
     RestartAlternation();
     // The question for the pay period is loaded unseen for this where it is not loaded.
-    const auto &entry = TheWindows.ControlOf<QLineEdit>(WindowName::frmSetCurrentPayPeriod, u"txtCurrentPayPeriod"_s);
-    State.CurrentPayPeriod = Format(ToDate(entry.text()), DateFormat::Short);
+    State.CurrentPayPeriod = Format(ToDate(WindowField::CurrentPayPeriod().text()), DateFormat::Short);
 }
 
 void frmSavingsForecast::Unload()

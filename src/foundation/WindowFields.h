@@ -23,9 +23,4 @@ inline QLineEdit &StoreFile()
 {
     return TheWindows.ControlOf<QLineEdit>(WindowName::frmEnvironmentSettings, QStringLiteral("txtStoreFile"));
 }
-/// The completion date of the project that is being planned.
-inline QLineEdit &ProjectCompletionDate()
-{
-    return TheWindows.ControlOf<QLineEdit>(WindowName::frmProjects, QStringLiteral("txtProjectCompletionDate"));
-}
 } // namespace WindowField
