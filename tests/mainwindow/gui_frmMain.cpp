@@ -679,6 +679,7 @@ private Q_SLOTS:
             for (int panel = 1; panel <= 3; ++panel) {
                 const auto &label = Find<QLabel>(Main, u"staMain%1"_s.arg(panel));
                 QVERIFY2(label.sizeHint().width() <= label.width(), qPrintable(label.text()));
+                QVERIFY2(label.parentWidget()->rect().contains(label.geometry()), qPrintable(label.text()));
             }
         }
     }
