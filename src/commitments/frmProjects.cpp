@@ -5,23 +5,8 @@
 #include "foundation/WindowNames.h"
 #include "platform/controls/ListBox.h"
 #include "platform/values/Numbers.h"
+#include "platform/windows/KeyPress.h"
 #include "platform/windows/WindowRegister.h"
-
-#include <QKeyEvent>
-
-namespace {
-
-/// A character, Backspace or Esc; Enter comes by the window's ring, and a tab is none.
-bool IsKeyPress(const QKeyEvent &key)
-{
-    if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return false;
-    if (key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Escape)
-        return true;
-    return !key.text().isEmpty() && key.text().front().isPrint();
-}
-
-} // namespace
 
 frmProjects::frmProjects() : ListWindow(ProjectList)
 {
