@@ -67,25 +67,6 @@ void TakeEnvironmentEntry(const EnvironmentEntry &entry)
     TakePercentage(State.AverageNetPercentage, entry.AverageNetPercentage);
 }
 
-const QList<PayFrequencyOption> &PayFrequencyOptions()
-{
-    static const QList<PayFrequencyOption> options{
-        {Weekly, u"Calculate Wages (Weekly)"_s, {}},
-        {Biweekly, u"Calculate Wages (Biweekly)"_s, {}},
-        {Semimonthly, u"Calculate Wages (Semimonthly)"_s, u"frmSemiMonthlyPayInfo"_s},
-        {Monthly, u"Calculate Wages (Monthly)"_s, u"frmMonthlyPaymentOption"_s},
-    };
-    return options;
-}
-
-int OptionOfPayFrequency(qint16 frequency)
-{
-    const QList<PayFrequencyOption> &options = PayFrequencyOptions();
-    const auto option = std::find_if(options.begin(), options.end(),
-                                     [&](const PayFrequencyOption &one) { return one.Frequency == frequency; });
-    return option == options.end() ? -1 : int(option - options.begin());
-}
-
 std::optional<Refusal> ValidateSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate)
 {
     const double first = ValueOrInfinity(firstPayDate);

@@ -28,16 +28,6 @@ QString SteppedForecastPeriods(const QString &text, int step, int maximum);
 /// that opening and leaving the window never changes it. Error 6 for a number beyond its type, 13 for no number.
 void TakeEnvironmentEntry(const EnvironmentEntry &entry);
 
-/// One pay frequency that can be chosen, in order of option from 0.
-struct PayFrequencyOption {
-    qint16 Frequency = 0;
-    QString WagesCaption; ///< what the wage calculator is titled then
-    QString DatesWindow;  ///< asks for what the frequency needs to know beyond itself; empty: nothing
-};
-const QList<PayFrequencyOption> &PayFrequencyOptions();
-/// The option of a frequency, -1 where there is none.
-int OptionOfPayFrequency(qint16 frequency);
-
 /// What two semimonthly pay dates are refused for, if anything. A second date of 0 is the month's end.
 std::optional<Refusal> ValidateSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate);
 /// Stores them, rounded to Integers, ties to even.

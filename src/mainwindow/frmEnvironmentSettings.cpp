@@ -1,5 +1,6 @@
 #include "mainwindow/frmEnvironmentSettings.h"
 
+#include "foundation/PayFrequency.h"
 #include "foundation/WindowNames.h"
 #include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"

@@ -220,17 +220,6 @@ private Q_SLOTS:
         QCOMPARE(State.AverageNetPercentage, 0.0F);
     }
 
-    void EveryFrequencyHasItsOption()
-    {
-        QCOMPARE(OptionOfPayFrequency(7), 0);
-        QCOMPARE(OptionOfPayFrequency(14), 1);
-        QCOMPARE(OptionOfPayFrequency(15), 2);
-        QCOMPARE(OptionOfPayFrequency(30), 3);
-        QCOMPARE(OptionOfPayFrequency(0), -1);
-        QCOMPARE(OptionOfPayFrequency(21), -1);
-        QCOMPARE(PayFrequencyOptions().size(), 4);
-    }
-
     void SemimonthlyDates_data()
     {
         QTest::addColumn<QString>("first");
