@@ -6,7 +6,9 @@
 #include "budget/ScanPayPeriods.h"
 #include "commitments/Extras.h"
 #include "commitments/Projects.h"
+#include "debt/DebtState.h"
 #include "foundation/Tutor.h"
+#include "income/IncomeState.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -36,6 +38,8 @@ void ResetProgram()
     Scan = {};
     Extras = {};
     Projects = {};
+    Debt = {};
+    Income = {};
     // Whoever stands behind a door and outlived its test hears no more of it.
     for (QObject *door : std::initializer_list<QObject *>{&TheTutorRequests, &TheBudgetOutlet, &TheForecastOutlet,
                                                           &ThePayPeriodOutlet, &TheCompletionDateOutlet})
