@@ -546,6 +546,67 @@ private Q_SLOTS:
         QCOMPARE(grid.model()->rowCount(), 5);
     }
 
+    void RowsAreMadeWhenSomebodyLooksAtThem()
+    {
+        Grid grid;
+        Fill(grid, 2);
+        grid.SetEndsWithText(true);
+        QList<int> made;
+        grid.AddRows(30000, 2, [&](int index) {
+            made += index;
+            return QStringList{"made", QString::number(index), "beyond the columns"};
+        });
+        QCOMPARE(grid.Rows(), 30003);
+        Present(grid);
+        const auto seen = made.size();
+        QVERIFY2(seen > 0 && seen < 100, qPrintable(QString::number(seen)));
+        QVERIFY(!made.contains(1000));
+        QCOMPARE(grid.Text(1002, 1), QString("1000"));
+        QCOMPARE(grid.Text(1002, 0), QString("made"));
+        QCOMPARE(made.count(1000), 1); // once
+        QCOMPARE(grid.Text(1, 0), QString("item 1"));
+        QCOMPARE(grid.Text(30002, 0), QString("item 2")); // pushed down
+        QVERIFY(!made.contains(2000));
+        grid.SetText(2002, 0, "changed"); // the other cells of the row are there, too
+        QCOMPARE(grid.Text(2002, 1), QString("2000"));
+        grid.AddItem("between\t5", 3002);
+        QCOMPARE(grid.Text(3001, 1), QString("2999"));
+        QCOMPARE(grid.Text(3003, 1), QString("3000"));
+        QCOMPARE(ErrorOf([&] { grid.AddRows(1, 40000, [](int) { return QStringList(); }); }), 9);
+        const auto before = made.size();
+        grid.ClearBelowHeading();
+        QCOMPARE(made.size(), before);
+        QCOMPARE(grid.Rows(), 30004);
+        QCOMPARE(grid.Text(4000, 0), QString());
+        QCoreApplication::processEvents();
+        QCOMPARE(grid.model()->rowCount(), 0);
+    }
+
+    void EmptiedRowsAtTheEndStayRows()
+    {
+        Grid grid;
+        Fill(grid, 2);
+        grid.SetBold(1, 0, true);
+        grid.ClearBelowHeading();
+        grid.AddItem("first\t1", 1);
+        grid.ClearBelowHeading();
+        grid.AddRows(3, 1, [](int index) { return QStringList{QString::number(index)}; });
+        QCOMPARE(RowsOf(grid), (QStringList{"Item | Amount", "0 | ", "1 | ", "2 | ", " | ", " | ", " | "}));
+        QVERIFY(grid.Bold(5, 0)); // pushed down twice
+        grid.AddItem("last\t9", 7);
+        QCOMPARE(grid.Rows(), 8);
+        grid.SetText(9, 0, "far");
+        QCOMPARE(RowsOf(grid).mid(6), (QStringList{" | ", "last | 9", " | ", "far | "}));
+        grid.ClearBelowHeading();
+        grid.SetText(8, 0, "inside");
+        QCOMPARE(grid.Rows(), 10);
+        QCOMPARE(RowsOf(grid).mid(7), (QStringList{" | ", "inside | ", " | "}));
+        grid.AddItem("behind a blank\t1", 9);
+        QCOMPARE(RowsOf(grid).mid(7), (QStringList{" | ", "inside | ", "behind a blank | 1", " | "}));
+        QCOMPARE(ErrorOf([&] { grid.AddItem("too far\t1", 12); }), 9);
+        QCOMPARE(grid.Rows(), 11);
+    }
+
     void TheResultIsBoldBelowARule()
     {
         Grid grid;

@@ -9,7 +9,9 @@
 #include <QPainter>
 #include <QTimer>
 #include <algorithm>
+#include <memory>
 #include <numeric>
+#include <utility>
 
 namespace {
 constexpr int TwipsPerPixel = 15;
@@ -36,10 +38,11 @@ public:
     {
         m_columns = columns;
         m_right.assign(std::size_t(columns), false);
-        m_rows.assign(std::size_t(rows), Row());
+        m_rows.clear();
+        m_blankRows = rows;
         SetResultRow(0);
     }
-    int Rows() const { return int(m_rows.size()); }
+    int Rows() const { return KeptRows() + m_blankRows; }
     int Columns() const { return m_columns; }
 
     Cell &At(int row, int column)
@@ -47,9 +50,8 @@ public:
         Check(column);
         if (row < 0)
             RaiseError(RuntimeError::SubscriptOutOfRange);
-        if (row >= Rows())
-            m_rows.resize(std::size_t(row) + 1);
-        Row &cells = m_rows[std::size_t(row)];
+        KeepRows(row + 1);
+        Cells &cells = CellsOf(row);
         if (cells.empty())
             cells.resize(std::size_t(m_columns));
         Touch();
@@ -60,34 +62,49 @@ public:
         if (row < 0 || row >= Rows() || column < 0 || column >= m_columns)
             RaiseError(RuntimeError::SubscriptOutOfRange);
         static const Cell untouched;
-        const Row &cells = m_rows[std::size_t(row)];
+        if (row >= KeptRows())
+            return untouched;
+        const Cells &cells = CellsOf(row);
         return cells.empty() ? untouched : cells[std::size_t(column)];
     }
     void Insert(int row, const QList<QStringList> &lines)
     {
-        if (row < 0 || row > Rows())
-            RaiseError(RuntimeError::SubscriptOutOfRange);
+        CheckInsertion(row);
         std::vector<Row> rows;
         rows.reserve(std::size_t(lines.size()));
         for (const QStringList &texts : lines) {
             if (texts.size() > m_columns)
                 RaiseError(RuntimeError::SubscriptOutOfRange);
-            Row &cells = rows.emplace_back(std::size_t(m_columns));
-            for (qsizetype i = 0; i < texts.size(); ++i)
-                cells[std::size_t(i)].Text = texts[i];
+            rows.emplace_back().TheCells = CellsWith(texts);
         }
-        m_rows.insert(m_rows.begin() + row, std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
-        Touch();
+        Insert(row, rows);
+    }
+    void Insert(int row, int count, const Grid::RowTexts &texts)
+    {
+        CheckInsertion(row);
+        const auto maker = std::make_shared<const Grid::RowTexts>(texts);
+        auto rows = std::vector<Row>(std::size_t(qMax(0, count)));
+        for (int i = 0; i < count; ++i) {
+            rows[std::size_t(i)].Maker = maker;
+            rows[std::size_t(i)].Index = i;
+        }
+        Insert(row, rows);
     }
     void ClearBelowHeading()
     {
         for (std::size_t row = 1; row < m_rows.size(); ++row) {
-            for (Cell &cell : m_rows[row])
+            Cells &cells = m_rows[row].TheCells;
+            for (Cell &cell : cells)
                 cell.Text.clear();
             // A row that looks like a new one costs like a new one: they pile up while a budget is stepped through.
             const auto plain = [](const Cell &cell) { return cell.Colour == GridColour::Text && !cell.Bold; };
-            if (std::all_of(m_rows[row].begin(), m_rows[row].end(), plain))
-                Row().swap(m_rows[row]);
+            if (std::all_of(cells.begin(), cells.end(), plain))
+                m_rows[row] = {};
+        }
+        // At the end they are only counted.
+        while (KeptRows() > 1 && m_rows.back().TheCells.empty()) {
+            m_rows.pop_back();
+            ++m_blankRows;
         }
         SetResultRow(0);
     }
@@ -131,7 +148,53 @@ public:
     }
 
 private:
-    using Row = std::vector<Cell>; // empty: nothing was ever written there
+    using Cells = std::vector<Cell>;
+    struct Row {
+        mutable Cells TheCells; // empty: nothing was ever written there, or nobody has looked at it yet
+        mutable std::shared_ptr<const Grid::RowTexts> Maker; // null once the cells are made
+        int Index = 0;                                       // among the rows that Maker makes
+    };
+
+    Cells CellsWith(const QStringList &texts) const
+    {
+        auto cells = Cells(std::size_t(m_columns));
+        for (qsizetype i = 0; i < qMin<qsizetype>(texts.size(), m_columns); ++i)
+            cells[std::size_t(i)].Text = texts[i];
+        return cells;
+    }
+    const Cells &CellsOf(int number) const
+    {
+        const Row &row = m_rows[std::size_t(number)];
+        if (const auto maker = std::exchange(row.Maker, {}))
+            row.TheCells = CellsWith((*maker)(row.Index));
+        return row.TheCells;
+    }
+    Cells &CellsOf(int row)
+    {
+        std::as_const(*this).CellsOf(row);
+        return m_rows[std::size_t(row)].TheCells;
+    }
+    int KeptRows() const { return int(m_rows.size()); }
+    /// Makes at least so many of the rows, or rows that are missing, more than a count.
+    void KeepRows(int rows)
+    {
+        const int more = rows - KeptRows();
+        if (more <= 0)
+            return;
+        m_rows.resize(std::size_t(rows));
+        m_blankRows = qMax(0, m_blankRows - more);
+    }
+    void CheckInsertion(int row) const
+    {
+        if (row < 0 || row > Rows())
+            RaiseError(RuntimeError::SubscriptOutOfRange);
+    }
+    void Insert(int row, std::vector<Row> &rows)
+    {
+        KeepRows(row);
+        m_rows.insert(m_rows.begin() + row, std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+        Touch();
+    }
 
     QVariant Value(int row, int column, int role) const
     {
@@ -166,11 +229,13 @@ private:
     /// Below the heading.
     int RowsToShow() const
     {
-        const auto hasText = [](const Row &row) {
-            return std::any_of(row.begin(), row.end(), [](const Cell &cell) { return !cell.Text.isEmpty(); });
+        if (!m_endsWithText)
+            return qMax(0, Rows() - 1);
+        const auto hasText = [](const Cells &cells) {
+            return std::any_of(cells.begin(), cells.end(), [](const Cell &cell) { return !cell.Text.isEmpty(); });
         };
-        int rows = Rows() - 1;
-        while (m_endsWithText && rows > 0 && !hasText(m_rows[std::size_t(rows)]))
+        int rows = KeptRows() - 1;
+        while (rows > 0 && !hasText(CellsOf(rows)))
             --rows;
         return qMax(0, rows);
     }
@@ -199,7 +264,8 @@ private:
     }
 
     Grid *m_grid;
-    std::vector<Row> m_rows;
+    std::vector<Row> m_rows; // the rows at the end that were never written to are only counted
+    int m_blankRows = 0;
     std::vector<bool> m_right;
     int m_columns = 0;
     int m_shownRows = 0;
@@ -307,6 +373,11 @@ void Grid::AddItem(const QString &text, int row)
 void Grid::AddRows(const QList<QStringList> &rows, int row)
 {
     m_model->Insert(row, rows);
+}
+
+void Grid::AddRows(int count, int row, const RowTexts &texts)
+{
+    m_model->Insert(row, count, texts);
 }
 
 void Grid::SetText(int row, int column, const QString &text)

@@ -5,6 +5,7 @@
 #include "platform/controls/RowView.h"
 
 #include <QTableView>
+#include <functional>
 #include <vector>
 
 class GridModel;
@@ -37,6 +38,11 @@ public:
     void AddItem(const QString &text, int row);
     /// Inserts several rows at once, each a list of cells; a tab in a cell parts nothing here.
     void AddRows(const QList<QStringList> &rows, int row);
+    /// The cells of the row that has this place, from 0, among those that were inserted together.
+    using RowTexts = std::function<QStringList(int index)>;
+    /// Inserts so many rows at once whose cells are made when they are looked at for the first time, so that rows in
+    /// their tens of thousands cost next to nothing. Cells beyond the columns are left out.
+    void AddRows(int count, int row, const RowTexts &texts);
     /// Writes in place; below the last row the missing rows are made. A column outside is error 9.
     void SetText(int row, int column, const QString &text);
     QString Text(int row, int column) const;
