@@ -9,6 +9,11 @@
 #include "commitments/frmProjects.h"
 #include "commitments/frmRegulars.h"
 #include "commitments/frmViewProject.h"
+#include "debt/frmAmortization.h"
+#include "debt/frmInterestRateCalculator.h"
+#include "debt/frmPaymentCalculator.h"
+#include "debt/frmSavings.h"
+#include "debt/frmSelectMonth.h"
 #include "foundation/Options.h"
 #include "foundation/WindowNames.h"
 #include "foundation/frmSplash.h"
@@ -46,6 +51,11 @@ void RegisterWindows()
     Register<frmExtras>(WindowName::frmExtras);
     Register<frmProjects>(WindowName::frmProjects);
     Register<frmViewProject>(WindowName::frmViewProject);
+    Register<frmPaymentCalculator>(WindowName::frmPaymentCalculator);
+    Register<frmSelectMonth>(WindowName::frmSelectMonth);
+    Register<frmAmortization>(WindowName::frmAmortization);
+    Register<frmInterestRateCalculator>(WindowName::frmInterestRateCalculator);
+    Register<frmSavings>(WindowName::frmSavings);
 }
 
 QString FirstWindow()
