@@ -204,6 +204,16 @@ bool AnyOf(const QJsonValue &expected, const QJsonValue &actual)
     return expected.isArray() && actual.isString();
 }
 
+const QString Tolerance = QStringLiteral("tolerance");
+
+/// Whether both are numbers told as texts, and near enough.
+bool IsWithin(const QJsonValue &tolerance, const QJsonValue &expected, const QJsonValue &actual)
+{
+    if (!tolerance.isString() || !IsPlainNumber(expected.toString()) || !IsPlainNumber(actual.toString()))
+        return false;
+    return qAbs(expected.toString().toDouble() - actual.toString().toDouble()) <= tolerance.toString().toDouble();
+}
+
 QJsonValue Changed(const QJsonValue &leaf)
 {
     switch (leaf.type()) {
@@ -229,7 +239,8 @@ QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, co
     if (expected.isObject() && actual.isObject()) {
         const QJsonObject one = expected.toObject();
         for (auto member = one.begin(); member != one.end(); ++member)
-            found += Differences(member.value(), actual[member.key()], where + QLatin1Char('.') + member.key());
+            if (member.key() != Tolerance && !IsWithin(one[Tolerance], member.value(), actual[member.key()]))
+                found += Differences(member.value(), actual[member.key()], where + QLatin1Char('.') + member.key());
         return found;
     }
     if (expected.isArray() && actual.isArray()) {
@@ -256,6 +267,8 @@ QList<Falsified> Falsifications(const QJsonValue &expected, const QJsonValue &ac
     if (expected.isObject()) {
         const QJsonObject whole = expected.toObject();
         for (auto member = whole.begin(); member != whole.end(); ++member) {
+            if (member.key() == Tolerance)
+                continue;
             const QList<Falsified> inside = Falsifications(member.value(), actual[member.key()]);
             for (const Falsified &one : inside) {
                 QJsonObject changed = whole;

@@ -24,6 +24,10 @@ QJsonValue RunOverheadCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunScanCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunCommitmentsCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunProjectsCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunLoansCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunAmortizationCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunRatesCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunSavingsCase(const QJsonObject &input, RecordingDesk &desk);
 
 // How results are told
 QJsonValue Told(Currency amount);
@@ -50,7 +54,8 @@ QJsonArray ToldMessages(RecordingDesk &desk);
 QJsonValue ToldMessage(RecordingDesk &desk);
 
 /// Where `actual` differs from `expected`, a line a difference. Where a list of texts is expected in place of one, any
-/// of them will do; members that are not expected are not compared.
+/// of them will do; members that are not expected are not compared. A member "tolerance" says by how much the numbers
+/// beside it that are told as texts may differ.
 QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, const QString &where = {});
 
 /// A value with one thing in it changed, and the way to that thing without the indexes of lists.

@@ -20,10 +20,17 @@
 namespace {
 
 const QMap<QString, RunCase> Areas{
-    {QStringLiteral("files"), RunFilesCase},       {QStringLiteral("budget"), RunBudgetCase},
-    {QStringLiteral("forecast"), RunForecastCase}, {QStringLiteral("overhead"), RunOverheadCase},
-    {QStringLiteral("scan"), RunScanCase},         {QStringLiteral("commitments"), RunCommitmentsCase},
+    {QStringLiteral("files"), RunFilesCase},
+    {QStringLiteral("budget"), RunBudgetCase},
+    {QStringLiteral("forecast"), RunForecastCase},
+    {QStringLiteral("overhead"), RunOverheadCase},
+    {QStringLiteral("scan"), RunScanCase},
+    {QStringLiteral("commitments"), RunCommitmentsCase},
     {QStringLiteral("projects"), RunProjectsCase},
+    {QStringLiteral("loans"), RunLoansCase},
+    {QStringLiteral("amortization"), RunAmortizationCase},
+    {QStringLiteral("rates"), RunRatesCase},
+    {QStringLiteral("savings"), RunSavingsCase},
 };
 
 /// The toolkit's plugin without a display tells what it cannot do; nobody needs to know.
