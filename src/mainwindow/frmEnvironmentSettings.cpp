@@ -2,6 +2,7 @@
 
 #include "foundation/PayFrequency.h"
 #include "foundation/WindowNames.h"
+#include "platform/controls/Fields.h"
 #include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -28,9 +29,7 @@ frmEnvironmentSettings::frmEnvironmentSettings()
                        {ui.optPayFrequency3, Monthly}},
                       [this](qint16 frequency) { optPayFrequency_Click(frequency); })
 {
-    QPalette shownOnly = ui.txtStoreFile->palette();
-    shownOnly.setColor(QPalette::Base, Qt::transparent);
-    ui.txtStoreFile->setPalette(shownOnly);
+    ShowOnly(ui.txtStoreFile);
     ui.updForecastPeriods->SetBuddy(ui.txtForecastPeriods);
     connect(ui.updForecastPeriods, &UpDown::Stepped, this, [this](int step) { updForecastPeriods_Change(step); });
     connect(ui.txtStoreFile, &QLineEdit::textChanged, ui.txtStoreFile, &QLineEdit::setToolTip);

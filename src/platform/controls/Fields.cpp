@@ -25,3 +25,11 @@ void ShowAsCurrency(QLineEdit *field)
     field->setText(Format(field->text(), NumberFormat::Currency));
     field->setCursorPosition(0); // also where the text is the same
 }
+
+void ShowOnly(QLineEdit *field)
+{
+    field->setReadOnly(true);
+    QPalette palette = field->palette();
+    palette.setColor(QPalette::Base, Qt::transparent);
+    field->setPalette(palette);
+}
