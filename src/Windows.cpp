@@ -17,6 +17,9 @@
 #include "foundation/Options.h"
 #include "foundation/WindowNames.h"
 #include "foundation/frmSplash.h"
+#include "income/frmAverageNetPercentage.h"
+#include "income/frmCalculateWages.h"
+#include "income/frmTotalHours.h"
 #include "mainwindow/frmEnvironmentSettings.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/frmMonthlyPaymentOption.h"
@@ -56,6 +59,9 @@ void RegisterWindows()
     Register<frmAmortization>(WindowName::frmAmortization);
     Register<frmInterestRateCalculator>(WindowName::frmInterestRateCalculator);
     Register<frmSavings>(WindowName::frmSavings);
+    Register<frmCalculateWages>(WindowName::frmCalculateWages);
+    Register<frmTotalHours>(WindowName::frmTotalHours);
+    Register<frmAverageNetPercentage>(WindowName::frmAverageNetPercentage);
 }
 
 QString FirstWindow()

@@ -1,0 +1,139 @@
+#include "income/frmCalculateWages.h"
+
+#include "foundation/PayFrequency.h"
+#include "foundation/WindowNames.h"
+#include "income/Wages.h"
+#include "platform/controls/Fields.h"
+#include "platform/desk/UnknownError.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+#include "platform/windows/KeyPress.h"
+#include "platform/windows/WindowRegister.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+using Design = Ui::frmCalculateWages;
+
+// A refused entry goes by another name than everything else that this window says.
+const QString RefusalTitle = u"Wage Calculator"_s;
+const QString Title = u"Calculate Wages"_s;
+
+constexpr EntryRule<Design> Rules[] = {
+    {&Design::txtHourlyPayRate, Numeric, "Please enter a numerical dollar amount in the Hourly Pay Rate field"},
+};
+
+struct WageBox {
+    QLineEdit *Design::*Field;
+    QString WageBoxes::*Text;
+};
+constexpr WageBox WrittenBoxes[] = {
+    {&Design::txtRegularRate, &WageBoxes::RegularRate},
+    {&Design::txtRegularHours, &WageBoxes::RegularHours},
+    {&Design::txtTotalRegularPay, &WageBoxes::TotalRegularPay},
+    {&Design::txtOvertimeRate, &WageBoxes::OvertimeRate},
+    {&Design::txtOvertimeHours, &WageBoxes::OvertimeHours},
+    {&Design::txtTotalOvertimePay, &WageBoxes::TotalOvertimePay},
+    {&Design::txtGrossPay, &WageBoxes::GrossPay},
+    {&Design::txtNetPay, &WageBoxes::NetPay},
+    {&Design::txtMonthlyGross, &WageBoxes::MonthlyGross},
+    {&Design::txtYearlyGross, &WageBoxes::YearlyGross},
+    {&Design::txtPaycheckAmount, &WageBoxes::PaycheckAmount},
+};
+} // namespace
+
+frmCalculateWages::frmCalculateWages()
+    : Window({.Title = RefusalTitle, .TheButtons = Buttons::OkHelp, .HelpContext = 30})
+{
+    ShowOnly(ui.txtAverageNetPercentage);
+    for (const WageBox &box : WrittenBoxes)
+        ShowOnly(ui.*box.Field);
+    StartAt(ui.txtHourlyPayRate);
+    OnEnter(ui.txtHourlyPayRate, [this] {
+        FocusOn(ui.txtTotalHoursWorked);
+        SelectWhole(ui.txtTotalHoursWorked);
+    });
+    OnEnter(ui.txtTotalHoursWorked, [] { TheWindows.Show(WindowName::frmTotalHours); });
+    OnLostFocus(ui.txtTotalHoursWorked, [this] { txtTotalHoursWorked_LostFocus(); });
+    ui.txtTotalHoursWorked->installEventFilter(this);
+    OnClick(ui.cmdCalculate, [this] { TrapUnknownError(Title, [this] { cmdCalculate_Click(); }); });
+    OnClick(ui.cmdExit, [this] { cmdExit_Click(); });
+}
+
+/// The hours are never typed here: their own window writes them.
+bool frmCalculateWages::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui.txtTotalHoursWorked) {
+        if (event->type() == QEvent::MouseButtonDblClick) {
+            TheWindows.ShowModal(WindowName::frmTotalHours);
+            return true;
+        }
+        if (event->type() == QEvent::KeyPress && IsKeyPress(*static_cast<QKeyEvent *>(event))) {
+            TheWindows.Show(WindowName::frmTotalHours);
+            return true;
+        }
+    }
+    return Window::eventFilter(watched, event);
+}
+
+void frmCalculateWages::Load()
+{
+    RememberedPaycheckAmount = State.PaycheckAmount;
+    Income.TotalHoursWorked = 0;
+    ui.txtHourlyPayRate->setText(FormatCurrency(Currency::Zero));
+}
+
+void frmCalculateWages::Activate()
+{
+    ui.txtAverageNetPercentage->setText(PerCent(State.AverageNetPercentage));
+    ui.txtTotalHoursWorked->setText(Format(Income.TotalHoursWorked, NumberFormat::Fixed));
+    ui.txtPaycheckAmount->setText(FormatCurrency(State.PaycheckAmount));
+    Window::Activate();
+    if (const int option = OptionOfPayFrequency(State.PayFrequency); option >= 0)
+        setWindowTitle(PayFrequencyOptions()[option].WagesCaption);
+}
+
+void frmCalculateWages::txtTotalHoursWorked_LostFocus()
+{
+    if (State.PayFrequency == Weekly)
+        ui.txtTotalHoursWorked->setText(TakeWeeklyHours(ui.txtTotalHoursWorked->text()));
+}
+
+void frmCalculateWages::cmdCalculate_Click()
+{
+    if (!Accepts(Rules))
+        return;
+    ui.txtHourlyPayRate->setText(Format(ui.txtHourlyPayRate->text(), NumberFormat::Currency));
+    WageBoxes boxes;
+    boxes.HourlyPayRate = ui.txtHourlyPayRate->text();
+    boxes.TotalHoursWorked = ui.txtTotalHoursWorked->text();
+    // What is computed up to an error is shown; the boxes after it stay as they are.
+    const auto show = qScopeGuard([&] {
+        for (const WageBox &box : WrittenBoxes)
+            if (const QString &text = boxes.*box.Text; !text.isNull())
+                (ui.*box.Field)->setText(text);
+    });
+    if (State.PayFrequency == Weekly)
+        CalculateWeeklyWages(boxes);
+    else
+        CalculatePeriodWages(boxes);
+}
+
+/// The only way out that asks: a window closed by its frame keeps the new paycheck.
+void frmCalculateWages::cmdExit_Click()
+{
+    if (State.PaycheckAmount != RememberedPaycheckAmount) {
+        const QString question =
+            u"Do you wish to save %1 as the new Paycheck Amount?"_s.arg(ui.txtPaycheckAmount->text());
+        if (ShowMessage(question, Title, Icon::Question, Buttons::YesNo) != Answer::Yes)
+            State.PaycheckAmount = RememberedPaycheckAmount;
+    }
+    Close();
+}
+
+void frmCalculateWages::Unload()
+{
+    Income.TotalHoursWorked = ToSingle(NumericPrefix(ui.txtTotalHoursWorked->text()));
+}

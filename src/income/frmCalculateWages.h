@@ -1,0 +1,25 @@
+// The wage calculator: regular and overtime pay of one pay period, and the net pay that may become the paycheck.
+#pragma once
+
+#include "platform/values/Currency.h"
+#include "platform/windows/Window.h"
+#include "ui_frmCalculateWages.h"
+
+class frmCalculateWages : public Window<Ui::frmCalculateWages>
+{
+public:
+    frmCalculateWages();
+    void Load() override;
+    void Activate() override;
+    void Unload() override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void txtTotalHoursWorked_LostFocus();
+    void cmdCalculate_Click();
+    void cmdExit_Click();
+
+    Currency RememberedPaycheckAmount; ///< as it was when the window was loaded
+};
