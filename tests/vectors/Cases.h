@@ -28,6 +28,9 @@ QJsonValue RunLoansCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunAmortizationCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunRatesCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunSavingsCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunWagesCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunHoursCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunAverageNetCase(const QJsonObject &input, RecordingDesk &desk);
 
 // How results are told
 QJsonValue Told(Currency amount);

@@ -31,6 +31,9 @@ const QMap<QString, RunCase> Areas{
     {QStringLiteral("amortization"), RunAmortizationCase},
     {QStringLiteral("rates"), RunRatesCase},
     {QStringLiteral("savings"), RunSavingsCase},
+    {QStringLiteral("wages"), RunWagesCase},
+    {QStringLiteral("hours"), RunHoursCase},
+    {QStringLiteral("averagenet"), RunAverageNetCase},
 };
 
 /// The toolkit's plugin without a display tells what it cannot do; nobody needs to know.
