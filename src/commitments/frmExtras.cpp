@@ -7,6 +7,10 @@
 #include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
 
+#include <QScopeGuard>
+#include <QShortcut>
+#include <QSignalBlocker>
+
 frmExtras::frmExtras() : ListWindow(ExtraItemList)
 {
     TakeControls({.List = ui.lstExtraItems,
@@ -66,10 +70,11 @@ void frmExtras::TakePickedPayPeriod()
     EmptyPanel();
 }
 
+/// The fields first: clearing the box is a click on it, and with a typed amount it could fail.
 void frmExtras::EmptyPanel()
 {
-    ClearCredit();
     EmptyFields();
+    ClearCredit();
 }
 
 void frmExtras::ClearCredit()
@@ -117,7 +122,15 @@ void frmExtras::AddClicked()
 
 void frmExtras::TurnAmount()
 {
-    ui.txtExtraItemAmount->setText(AmountWithCredit(ui.txtExtraItemAmount->text(), ui.chkCredit->isChecked()));
+    Trap([this] {
+        const bool credit = ui.chkCredit->isChecked();
+        auto putBack = qScopeGuard([&] {
+            const QSignalBlocker noClick(ui.chkCredit);
+            ui.chkCredit->setChecked(!credit);
+        });
+        ui.txtExtraItemAmount->setText(AmountWithCredit(ui.txtExtraItemAmount->text(), credit));
+        putBack.dismiss();
+    });
 }
 
 void frmExtras::DeleteClicked()

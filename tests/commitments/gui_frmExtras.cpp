@@ -83,6 +83,15 @@ private Q_SLOTS:
         QCOMPARE(Find(Window, Heading).parentWidget(), &Find(Window, u"pnlPayPeriod"_s));
     }
 
+    void TheCreditBoxSaysThatItIsClickedAfterTheAmount()
+    {
+        CommitmentsDesk desk;
+        Show(Window);
+        const QString hint = u"Turns the sign of the amount; click it after typing the amount"_s;
+        QCOMPARE(Find(Window, Credit).toolTip(), hint);
+        QCOMPARE(Find(Window, Credit).accessibleDescription(), hint);
+    }
+
     void ListingShowsThePayPeriods()
     {
         CommitmentsDesk desk;
@@ -258,6 +267,64 @@ private Q_SLOTS:
         Click(Window, Credit);
         QCOMPARE(TextOf(Window, Amount), amount);
         QVERIFY(IsCredit());
+    }
+
+    void AnAmountThatIsTooLargeToTurnIsAnUnknownErrorAndChangesNothing()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        Click(Window, u"cmdAddExtraItem"_s);
+        Enter(u"999999999999999999"_s, u"Sale"_s);
+        Click(Window, Credit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(Texts(Window, Fields), u"999999999999999999 | Sale"_s);
+        QVERIFY(!IsCredit());
+        QVERIFY(!desk.Ended);
+        Type(Window, Amount, u"12.50"_s); // put right, the box turns it
+        Click(Window, Credit);
+        QCOMPARE(TextOf(Window, Amount), u"($12.50)"_s);
+        QVERIFY(IsCredit());
+    }
+
+    void TheBoxStaysTickedWhereTheAmountIsTooLargeToTurnBack()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Type(Window, Amount, u"-999999999999999999"_s);
+        Click(Window, Credit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(TextOf(Window, Amount), u"-999999999999999999"_s);
+        QVERIFY(IsCredit());
+    }
+
+    void ListingClearsTheBoxSilentlyWhateverAmountStandsThere()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Type(Window, Amount, u"-999999999999999999"_s);
+        Click(Window, Commit);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        Click(Window, u"cmdListPayPeriods"_s); // an error or a message here fails the test
+        QVERIFY(!IsCredit());
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(File(desk), TwoPeriods);
+        QVERIFY(!desk.Ended);
+    }
+
+    void DeletingAnItemClearsTheBoxSilentlyWhateverAmountStandsThere()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        ClickRow(Window, List, 1);
+        Type(Window, Amount, u"-999999999999999999"_s);
+        Click(Window, u"cmdDeleteExtraItem"_s);
+        QVERIFY(!IsCredit());
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QCOMPARE(RowsOf(Window, List), QStringList{u"Gift"_s});
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
     }
 
     void AMinusSignMakesACreditWithoutTheBox()
@@ -464,6 +531,25 @@ private Q_SLOTS:
         Click(Window, Commit);
         QCOMPARE(File(desk), QByteArray("2\r\n\"01-05-2004\"\r\n1\r\n\"New Item\"\r\n0\r\n\"01-19-2004\"\r\n2\r\n"
                                         "\"Trip\"\r\n200\r\n\"Map\"\r\n5\r\n"));
+    }
+
+    void APickClearsTheBoxSilentlyWhateverAmountStandsThere()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Gift);
+        Click(Window, u"cmdAddPayPeriod"_s);
+        Show(Window); // the scan stays open behind
+        ClickRow(Window, List, 0);
+        ClickRow(Window, List, 1);
+        Type(Window, Amount, u"-999999999999999999"_s);
+        QVERIFY(IsCredit());
+        Show(u"frmScanPayPeriods"_s);
+        ClickRow(u"frmScanPayPeriods"_s, u"lstScanPayPeriods"_s, 1); // an error or a message here fails the test
+        QVERIFY(!IsCredit());
+        QCOMPARE(Texts(Window, Fields), u" | "_s);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"January 5, 2004"_s, u"January 19, 2004"_s}));
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
+        QVERIFY(!desk.Ended);
     }
 
     void AClosedWindowHearsOfNoPick()
