@@ -25,6 +25,12 @@ frmExtras::frmExtras() : ListWindow(ExtraItemList)
     // The check box raises its click also when code changes its value.
     connect(ui.chkCredit, &QCheckBox::toggled, this, &frmExtras::TurnAmount);
     OnClickTrapped(ui.cmdDeletePayPeriod, [this] { DeletePayPeriod(); });
+    // Both delete buttons have the same access key, and a delete asks nothing: the key moves the focus and never
+    // clicks, or it would delete the whole pay period where the item's button happens to be disabled.
+    connect(new QShortcut(ui.cmdDeletePayPeriod->shortcut(), this), &QShortcut::activated, this,
+            &frmExtras::GoToDelete);
+    for (QPushButton *button : {ui.cmdDeletePayPeriod, ui.cmdDeleteExtraItem})
+        button->setShortcut({});
 }
 
 void frmExtras::FillPayPeriodList()
@@ -144,4 +150,11 @@ void frmExtras::DeletePayPeriod()
     RemovePayPeriodAndSave();
     ShowPayPeriods();
     EmptyFields();
+}
+
+/// From one delete button that is enabled to the other.
+void frmExtras::GoToDelete()
+{
+    const bool toItem = FocusControl() == ui.cmdDeletePayPeriod && ui.cmdDeleteExtraItem->isEnabled();
+    FocusOn(toItem ? ui.cmdDeleteExtraItem : ui.cmdDeletePayPeriod);
 }

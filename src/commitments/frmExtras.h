@@ -24,5 +24,6 @@ private:
     void ClearCredit();
     void AddPayPeriod();
     void TurnAmount();
+    void GoToDelete();
     void DeletePayPeriod();
 };

@@ -571,6 +571,46 @@ private Q_SLOTS:
         QCOMPARE(FocusOf(Window), Amount);
     }
 
+    void TheAccessKeyOfTheDeleteButtonsOnlyMovesTheFocus_data()
+    {
+        QTest::addColumn<bool>("itemSelected");
+        QTest::addColumn<QStringList>("focus"); // after each press
+        const QString period = u"cmdDeletePayPeriod"_s;
+        const QString item = u"cmdDeleteExtraItem"_s;
+        QTest::newRow("only the pay period can be deleted") << false << QStringList{period, period};
+        QTest::newRow("so can the item") << true << QStringList{period, item, period};
+    }
+    void TheAccessKeyOfTheDeleteButtonsOnlyMovesTheFocus()
+    {
+        QFETCH(bool, itemSelected);
+        QFETCH(QStringList, focus);
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        if (itemSelected)
+            ClickRow(Window, List, 0);
+        for (const QString &next : focus) {
+            QTest::keyClick(TheWindows.Loaded(Window), Qt::Key_D, Qt::AltModifier);
+            QTest::qWait(150); // a click by key would come with a delay
+            Settle();
+            QCOMPARE(FocusOf(Window), next);
+            QCOMPARE(RowsOf(Window, List), (QStringList{u"Gift"_s, u"Refund"_s}));
+        }
+        QCOMPARE(File(desk), TwoPeriods);
+        PressEnter(Window, FocusOf(Window)); // there the user deletes on purpose
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Trip));
+    }
+
+    void TheAccessKeyOfTheDeleteButtonsDoesNothingWhereNothingCanBeDeleted()
+    {
+        CommitmentsDesk desk;
+        Open(desk);
+        const QString focus = FocusOf(Window);
+        QTest::keyClick(TheWindows.Loaded(Window), Qt::Key_D, Qt::AltModifier);
+        Settle();
+        QCOMPARE(FocusOf(Window), focus);
+        QCOMPARE(File(desk), TwoPeriods);
+    }
+
     void AFileThatCannotBeWrittenIsToldAndReadBack()
     {
         CommitmentsDesk desk;
