@@ -111,6 +111,8 @@ void ListPanel::OpenPanel(const QString &caption)
 
 void ListPanel::ClosePanel()
 {
+    // Or the toolkit moves it on from the disabled button to the quit button, where the next Enter closes the window.
+    FocusOn(m_controls.List);
     m_controls.Commit->setEnabled(false);
     EmptyFields();
     EnableFields(false);

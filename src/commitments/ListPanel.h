@@ -48,7 +48,8 @@ protected:
     void EnableFields(bool enabled);
     /// Lets the user enter a new record or change one, as the caption tells.
     void OpenPanel(const QString &caption);
-    /// What follows a delete: nothing can be committed or deleted until the user has chosen again.
+    /// What follows a delete: nothing can be committed or deleted until the user has chosen again. The focus goes to
+    /// the list.
     void ClosePanel();
 
 private:

@@ -72,6 +72,7 @@ void frmExtras::TakePickedPayPeriod()
         FillPayPeriodList();
         return;
     }
+    FocusOn(ui.lstExtraItems); // as after a delete
     ShowPayPeriods();
     EmptyPanel();
 }
@@ -148,6 +149,7 @@ void frmExtras::DeleteClicked()
 void frmExtras::DeletePayPeriod()
 {
     RemovePayPeriodAndSave();
+    FocusOn(ui.lstExtraItems); // as after the delete of an item
     ShowPayPeriods();
     EmptyFields();
 }

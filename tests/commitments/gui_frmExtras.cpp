@@ -611,6 +611,34 @@ private Q_SLOTS:
         QCOMPARE(File(desk), TwoPeriods);
     }
 
+    void AfterADeleteOfAPayPeriodTheListHasTheFocusAndEnterDoesNothing()
+    {
+        CommitmentsDesk desk;
+        OpenPayPeriod(desk, 0);
+        TheWindows.Loaded(Window)->FocusOn(&Find(Window, u"cmdDeletePayPeriod"_s));
+        PressEnter(Window, u"cmdDeletePayPeriod"_s);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Trip));
+        QCOMPARE(FocusOf(Window), List);
+        PressEnter(Window, FocusOf(Window));
+        QVERIFY(IsShown(Window));
+        QVERIFY(Extras.ExtrasListMode); // it has opened no pay period either
+    }
+
+    void APickThatClosesTheOpenPayPeriodLeavesTheFocusOnTheList()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Trip);
+        Click(Window, u"cmdAddPayPeriod"_s);
+        Show(Window);
+        ClickRow(Window, List, 0);
+        TheWindows.Loaded(Window)->FocusOn(&Find(Window, u"cmdDeletePayPeriod"_s));
+        Show(u"frmScanPayPeriods"_s);
+        ClickRow(u"frmScanPayPeriods"_s, u"lstScanPayPeriods"_s, 0);
+        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(FocusOf(Window), List);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
+    }
+
     void AFileThatCannotBeWrittenIsToldAndReadBack()
     {
         CommitmentsDesk desk;

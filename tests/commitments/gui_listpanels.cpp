@@ -569,6 +569,23 @@ private Q_SLOTS:
         QCOMPARE(Allowed(panel), panel.Read + u' ' + panel.Add + u" cmdQuit"_s);
     }
 
+    void AfterADeleteTheListHasTheFocusAndEnterDoesNothing_data() { AddPanels(); }
+    void AfterADeleteTheListHasTheFocusAndEnterDoesNothing()
+    {
+        const Panel &panel = ThePanel();
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        ClickRow(panel.Window, panel.List, 0);
+        TheWindows.Loaded(panel.Window)->FocusOn(&Find(panel.Window, panel.Delete));
+        PressEnter(panel.Window, panel.Delete);
+        QCOMPARE(desk.ReadFile(panel.File), panel.FileOf({panel.Records[1]}));
+        QCOMPARE(FocusOf(panel.Window), panel.List);
+        PressEnter(panel.Window, FocusOf(panel.Window));
+        QVERIFY(IsShown(panel.Window));
+        QCOMPARE(SelectedRow(panel.Window, panel.List), -1);
+        QCOMPARE(Shown(panel), Nothing(panel));
+    }
+
     void DeletingTheOnlyOneLeavesAnEmptyFile_data()
     {
         QTest::addColumn<int>("index");
