@@ -85,8 +85,10 @@ int ListPanel::SelectedRecord() const
 
 void ListPanel::SetFields(const QStringList &texts)
 {
-    for (qsizetype i = 0; i < texts.size(); ++i)
+    for (qsizetype i = 0; i < texts.size(); ++i) {
         m_controls.Fields[i]->setText(texts[i]);
+        m_controls.Fields[i]->setCursorPosition(0); // also where the text is the same: its beginning is seen
+    }
 }
 
 void ListPanel::EmptyFields()

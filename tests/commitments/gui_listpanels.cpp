@@ -427,6 +427,31 @@ private Q_SLOTS:
         QCOMPARE(TextOf(panel.Window, panel.Commit), u"&New"_s);
     }
 
+    void ALongNameIsSeenFromItsBeginning_data() { AddPanels(); }
+    void ALongNameIsSeenFromItsBeginning()
+    {
+        const Panel &panel = ThePanel();
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        AddEntry(panel, panel.Entry);
+        const auto &name = Find<QLineEdit>(panel.Window, panel.Name());
+        Type(panel.Window, panel.Name(), u"A very long name "_s.repeated(8) + u"with an end"_s);
+        QVERIFY(name.cursorPosition() > 100); // while it is typed, its end is seen
+        Click(panel.Window, panel.Commit);
+        QCOMPARE(name.cursorPosition(), 0);
+        auto &list = Find<ListBox>(panel.Window, panel.List);
+        const QPoint beginning =
+            list.visualItemRect(list.item(2)).topLeft() + QPoint(5, 5); // its middle is out of sight
+        for (int time = 0; time < 2; ++time) {                          // the panel shows that text already
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, beginning);
+            Settle();
+            QCOMPARE(SelectedRow(panel.Window, panel.List), 2);
+            QCOMPARE(name.cursorPosition(), 0);
+            QCOMPARE(SelectedText(panel.Window, panel.Fields[0]), TextOf(panel.Window, panel.Fields[0]));
+        }
+        QCOMPARE(desk.TakeFiles(), QStringList{panel.File});
+    }
+
     void AChangeIsSavedAndReadBack_data() { AddPanels(Which::WithModes); }
     void AChangeIsSavedAndReadBack()
     {
