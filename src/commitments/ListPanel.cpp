@@ -4,6 +4,22 @@
 
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QStringListModel>
+
+namespace {
+
+/// The height of a row, also while the list has none.
+int RowHeight(const ListBox &list)
+{
+    const QStringListModel row({QStringLiteral("X")});
+    QStyleOptionViewItem look;
+    look.initFrom(&list);
+    look.font = list.font();
+    look.widget = &list;
+    return list.itemDelegate()->sizeHint(look, row.index(0)).height();
+}
+
+} // namespace
 
 void ListPanel::TakeControls(const Controls &controls)
 {
@@ -119,4 +135,21 @@ void ListPanel::ClosePanel()
     EmptyFields();
     EnableFields(false);
     m_controls.Delete->setEnabled(false);
+}
+
+void ListPanel::showEvent(QShowEvent *event)
+{
+    WindowBase::showEvent(event);
+    if (!std::exchange(m_hasBeenShown, true))
+        GiveListWholeRows();
+}
+
+/// At its opening the window is made lower, or where it cannot be, higher by what a row at the list's lower edge lacks,
+/// so that none is cut in half.
+void ListPanel::GiveListWholeRows()
+{
+    const int row = RowHeight(*m_controls.List);
+    const int rest = m_controls.List->viewport()->height() % row;
+    const int lower = height() - rest;
+    resize(width(), lower >= minimumHeight() ? lower : lower + row);
 }

@@ -52,12 +52,16 @@ protected:
     /// the list.
     void ClosePanel();
 
+    void showEvent(QShowEvent *event) override;
+
 private:
     void CommitEntry();
     EntryOutcome TakePanel();
+    void GiveListWholeRows();
 
     const CommitmentList &m_list;
     Controls m_controls;
+    bool m_hasBeenShown = false;
 };
 
 /// Such a window of the design `UiForm`.

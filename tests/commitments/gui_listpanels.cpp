@@ -308,6 +308,46 @@ private Q_SLOTS:
         QCOMPARE(clipped, QStringList());
     }
 
+    void TheListOpensWithWholeRows_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<double>("scale");
+        for (int i = 0; i < Panels.size(); ++i)
+            for (const double scale : {1.0, 1.5, 2.0})
+                QTest::addRow("%s, letters %g times as large", qPrintable(Panels[i].Window), scale) << i << scale;
+    }
+    void TheListOpensWithWholeRows()
+    {
+        const Panel &panel = ThePanel();
+        QFETCH(double, scale);
+        const QFont usual = QApplication::font();
+        const auto putBack = qScopeGuard([&] { QApplication::setFont(usual); });
+        QFont large = usual;
+        large.setPointSizeF(scale * usual.pointSizeF());
+        QApplication::setFont(large);
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        const auto &list = Find<ListBox>(panel.Window, panel.List);
+        const int row = list.visualItemRect(list.item(0)).height();
+        QVERIFY(row >= QFontMetrics(large).height());
+        QCOMPARE(list.viewport()->height() % row, 0);
+        QVERIFY(list.viewport()->height() / row >= 5);
+    }
+
+    void AWindowThatComesBackKeepsTheHeightThatTheUserGaveIt_data() { AddPanels(); }
+    void AWindowThatComesBackKeepsTheHeightThatTheUserGaveIt()
+    {
+        const Panel &panel = ThePanel();
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        Form *form = TheWindows.Loaded(panel.Window);
+        const int height = form->height() + 5;
+        form->resize(form->width(), height);
+        form->hide();
+        Show(panel.Window);
+        QCOMPARE(form->height(), height);
+    }
+
     void OpeningOffersTheListAlone_data() { AddPanels(); }
     void OpeningOffersTheListAlone()
     {
