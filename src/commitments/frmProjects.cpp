@@ -23,7 +23,7 @@ frmProjects::frmProjects() : ListWindow(ProjectList)
     // The ring ends at the date, where Enter is a key like any other.
     OnEnter(ui.txtProjectCompletionDate, [this] { PickCompletionDate(); });
     ui.txtProjectCompletionDate->installEventFilter(this);
-    connect(&TheCompletionDateOutlet, &CompletionDateOutlet::Picked, ui.txtProjectCompletionDate, &QLineEdit::setText);
+    connect(&TheCompletionDateOutlet, &CompletionDateOutlet::Picked, this, &frmProjects::TakePickedDate);
 }
 
 bool frmProjects::eventFilter(QObject *watched, QEvent *event)
@@ -55,6 +55,14 @@ void frmProjects::PickCompletionDate()
     TheWindows.Show(WindowName::frmSavingsForecast);
 }
 
+void frmProjects::TakePickedDate(const QString &date)
+{
+    ui.txtProjectCompletionDate->setText(date);
+    // When the window comes back. In the date the next key would open the forecast again.
+    if (ui.cmdNew->isEnabled())
+        FocusOn(ui.cmdNew);
+}
+
 void frmProjects::AddClicked()
 {
     EmptyFields();
@@ -80,6 +88,7 @@ void frmProjects::EntrySaved()
 void frmProjects::RowClicked()
 {
     AddingProject = false;
+    ui.cmdNew->setEnabled(false); // or a second project of the row's name could be planned
     Projects.SelectedProject = ToInteger(SelectedRecord());
     SetFields(ProjectList.PanelOf(Projects.SelectedProject));
     ui.cmdDeleteProject->setEnabled(true);

@@ -18,6 +18,7 @@ protected:
 private:
     void UpdateNewButton();
     void PickCompletionDate();
+    void TakePickedDate(const QString &date);
     void TellHowToPick();
     void ViewProject();
 

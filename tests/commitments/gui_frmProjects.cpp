@@ -60,6 +60,14 @@ void DoubleClickDate()
     Settle();
 }
 
+void MoveOverDate()
+{
+    QWidget &date = Find(Window, Date);
+    QMouseEvent moved(QEvent::MouseMove, QPointF(5, 5), date.mapToGlobal(QPointF(5, 5)), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&date, &moved);
+}
+
 /// Picks a row of the forecast that is open.
 void Pick(int row)
 {
@@ -116,14 +124,17 @@ private Q_SLOTS:
         QCOMPARE(Find(Window, Date).toolTip(), u"Any key picks the date in the savings forecast"_s); // its description
     }
 
-    void AddingAgainAfterALookAtARowDisablesNew()
+    void ALookAtARowEndsTheEntry()
     {
         CommitmentsDesk desk;
         Open(desk, "1\r\n" + Boat);
         Add(u"Coat"_s, u"5"_s);
         PickDate(1);
         ClickRow(Window, List, 0);
-        QVERIFY(IsEnabled(Window, Commit)); // a look leaves it as it is
+        QVERIFY(!IsEnabled(Window, Commit)); // or New would plan a second project of the row's name
+        Type(Window, Project, u"Ship"_s);
+        PickDate(2);
+        QVERIFY(!IsEnabled(Window, Commit));
         Click(Window, u"cmdAddProject"_s);
         QCOMPARE(Texts(Window, Fields), u" |  | "_s);
         QVERIFY(!IsEnabled(Window, Commit));
@@ -264,27 +275,75 @@ private Q_SLOTS:
         QCOMPARE(State.ProjectDateFromForecast, opens);
     }
 
+    void AfterThePickTheFocusIsOnNewIfItIsEnabled_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("focus");
+        QTest::newRow("the entry is whole") << u"Boat"_s << u"60"_s << Commit;
+        QTest::newRow("the amount is missing") << u"Boat"_s << QString() << Date;
+        QTest::newRow("the description is missing") << QString() << u"60"_s << Date;
+    }
+    void AfterThePickTheFocusIsOnNewIfItIsEnabled()
+    {
+        QFETCH(QString, project);
+        QFETCH(QString, amount);
+        QFETCH(QString, focus);
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(project, amount);
+        TheWindows.Loaded(Window)->FocusOn(&Find(Window, Date));
+        PressEnter(Window, Date);
+        Pick(2);
+        QCOMPARE(ActiveWindow(), Window);
+        QCOMPARE(FocusOf(Window), focus);
+        if (focus == Date)
+            return;
+        QVERIFY(Find(Window, Commit).hasFocus());
+        PressEnter(Window, Commit);
+        QCOMPARE(File(desk), QByteArray("1\r\n" + Boat));
+        QVERIFY(!IsShown(ForecastWindow));
+    }
+
+    void TheHintHowToPickNeedsBothOfTheOthers_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<bool>("hint");
+        QTest::newRow("neither") << QString() << QString() << false;
+        QTest::newRow("the description alone") << u"Boat"_s << QString() << false;
+        QTest::newRow("the amount alone") << QString() << u"60"_s << false;
+        QTest::newRow("both") << u"Boat"_s << u"60"_s << true;
+    }
+    void TheHintHowToPickNeedsBothOfTheOthers()
+    {
+        QFETCH(QString, project);
+        QFETCH(QString, amount);
+        QFETCH(bool, hint);
+        CommitmentsDesk desk;
+        Open(desk, "0\r\n");
+        Add(project, amount);
+        MoveOverDate();
+        const QWidget &date = Find(Window, Date);
+        QCOMPARE(date.toolTip(), hint ? u"Double-click to select valid date"_s : date.accessibleDescription());
+    }
+
     void TheDateTellsHowToPickItWhenTheOthersAreFilled()
     {
         CommitmentsDesk desk;
         Open(desk, "0\r\n");
         Click(Window, u"cmdAddProject"_s);
-        QWidget &date = Find(Window, Date);
-        const auto move = [&] {
-            QMouseEvent moved(QEvent::MouseMove, QPointF(5, 5), date.mapToGlobal(QPointF(5, 5)), Qt::NoButton,
-                              Qt::NoButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(&date, &moved);
-        };
+        const QWidget &date = Find(Window, Date);
         const QString description = date.accessibleDescription();
         Type(Window, Project, u"Boat"_s);
-        move();
+        MoveOverDate();
         QCOMPARE(date.toolTip(), description);
         Type(Window, Amount, u"60"_s);
         QCOMPARE(date.toolTip(), description); // the hint comes with the mouse
-        move();
+        MoveOverDate();
         QCOMPARE(date.toolTip(), u"Double-click to select valid date"_s);
         Type(Window, Amount, {});
-        move();
+        MoveOverDate();
         QCOMPARE(date.toolTip(), u"Double-click to select valid date"_s); // and stays
     }
 
