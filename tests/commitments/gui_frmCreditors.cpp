@@ -55,6 +55,21 @@ private Q_SLOTS:
         QCOMPARE(SelectedRow(Window, List), -1);
     }
 
+    void AFileEditedByHandKeepsItsOrderUntilTheNextCommit()
+    {
+        CommitmentsDesk desk;
+        Open(desk, "3\r\n20\r\n\"Phone\"\r\n40.5\r\n5\r\n\"Rent\"\r\n700\r\n12\r\n\"Car\"\r\n150\r\n");
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Phone"_s, u"Rent"_s, u"Car"_s}));
+        ClickRow(Window, List, 0);
+        QCOMPARE(Texts(Window, Fields), u"20 | $40.50 | Phone"_s);
+        QVERIFY(desk.TakeFiles().isEmpty()); // listing wrote nothing
+
+        Click(Window, Commit);
+        QCOMPARE(RowsOf(Window, List), (QStringList{u"Rent"_s, u"Car"_s, u"Phone"_s}));
+        QCOMPARE(File(desk),
+                 QByteArray("3\r\n5\r\n\"Rent\"\r\n700\r\n12\r\n\"Car\"\r\n150\r\n20\r\n\"Phone\"\r\n40.5\r\n"));
+    }
+
     void ThePanelKeepsModeAndTextSoThatLikeEntriesFollow()
     {
         CommitmentsDesk desk;

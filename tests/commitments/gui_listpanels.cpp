@@ -38,12 +38,20 @@ struct Panel {
     QStringList Entry;      ///< a third record as it is typed
     QStringList EntryTexts; ///< and in its normal form
     QByteArray EntryRecord; ///< and in the file, where it goes to the end
+    QByteArray EntryAmount; ///< its amount there
 
     QByteArray FileOf(const QList<QByteArray> &records) const
     {
         return Before + QByteArray::number(records.size()) + "\r\n" + records.join() + After;
     }
     QByteArray TwoRecords() const { return FileOf(Records); }
+    /// The file with the third record, of another amount.
+    QByteArray ThreeRecords(const QByteArray &amount) const
+    {
+        QByteArray entry = EntryRecord;
+        entry.replace("\r\n" + EntryAmount + "\r\n", "\r\n" + amount + "\r\n");
+        return FileOf(Records + QList<QByteArray>{entry});
+    }
     QStringList Controls() const { return Buttons + Fields + Others + QStringList{Commit}; }
     QString Name() const { return Fields[HasModes ? Fields.size() - 1 : 0]; }
     Message UnknownError() const { return {UnknownErrorText, Title, Icon::Warning}; }
@@ -81,7 +89,8 @@ const QList<Panel> Panels{
      .Texts = {{u"5"_s, u"$700.00"_s, u"Rent"_s}, {u"20"_s, u"$40.50"_s, u"Phone"_s}},
      .Entry = {u" 28 "_s, u"1,250.5"_s, u"Car"_s},
      .EntryTexts = {u"28"_s, u"$1,250.50"_s, u"Car"_s},
-     .EntryRecord = "28\r\n\"Car\"\r\n1250.5\r\n"},
+     .EntryRecord = "28\r\n\"Car\"\r\n1250.5\r\n",
+     .EntryAmount = "1250.5"},
     {.Window = u"frmRegulars"_s,
      .Title = u"Regulars"_s,
      .HelpContext = 23,
@@ -109,7 +118,8 @@ const QList<Panel> Panels{
      .Texts = {{u"$120.00"_s, u"Groceries"_s}, {u"$15.25"_s, u"Bus"_s}},
      .Entry = {u"(2.5)"_s, u"Allowance"_s},
      .EntryTexts = {u"($2.50)"_s, u"Allowance"_s},
-     .EntryRecord = "\"Allowance\"\r\n-2.5\r\n"},
+     .EntryRecord = "\"Allowance\"\r\n-2.5\r\n",
+     .EntryAmount = "-2.5"},
     {.Window = u"frmExtras"_s,
      .Title = u"Extras"_s,
      .HelpContext = 24,
@@ -139,7 +149,8 @@ const QList<Panel> Panels{
      .Texts = {{u"$30.00"_s, u"Gift"_s}, {u"($12.50)"_s, u"Refund"_s}},
      .Entry = {u"-7"_s, u"Bottles"_s},
      .EntryTexts = {u"($7.00)"_s, u"Bottles"_s},
-     .EntryRecord = "\"Bottles\"\r\n-7\r\n"},
+     .EntryRecord = "\"Bottles\"\r\n-7\r\n",
+     .EntryAmount = "-7"},
     {.Window = u"frmProjects"_s,
      .Title = u"Projects"_s,
      .HelpContext = 25,
@@ -168,7 +179,8 @@ const QList<Panel> Panels{
      .Texts = {{u"Boat"_s, u"$60.00"_s, u"January 8, 2004"_s}, {u"Lamp"_s, u"$25.00"_s, u"January 15, 2004"_s}},
      .Entry = {u"Coat"_s, u"5"_s, u"January 1, 2004"_s},
      .EntryTexts = {u"Coat"_s, u"$5.00"_s, u"January 1, 2004"_s},
-     .EntryRecord = "\"Coat\"\r\n5\r\n0\r\n"}};
+     .EntryRecord = "\"Coat\"\r\n5\r\n0\r\n",
+     .EntryAmount = "5"}};
 
 /// Reads the file and shows its records; those of the extras stand in a pay period, which is opened.
 void Read(const Panel &panel)
@@ -465,6 +477,25 @@ private Q_SLOTS:
         QCOMPARE(SelectedRow(panel.Window, panel.List), -1);
         QCOMPARE(Shown(panel), Joined(panel.EntryTexts)); // the panel keeps its text, in the normal form
         QCOMPARE(TextOf(panel.Window, panel.Commit), u"&New"_s);
+    }
+
+    void TheRecordKeepsFourDecimalsWhereThePanelShowsTwo_data() { AddPanels(); }
+    void TheRecordKeepsFourDecimalsWhereThePanelShowsTwo()
+    {
+        const Panel &panel = ThePanel();
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        AddEntry(panel, panel.Entry);
+        Type(panel.Window, panel.Amount, u"1.23456"_s);
+        Click(panel.Window, panel.Commit);
+        QCOMPARE(TextOf(panel.Window, panel.Amount), u"$1.23"_s);
+        QCOMPARE(desk.ReadFile(panel.File), panel.ThreeRecords("1.2346"));
+        ClickRow(panel.Window, panel.List, 2);
+        QCOMPARE(TextOf(panel.Window, panel.Amount), u"$1.23"_s);
+        if (!panel.HasModes)
+            return;
+        Click(panel.Window, panel.Commit); // takes what the panel shows
+        QCOMPARE(desk.ReadFile(panel.File), panel.ThreeRecords("1.23"));
     }
 
     void ALongNameIsSeenFromItsBeginning_data() { AddPanels(); }
