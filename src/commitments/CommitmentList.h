@@ -14,7 +14,7 @@ inline const QString ChangeCaption = QStringLiteral("&Change");
 /// What became of an entry.
 struct EntryOutcome {
     bool Saved = false;                    ///< it is in the records and was written to the file
-    std::optional<Message> Objection = {}; ///< what is told when it was refused
+    std::optional<Message> Objection = {}; ///< the message where it was refused
     QString Focus = {};                    ///< the field that gets the focus then; empty: it stays where it is
 };
 
@@ -26,7 +26,7 @@ struct CommitmentList {
     void (*Save)();
     QStringList (*Names)();             ///< the rows of the list
     QStringList (*PanelOf)(int record); ///< the texts that show a record
-    /// Takes the panel's texts as a new record or as those of `record`, as the caption tells; any other caption takes
+    /// Takes the panel's texts as a new record or as those of `record`, as the caption says; any other caption takes
     /// nothing. The texts are put in their normal forms, also where an error is raised later on. An entry that is taken
     /// is saved and read back.
     EntryOutcome (*Commit)(QStringList &panel, const QString &caption, int record);
@@ -38,5 +38,5 @@ void SaveAndReload(const CommitmentList &list);
 /// The delete button: removes a record, saves and reads back. Raises error 9, with nothing changed, where two records
 /// or more are there and `record` is none of them.
 void RemoveAndSave(const CommitmentList &list, int record);
-/// A refusal as the list's window tells it.
+/// A refusal with the message that the list's window shows.
 EntryOutcome Refuse(const CommitmentList &list, const Refusal &refusal);

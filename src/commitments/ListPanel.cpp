@@ -64,7 +64,7 @@ void ListPanel::DeleteClicked()
     ClosePanel();
 }
 
-/// The panel shows its texts in their normal forms before anything is told of them.
+/// The panel shows its texts in their normal forms before any message about them.
 EntryOutcome ListPanel::TakePanel()
 {
     QStringList panel;

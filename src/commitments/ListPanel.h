@@ -46,7 +46,7 @@ protected:
     void SetFields(const QStringList &texts);
     void EmptyFields();
     void EnableFields(bool enabled);
-    /// Lets the user enter a new record or change one, as the caption tells.
+    /// Lets the user enter a new record or change one, as the caption says.
     void OpenPanel(const QString &caption);
     /// What follows a delete: nothing can be committed or deleted until the user has chosen again. The focus goes to
     /// the list.

@@ -19,7 +19,7 @@ inline ProjectsState Projects;
 /// An amount that is no number or an empty description is refused.
 std::optional<Refusal> ValidateProjectEntry(const QStringList &panel);
 
-/// What is told when the picked row of the forecast has less accumulated than the amount; nothing if it has enough.
+/// The message when the picked row of the forecast has less accumulated than the amount; nothing if it has enough.
 std::optional<Message> ValidateProjectFunds(Currency amount);
 
 /// Appends a project whose installments are those of the forecast's rows 1 to the picked one. Each is the row's

@@ -1,4 +1,4 @@
-// What the tests of the commitments' windows share: the controls of a window told in one look.
+// What the tests of the commitments' windows share: the controls of a window in one look.
 #pragma once
 
 #include "GuiDesk.h"

@@ -27,10 +27,10 @@ void TakeCreditors(const QList<int> &dueDays)
 /// "A5 B7": names and due days in order.
 QString Creditors()
 {
-    QStringList told;
+    QStringList names;
     for (int i = 1; i <= State.NumberOfCreditors; ++i)
-        told += State.Creditors(i).CreditorName + QString::number(State.Creditors(i).CreditorDueDate);
-    return told.join(u' ');
+        names += State.Creditors(i).CreditorName + QString::number(State.Creditors(i).CreditorDueDate);
+    return names.join(u' ');
 }
 
 void TakeRegulars(const QStringList &items)
@@ -43,10 +43,10 @@ void TakeRegulars(const QStringList &items)
 
 QString RegularItems()
 {
-    QStringList told;
+    QStringList names;
     for (int i = 1; i <= State.NumberOfRegulars; ++i)
-        told += State.Regulars(i).RegularItem;
-    return told.join(u' ');
+        names += State.Regulars(i).RegularItem;
+    return names.join(u' ');
 }
 
 } // namespace

@@ -36,10 +36,10 @@ void TakeItems(int count)
 
 QString ItemsOf(int payPeriod)
 {
-    QStringList told;
+    QStringList names;
     for (int slot = 1; slot <= State.ExtraPayPeriods(payPeriod).NumberOfExtraItems; ++slot)
-        told += State.ExtraPayPeriods(payPeriod).ExtraItems(slot).ExtraItem;
-    return told.join(u' ');
+        names += State.ExtraPayPeriods(payPeriod).ExtraItems(slot).ExtraItem;
+    return names.join(u' ');
 }
 
 const ExtraItemRecord &Slot(int slot)
