@@ -52,6 +52,16 @@ class gui_printswitch : public QObject
 private Q_SLOTS:
     void cleanup() { QApplication::setPalette(LightPalette()); }
 
+    void TheLitSideIsTheTabStop()
+    {
+        Stage stage;
+        QCOMPARE(stage.Side("pbPrintOff")->focusPolicy(), Qt::StrongFocus);
+        QCOMPARE(stage.Side("pbPrintOn")->focusPolicy(), Qt::ClickFocus);
+        stage.Switch->Set(true);
+        QCOMPARE(stage.Side("pbPrintOff")->focusPolicy(), Qt::ClickFocus);
+        QCOMPARE(stage.Side("pbPrintOn")->focusPolicy(), Qt::StrongFocus);
+    }
+
     void ItStartsOff()
     {
         Stage stage;

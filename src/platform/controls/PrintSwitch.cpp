@@ -68,9 +68,9 @@ PrintSwitch::PrintSwitch(QWidget *parent)
     auto *sides = new QButtonGroup(this); // one of them is always checked
     sides->addButton(m_on);
     sides->addButton(m_off);
-    TakeColours();
+    ShowState();
     connect(sides, &QButtonGroup::buttonToggled, this, [this](QAbstractButton *side, bool checked) {
-        TakeColours();
+        ShowState();
         if (checked)
             Q_EMIT Click(side == m_on);
     });
@@ -90,11 +90,11 @@ void PrintSwitch::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        TakeColours();
+        ShowState();
 }
 
 /// The ground of each side is its palette's button colour, and its word has the text colour that goes with it.
-void PrintSwitch::TakeColours()
+void PrintSwitch::ShowState()
 {
     const QColor accent = AccentColour(palette());
     for (QPushButton *side : {m_on, m_off}) {
@@ -105,6 +105,7 @@ void PrintSwitch::TakeColours()
                              TextOn(accent)); // a label on a button takes the button's text colour
         }
         side->setPalette(colours);
+        side->setFocusPolicy(side->isChecked() ? Qt::StrongFocus : Qt::ClickFocus); // the lit side is the tab stop
     }
     update();
 }

@@ -24,7 +24,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void TakeColours();
+    void ShowState();
 
     QPushButton *m_on;
     QPushButton *m_off;
