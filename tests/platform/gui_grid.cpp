@@ -423,6 +423,55 @@ private Q_SLOTS:
         QCOMPARE(grid.CurrentRow(), 3);
     }
 
+    void HomeAndEndGoToTheFirstAndTheLastRowWithAText()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        grid.SetText(8, 0, {}); // rows without a text below them
+        Present(grid);
+        grid.setFocus();
+        QSignalSpy clicks(&grid, &Grid::Click);
+        QTest::keyClick(&grid, Qt::Key_End);
+        QCOMPARE(grid.currentIndex().row(), 4);
+        QTest::keyClick(&grid, Qt::Key_Return);
+        QCOMPARE(grid.CurrentRow(), 5);
+        QTest::keyClick(&grid, Qt::Key_Home);
+        QCOMPARE(grid.currentIndex().row(), 0);
+        QTest::keyClick(&grid, Qt::Key_Return);
+        QCOMPARE(grid.CurrentRow(), 1);
+        QCOMPARE(clicks.count(), 2);
+        QTest::keyClick(&grid, Qt::Key_Right); // along the row is no way
+        QCOMPARE(grid.currentIndex().row(), 0);
+    }
+
+    void AMarkThatNobodyHasMovedIsAnEdgeAlone()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        grid.setFocus();
+        QTest::qWait(50);
+        const auto ground = [&](int row) {
+            const QRect cell = grid.visualRect(grid.model()->index(row, 1));
+            return grid.viewport()->grab(cell).toImage().pixelColor(3, cell.height() / 2);
+        };
+        const auto edge = [&](int row, int column) {
+            const QRect cell = grid.visualRect(grid.model()->index(row, column));
+            const QImage picture = grid.viewport()->grab(cell).toImage();
+            int points = 0; // of the upper line, which is drawn without a gap
+            for (int x = 1; x < cell.width() - 1; ++x)
+                points += picture.pixelColor(x, 0) != grid.palette().color(QPalette::Base) ? 1 : 0;
+            return points == cell.width() - 2;
+        };
+        const QColor plain = ground(3);
+        QCOMPARE(ground(0), plain);
+        QVERIFY(edge(0, 0) && edge(0, 1) && !edge(3, 0));
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QCOMPARE(ground(0), plain);
+        QVERIFY(ground(1) != plain);
+        QVERIFY(edge(1, 0) && edge(1, 1));
+    }
+
     void NoKeyClicksBeforeTheUserHasChosen_data()
     {
         QTest::addColumn<int>("key");

@@ -136,6 +136,18 @@ public:
             RaiseError(RuntimeError::SubscriptOutOfRange);
     }
 
+    /// 0 where nothing stands below the heading.
+    int LastRowWithText() const
+    {
+        const auto hasText = [](const Cells &cells) {
+            return std::any_of(cells.begin(), cells.end(), [](const Cell &cell) { return !cell.Text.isEmpty(); });
+        };
+        int last = qMax(0, KeptRows() - 1);
+        while (last > 0 && !hasText(CellsOf(last)))
+            --last;
+        return last;
+    }
+
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownRows; }
     int columnCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_shownColumns; }
     QVariant data(const QModelIndex &index, int role) const override
@@ -226,19 +238,7 @@ private:
         }
     }
 
-    /// Below the heading.
-    int RowsToShow() const
-    {
-        if (!m_endsWithText)
-            return qMax(0, Rows() - 1);
-        const auto hasText = [](const Cells &cells) {
-            return std::any_of(cells.begin(), cells.end(), [](const Cell &cell) { return !cell.Text.isEmpty(); });
-        };
-        int rows = KeptRows() - 1;
-        while (rows > 0 && !hasText(CellsOf(rows)))
-            --rows;
-        return qMax(0, rows);
-    }
+    int RowsToShow() const { return m_endsWithText ? LastRowWithText() : qMax(0, Rows() - 1); }
 
     void Touch()
     {
@@ -309,7 +309,7 @@ protected:
 Grid::Grid(QWidget *parent) : RowView(parent), m_model(new GridModel(this))
 {
     setHorizontalHeader(new GridHeading(this));
-    setItemDelegate(new RowLook(this));
+    setItemDelegate(new RowLook(this, [this] { return HasChosen(); }));
     setModel(m_model);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -482,6 +482,14 @@ void Grid::ClickRow(int row)
 {
     SetCurrentRow(row + 1);
     Q_EMIT Click();
+}
+
+QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action != MoveHome && action != MoveEnd)
+        return RowView::moveCursor(action, modifiers);
+    const int last = qMin(m_model->LastRowWithText(), m_model->rowCount()) - 1;
+    return m_model->index(action == MoveHome ? 0 : qMax(0, last), qMax(0, currentIndex().column()));
 }
 
 /// The widths of the columns were measured with letters five pixels wide; today's are wider.

@@ -68,10 +68,13 @@ public:
     int RowsAtFirst() const { return m_rowsAtFirst; }
     /// Whether the rows below the last one with a text are left out of the view. They stay rows of the grid.
     void SetEndsWithText(bool ends);
-    /// The row that tells what the rows above it come to: it is bold, below a rule. 0 for none, as after
+    /// The row of what the rows above it come to: it is bold, below a rule. 0 for none, as after
     /// ClearBelowHeading.
     void SetResultRow(int row);
     int ResultRow() const;
+
+    /// Whether coming back to the window fills the grid anew: the press that brings the user back is no click then.
+    void SetFillsOnArrival(bool fills) { m_fillsOnArrival = fills; }
 
     /// The row that was clicked or moved to last, 0 the heading.
     int CurrentRow() const { return m_currentRow; }
@@ -86,6 +89,9 @@ protected:
     void ClickRow(int row) override;
     void MarkMoved(int row) override { m_currentRow = row + 1; }
     void Arrived() override { SetCurrentRow(0); }
+    bool FillsOnArrival() const override { return m_fillsOnArrival; }
+    /// Home and End go to the first and the last row with a text, and not along a row.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     /// Letters that were meant for the window before move nothing.
     void keyboardSearch(const QString &) override {}
     void resizeEvent(QResizeEvent *event) override;
@@ -102,4 +108,5 @@ private:
     int m_currentRow = 0;
     int m_rowsInView = 0;
     int m_rowsAtFirst = 21;
+    bool m_fillsOnArrival = false;
 };

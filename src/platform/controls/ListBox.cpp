@@ -25,7 +25,7 @@ ListBox::ListBox(QWidget *parent) : RowView(parent)
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
     setTabKeyNavigation(false);
-    setItemDelegate(new RowLook(this));
+    setItemDelegate(new RowLook(this, [this] { return HasChosen(); }));
     connect(model(), &QAbstractItemModel::rowsInserted, this, [this] { ShowMark(); });
 }
 

@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <functional>
 
 class RowLook : public QStyledItemDelegate
 {
@@ -14,7 +15,11 @@ public:
     static constexpr int Margin = 8;
     static constexpr int RuleAbove = Qt::UserRole + 1; ///< of a model's data: whether a rule stands above the row
 
-    explicit RowLook(QAbstractItemView *view) : QStyledItemDelegate(view), m_view(view) {}
+    /// isChosen: whether the row with the mark counts as chosen; else only its edge is drawn.
+    RowLook(QAbstractItemView *view, const std::function<bool()> &isChosen)
+        : QStyledItemDelegate(view), m_view(view), m_isChosen(isChosen)
+    {
+    }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
@@ -25,7 +30,8 @@ public:
             !(cell.state & QStyle::State_Selected) && !IsEmptyRow(index)) {
             QColor mark = cell.palette.color(QPalette::Highlight);
             mark.setAlpha(FocusAlpha);
-            painter->fillRect(cell.rect, mark);
+            if (m_isChosen())
+                painter->fillRect(cell.rect, mark);
             DrawMarkEdge(painter, cell, index);
         }
         if (index.data(RuleAbove).toBool()) {
@@ -53,17 +59,15 @@ private:
     /// A line around the whole row, of which each cell draws its part.
     void DrawMarkEdge(QPainter *painter, const QStyleOptionViewItem &cell, const QModelIndex &index) const
     {
-        const QRect edge = cell.rect.adjusted(0, 0, -1, -1);
-        painter->save();
-        painter->setPen(
-            ReadableOn(cell.palette.color(QPalette::Highlight), cell.palette.color(QPalette::Base), EdgeContrast));
-        painter->drawLine(edge.topLeft(), edge.topRight());
-        painter->drawLine(edge.bottomLeft(), edge.bottomRight());
+        const QRect &room = cell.rect;
+        const QColor ink =
+            ReadableOn(cell.palette.color(QPalette::Highlight), cell.palette.color(QPalette::Base), EdgeContrast);
+        painter->fillRect(room.left(), room.top(), room.width(), 1, ink);
+        painter->fillRect(room.left(), room.bottom(), room.width(), 1, ink);
         if (index.column() == 0)
-            painter->drawLine(edge.topLeft(), edge.bottomLeft());
+            painter->fillRect(room.left(), room.top(), 1, room.height(), ink);
         if (index.column() == index.model()->columnCount() - 1)
-            painter->drawLine(edge.topRight(), edge.bottomRight());
-        painter->restore();
+            painter->fillRect(room.right(), room.top(), 1, room.height(), ink);
     }
     static constexpr int FocusAlpha = 50; // of 255
     static constexpr int RuleAlpha = 160;
@@ -73,4 +77,5 @@ private:
     int MoreMargin() const { return Margin - m_view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) - 1; }
 
     QAbstractItemView *m_view;
+    std::function<bool()> m_isChosen;
 };

@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 #include <QPersistentModelIndex>
 #include <optional>
+#include <utility>
 
 template <class View>
 class RowView : public View
@@ -29,11 +30,15 @@ protected:
     virtual void MarkMoved(int row) { Q_UNUSED(row) }
     /// The user comes to the window, for the first time or again.
     virtual void Arrived() { ForgetChoice(); }
+    /// Whether the rows change when the user comes to the window again: the press that brings him was meant for others.
+    virtual bool FillsOnArrival() const { return false; }
+    /// Whether the user has moved the mark or clicked.
+    bool HasChosen() const { return m_chosen; }
 
     /// No row counts as chosen, and the mark begins anew.
     void ForgetChoice()
     {
-        m_chosen = false;
+        SetChosen(false);
         MoveMark({});
         ShowMark();
     }
@@ -67,7 +72,7 @@ protected:
         }
         const QModelIndex before = this->currentIndex();
         View::keyPressEvent(event);
-        m_chosen = m_chosen || MovesTheMark(event->key());
+        SetChosen(m_chosen || MovesTheMark(event->key()));
         if (this->currentIndex() != before)
             MarkMoved(this->currentIndex().row());
     }
@@ -77,12 +82,14 @@ protected:
         View::keyboardSearch(text);
         m_searching.setRemainingTime(QApplication::keyboardInputInterval());
         const QModelIndex found = this->currentIndex();
-        m_chosen = m_chosen || found != before || found.data().toString().startsWith(text, Qt::CaseInsensitive);
+        SetChosen(m_chosen || found != before || found.data().toString().startsWith(text, Qt::CaseInsensitive));
     }
 
     void mousePressEvent(QMouseEvent *event) override
     {
         m_clicked.reset();
+        if (FillsOnArrival() && !m_arrival.hasExpired())
+            return;
         m_pressed = RowAt(*event, event->button());
         if (m_pressed.isValid())
             MoveMark(m_pressed);
@@ -101,7 +108,7 @@ protected:
         if (event->button() != Qt::LeftButton || !m_pressed.isValid())
             return;
         m_clicked = std::exchange(m_pressed, {});
-        m_chosen = true;
+        SetChosen(true);
         ClickRow(m_clicked->row());
     }
     void mouseDoubleClickEvent(QMouseEvent *event) override
@@ -121,11 +128,25 @@ protected:
         View::showEvent(event);
         if (auto *form = qobject_cast<Form *>(this->window()); form && form != m_form) {
             m_form = form;
-            QObject::connect(form, &Form::Arrives, this, [this] { Arrived(); });
+            QObject::connect(form, &Form::Arrives, this, [this] {
+                if (std::exchange(m_seen, true))
+                    m_arrival.setRemainingTime(ArrivalMilliseconds);
+                Arrived();
+            });
         }
+    }
+    void hideEvent(QHideEvent *event) override
+    {
+        View::hideEvent(event);
+        m_seen = false;
     }
 
 private:
+    void SetChosen(bool chosen)
+    {
+        if (std::exchange(m_chosen, chosen) != chosen)
+            this->viewport()->update(); // the mark looks otherwise
+    }
     /// The mark begins on the first row that can be chosen. The view stays where it is scrolled to.
     void BeginMark()
     {
@@ -157,7 +178,11 @@ private:
         return button == Qt::LeftButton && IsEnabled(row) ? row : QModelIndex();
     }
 
-    bool m_chosen = false;                          // the user has moved the mark or clicked
+    static constexpr int ArrivalMilliseconds = 200; // no second press of a hand comes as soon
+
+    bool m_chosen = false;
+    bool m_seen = false;                            // the user has been here since the view was shown
+    QDeadlineTimer m_arrival;                       // until then a press is the one that has brought the user back
     QDeadlineTimer m_searching;                     // until then a blank goes on with the text that is searched for
     QPersistentModelIndex m_pressed;                // the row that the button is held down on
     std::optional<QPersistentModelIndex> m_clicked; // the row that the mouse has clicked last
