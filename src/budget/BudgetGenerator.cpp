@@ -9,6 +9,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const QString AheadPrefix = u"Looking Ahead - "_s;
+const QString BudgetPrefix = u"Budget - "_s;
+
 int LastDayOf(QDate date)
 {
     // The leap year is asked of a year that is always 0, which counts as one: February has 29 days in every year.
@@ -141,8 +144,7 @@ void CalculateBudget(Statement *statement)
     const QDate start = (State.LookingAhead ? State.NextPeriodDate : State.PayPeriodDate).Date();
     const QDate end = (State.LookingAhead ? State.NextNextPeriodDate : State.NextPeriodDate).Date();
     if (withFrame) {
-        statement->Heading =
-            (State.LookingAhead ? u"Looking Ahead - "_s : u"Budget - "_s) + Format(start, DateFormat::Long);
+        statement->Heading = (State.LookingAhead ? AheadPrefix : BudgetPrefix) + Format(start, DateFormat::Long);
         statement->Opening = PaycheckRow();
         statement->FirstRow = 2; // an empty row below the paycheck
     }
@@ -185,6 +187,22 @@ void GenerateBudget()
     PrintStatement(statement, AmountPage);
     if (!State.ForecastMode)
         ThePrinter.NewLine(); // the next run's page follows in the same document
+}
+
+bool CanBudget(int pairs)
+{
+    return IsDate(State.BudgetPeriodStart) &&
+           PayPeriodsFollow(State.BudgetPeriodStart.Date(), State.PayFrequency, pairs + 1);
+}
+
+QString NextRunHeading()
+{
+    if (!CanBudget())
+        return {};
+    const QDate start = State.BudgetPeriodStart.Date();
+    // Each run turns the look-ahead, so the next one is of the other kind than the last.
+    return State.LookingAhead ? BudgetPrefix + Format(start, DateFormat::Long)
+                              : AheadPrefix + Format(NextPayPeriod(start, State.PayFrequency), DateFormat::Long);
 }
 
 StatementRow PaycheckRow()

@@ -14,6 +14,14 @@ void CalculateBudget(Statement *statement);
 /// What every budget starts from.
 StatementRow PaycheckRow();
 
+/// Whether the calendar has the pay periods that so many pairs of runs need. A frequency that was never set or a pay
+/// period typed at the calendar's end is a slip that a window refuses; the runs themselves raise an error.
+bool CanBudget(int pairs = 1);
+
+/// "Looking Ahead - January 13, 2004" or "Budget - December 30, 2003": what the next run will be of; empty where there
+/// is none.
+QString NextRunHeading();
+
 /// One run with its outlets: the budget window unless State.ForecastMode, the printer if State.PrintBudget.
 void GenerateBudget();
 

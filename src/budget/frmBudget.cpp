@@ -2,7 +2,9 @@
 
 #include "foundation/State.h"
 #include "foundation/StatementGrid.h"
+#include "platform/controls/Theme.h"
 #include "platform/desk/Printer.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/values/Format.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,7 +17,7 @@ frmBudget::frmBudget()
     ui.grdBudget->SetRightAligned(1, true);
     ui.grdBudget->SetEndsWithText(true); // the rows stay, and each run brings more
     connect(&TheBudgetOutlet, &StatementOutlet::Ready, this, [this](const Statement &budget) { ShowBudget(budget); });
-    OnClick(ui.cmdBudget, [] { GenerateBudget(); });
+    OnClick(ui.cmdBudget, [this] { cmdBudget_Click(); });
     connect(ui.printSwitch, &PrintSwitch::Click, this, [](bool on) {
         State.PrintBudget = on;
         if (!on)
@@ -38,6 +40,7 @@ void frmBudget::Activate()
     RestartAlternation();
     ShowOpening(*ui.grdBudget, PaycheckRow());
     ClearBudgetGrid();
+    ShowNextRun();
 }
 
 void frmBudget::Deactivate()
@@ -55,9 +58,10 @@ void frmBudget::ClearBudgetGrid()
 {
     ui.grdBudget->ClearBelowHeading();
     ui.grdBudget->SetCurrentRow(0);
+    ui.lblResult->clear();
 }
 
-/// What the grid shows is told in the window's title and again above the grid.
+/// What the grid shows stands in the window's title and again above the grid.
 void frmBudget::SetHeading(const QString &heading)
 {
     setWindowTitle(heading);
@@ -70,6 +74,35 @@ void frmBudget::ShowBudget(const Statement &budget)
     SetHeading(budget.Heading);
     ShowRows(*ui.grdBudget, budget);
     ui.grdBudget->scrollToTop();
+    ShowResult(budget.Rows.back());
+}
+
+/// What a budget ends on stands beside the heading, too: on a small screen its row is out of sight.
+void frmBudget::ShowResult(const StatementRow &result)
+{
+    QPalette colours = palette();
+    if (result.Amounts.at(0).IsNegative())
+        colours.setColor(QPalette::WindowText, QBColor(int(GridColour::LightRed), colours.color(QPalette::Window),
+                                                       colours.color(QPalette::WindowText)));
+    ui.lblResult->setPalette(colours);
+    ui.lblResult->setText(result.Texts.value(0) + u' ' + FormatCurrency(result.Amounts.at(0)));
+}
+
+/// Opening another window may have moved on what the next run is of, so it is said before the click.
+void frmBudget::ShowNextRun()
+{
+    const QString next = NextRunHeading();
+    ui.lblNext->setText(next.isEmpty() ? QString() : u"Next: "_s + next);
+    ui.cmdBudget->setToolTip(ui.lblNext->text());
+}
+
+void frmBudget::cmdBudget_Click()
+{
+    if (CanBudget())
+        GenerateBudget();
+    else
+        ShowUnknownError(u"Budget"_s);
+    ShowNextRun();
 }
 
 void frmBudget::cmdCancel_Click()

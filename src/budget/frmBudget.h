@@ -17,6 +17,9 @@ public:
 private:
     void ClearBudgetGrid();
     void SetHeading(const QString &heading);
+    void ShowResult(const StatementRow &result);
+    void ShowNextRun();
     void ShowBudget(const Statement &budget);
+    void cmdBudget_Click();
     void cmdCancel_Click();
 };

@@ -59,6 +59,20 @@ DateText NextPayPeriod(const DateText &date, qint16 frequency)
     return HasNextPayPeriod(frequency) ? DateText(NextPayPeriod(date.Date(), frequency)) : DateText();
 }
 
+bool PayPeriodsFollow(QDate date, qint16 frequency, int count)
+{
+    if (!date.isValid() || !HasNextPayPeriod(frequency))
+        return false;
+    bool follow = true;
+    ResumeNext(
+        [&] {
+            for (int i = 0; i < count; ++i)
+                date = NextPayPeriod(date, frequency);
+        },
+        [&](const RuntimeError &) { follow = false; });
+    return follow;
+}
+
 QString OrdinalDueLabel(const QString &name, int day)
 {
     const QString text = QString::number(day);

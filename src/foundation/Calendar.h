@@ -10,5 +10,8 @@ DateText NextPayPeriod(const DateText &date, qint16 frequency);
 /// The same on a date without text, for whoever walks many pay periods; an invalid date stands for the empty text.
 QDate NextPayPeriod(QDate date, qint16 frequency);
 
+/// Whether `count` pay periods follow a date: the frequency is known, and the calendar does not end before.
+bool PayPeriodsFollow(QDate date, qint16 frequency, int count);
+
 /// "Rent - 1st", "Cable - 11th", "Phone - 22nd".
 QString OrdinalDueLabel(const QString &name, int day);

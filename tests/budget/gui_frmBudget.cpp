@@ -5,6 +5,7 @@
 #include "budget/BudgetGenerator.h"
 
 #include "platform/controls/RowLook.h"
+#include "platform/controls/Theme.h"
 
 #include <QScreen>
 #include <QScrollBar>
@@ -347,6 +348,119 @@ private Q_SLOTS:
         Show(Window);
         QVERIFY(!State.LookingAhead);
         QCOMPARE(State.BudgetCredit, Currency());
+    }
+
+    void ComingBackShowsThePaycheckAndThePayPeriodOfNow()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        Show(u"frmOther"_s);
+        State.PaycheckAmount = Currency::FromDouble(1234.5);
+        State.CurrentPayPeriod = u"March 4, 2004"_s;
+        Show(Window);
+        QCOMPARE(Rows(), QStringList{u"Paycheck Amount | $1,234.50"_s});
+        QCOMPARE(Caption(), u"Budget - March 4, 2004"_s);
+    }
+
+    void AForecastBesideItLeavesItAsItIs()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.ForecastPeriods = 3;
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        const QStringList rows = Rows();
+        QSignalSpy runs(&TheBudgetOutlet, &StatementOutlet::Ready);
+        Show(u"frmSavingsForecast"_s);
+        desk.TakeAll();
+        QCOMPARE(runs.count(), 0);
+        QCOMPARE(Caption(), u"Looking Ahead - January 15, 2004"_s);
+        QCOMPARE(Rows(), rows);
+    }
+
+    void EachRunTakesTheSelectionAway()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"cmdBudget"_s);
+        Grid &grid = Find<Grid>(Window, u"grdBudget"_s);
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(1, 0)).center());
+        QCOMPARE(grid.CurrentRow(), 2);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(grid.CurrentRow(), 0);
+        QVERIFY(!grid.selectionModel()->hasSelection());
+    }
+
+    void WhatTheNextClickShowsIsSaidBeforeIt()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
+        const auto next = [] { return TextOf(Window, u"lblNext"_s); };
+        Show(Window);
+        QCOMPARE(next(), u"Next: Looking Ahead - January 15, 2004"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(next(), u"Next: Budget - January 1, 2004"_s);
+        QCOMPARE(Find<QWidget>(Window, u"cmdBudget"_s).toolTip(), next());
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(next(), u"Next: Looking Ahead - January 29, 2004"_s);
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(Caption(), u"Looking Ahead - January 29, 2004"_s); // so it was
+        Show(u"frmOther"_s);
+        State.BudgetPeriodStart = u"1/13/2005"_s; // a forecast was opened meanwhile
+        Show(Window);
+        QCOMPARE(next(), u"Next: Looking Ahead - January 27, 2005"_s);
+    }
+
+    void TheResultStandsBesideTheHeadingToo()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        const auto &result = Find<QLabel>(Window, u"lblResult"_s);
+        const QColor plain = result.parentWidget()->palette().color(QPalette::WindowText);
+        QCOMPARE(result.text(), QString());
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(result.text(), u"DEFICIT ($100.00)"_s);
+        QCOMPARE(result.palette().color(QPalette::WindowText),
+                 QBColor(12, result.palette().color(QPalette::Window), plain));
+        Click(Window, u"cmdBudget"_s);
+        QCOMPARE(result.text(), u"SAVINGS $200.00"_s);
+        QCOMPARE(result.palette().color(QPalette::WindowText), plain);
+    }
+
+    void ASlipIsAnUnknownErrorAndChangesNothing_data()
+    {
+        QTest::addColumn<QString>("payPeriod");
+        QTest::addColumn<int>("frequency");
+        QTest::addColumn<int>("monthEnd");
+        QTest::newRow("a pay period at the calendar's end") << u"12/31/9999"_s << 14 << 0;
+        QTest::newRow("no frequency was chosen") << u"1/1/2004"_s << 0 << 0;
+        QTest::newRow("the month's end is neither yes nor no") << u"1/1/2004"_s << 30 << 5;
+    }
+    void ASlipIsAnUnknownErrorAndChangesNothing()
+    {
+        QFETCH(QString, payPeriod);
+        QFETCH(int, frequency);
+        QFETCH(int, monthEnd);
+        GuiDesk desk;
+        TakeHousehold();
+        State.CurrentPayPeriod = payPeriod;
+        State.PayFrequency = qint16(frequency);
+        State.MonthEndPay = qint16(monthEnd);
+        Show(Window);
+        const QStringList rows = Rows();
+        Click(Window, u"cmdBudget"_s);
+        const Message box = desk.TakeMessage();
+        QVERIFY(box.Text.startsWith(u"An unknown error occured."_s));
+        QCOMPARE(box.Title, u"Budget"_s);
+        QCOMPARE(Rows(), rows);
+        QVERIFY(!State.LookingAhead);
+        QCOMPARE(State.BudgetPeriodStart.Text(), payPeriod);
+        QCOMPARE(TextOf(Window, u"lblNext"_s), QString());
     }
 
     void AMessageBoxDoesNotResetTheAlternation()

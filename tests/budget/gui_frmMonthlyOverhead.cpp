@@ -157,6 +157,11 @@ private Q_SLOTS:
         QVERIFY(Rows().size() > SoundMonth.size());
         for (int row = 0; row < int(SoundMonth.size()); ++row)
             QCOMPARE(Find<Grid>(Window, u"grdOverhead"_s).Colour(row, 1), GridColour::Text);
+        Show(u"frmOther"_s);
+        State.PaycheckAmount = Currency::FromDouble(1500);
+        State.PayFrequency = Weekly;
+        Show(Window);
+        QVERIFY(Rows().first().endsWith(u"| $6,500.00"_s)); // 1,500 times 52, a twelfth of it
     }
 
     void PrintPrintsTheSameFigures()
