@@ -28,12 +28,14 @@ void CheckDates()
 void FillScanPayPeriods()
 {
     State.PayPeriodDate = State.CurrentPayPeriod;
-    Scan.ScanDates[0] = State.PayPeriodDate;
-    for (std::size_t i = 1; i < Scan.ScanDates.size(); ++i) {
+    auto dates = Scan.ScanDates;
+    dates[0] = State.PayPeriodDate;
+    for (std::size_t i = 1; i < dates.size(); ++i) {
         State.NextPeriodDate = NextPayPeriod(State.PayPeriodDate, State.PayFrequency);
-        Scan.ScanDates[i] = State.NextPeriodDate;
+        dates[i] = State.NextPeriodDate;
         State.PayPeriodDate = State.NextPeriodDate;
     }
+    Scan.ScanDates = dates;
 }
 
 void NewExtraPayPeriod()

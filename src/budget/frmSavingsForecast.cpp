@@ -5,7 +5,9 @@
 #include "foundation/State.h"
 #include "foundation/StatementGrid.h"
 #include "foundation/WindowFields.h"
+#include "platform/controls/PickSign.h"
 #include "platform/desk/Desk.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/values/Dates.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -26,6 +28,7 @@ frmSavingsForecast::frmSavingsForecast()
         grid.SetColumnWidth(column, column == Number ? 500 : 2045);
     grid.SetRightAligned(Savings, true);
     grid.SetRightAligned(Accumulated, true);
+    grid.SetFillsOnArrival(true);
     connect(&TheForecastOutlet, &StatementOutlet::Ready, this,
             [this](const Statement &forecast) { ShowForecast(forecast); });
     OnGotFocus(&grid, [this] { grdSavingsForecast_GotFocus(); });
@@ -42,8 +45,7 @@ void frmSavingsForecast::Activate()
 {
     RestartAlternation();
     Grid &grid = *ui.grdSavingsForecast;
-    grid.setToolTip(State.ProjectDateFromForecast ? u"Click a pay period to choose it as the completion date"_s
-                                                  : QString());
+    ShowWaitsForPick(*ui.lblPick, grid, State.ProjectDateFromForecast);
     grid.SetRowsInView(RowsInView);
     ShowOpening(grid, ForecastHeadings(), true);
 }
@@ -63,6 +65,11 @@ void frmSavingsForecast::Unload()
 
 void frmSavingsForecast::grdSavingsForecast_GotFocus()
 {
+    if (!CanBudget(State.ForecastPeriods)) {
+        State.PrintSavingsForecast = false;
+        ShowUnknownError(windowTitle());
+        return;
+    }
     TheDesk.Hourglass(true);
     ForecastSavings();
     TheDesk.Hourglass(false);

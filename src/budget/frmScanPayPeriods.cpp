@@ -4,7 +4,11 @@
 #include "foundation/State.h"
 #include "foundation/WindowNames.h"
 #include "platform/controls/ListBox.h"
+#include "platform/controls/PickSign.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"
+
+#include <QScrollBar>
 
 frmScanPayPeriods::frmScanPayPeriods()
 {
@@ -14,12 +18,25 @@ frmScanPayPeriods::frmScanPayPeriods()
 
 void frmScanPayPeriods::FillList()
 {
-    FillScanPayPeriods();
-    ui.lstScanPayPeriods->Clear();
-    for (const QString &row : ScanRows())
-        ui.lstScanPayPeriods->AddItem(row);
-    ui.lstScanPayPeriods->setToolTip(
-        State.ScanCalledFromExtras ? QStringLiteral("Click a date to add it to the extra pay periods") : QString());
+    ListBox &list = *ui.lstScanPayPeriods;
+    ShowWaitsForPick(*ui.lblPick, list, State.ScanCalledFromExtras);
+    // A pay period typed at the calendar's end is a slip, and the rows stay as they were.
+    bool filled = false;
+    TrapUnknownError(ScanTitle, [&] {
+        FillScanPayPeriods();
+        filled = true;
+    });
+    if (!filled)
+        return;
+    const QStringList rows = ScanRows();
+    const bool same = rows == list.Items();
+    const int place = list.verticalScrollBar()->value();
+    list.Clear();
+    for (const QString &row : rows)
+        list.AddItem(row);
+    list.doItemsLayout();
+    // A click that brings the user back meets the row that it was aimed at.
+    list.verticalScrollBar()->setValue(same ? place : 0);
 }
 
 void frmScanPayPeriods::PickDate()

@@ -414,9 +414,57 @@ private Q_SLOTS:
         OpenForPick();
         Show(u"frmProjects"_s);
         Show(Window);
-        ClickGridRow(3); // the first row of before
+        QTest::qWait(250); // nobody aims at a row sooner
+        ClickGridRow(3);   // the first row of before
         QCOMPARE(PickedDate(), QString());
         QCOMPARE(Forecast.ForecastPickAccumulated, Currency::FromDouble(600));
+    }
+
+    void ThePressThatBringsTheUserBackPicksNothing()
+    {
+        GuiDesk desk;
+        TakeHousehold(3);
+        OpenForPick();
+        Show(u"frmProjects"_s);
+        Show(Window); // the rows are others now
+        ClickGridRow(2);
+        QVERIFY(IsShown(Window));
+        QVERIFY(State.ProjectDateFromForecast);
+        QCOMPARE(PickedDate(), QString());
+        QTest::qWait(250);
+        ClickGridRow(2);
+        QCOMPARE(PickedDate(), u"February 26, 2004"_s); // of the continued forecast, as the user sees it
+        QVERIFY(!State.ProjectDateFromForecast);
+    }
+
+    void ThatItWaitsForAPickIsSeen()
+    {
+        GuiDesk desk;
+        TakeHousehold(3);
+        Show(Window);
+        QVERIFY(!Find<QLabel>(Window, u"lblPick"_s).isVisible());
+        QCOMPARE(TheGrid().viewport()->cursor().shape(), Qt::ArrowCursor);
+        TheWindows.Unload(Window);
+        OpenForPick();
+        QVERIFY(Find<QLabel>(Window, u"lblPick"_s).isVisible());
+        QCOMPARE(TextOf(Window, u"lblPick"_s), u"Click a pay period to choose it as the completion date"_s);
+        QCOMPARE(TheGrid().viewport()->cursor().shape(), Qt::PointingHandCursor);
+    }
+
+    void ASlipIsAnUnknownErrorAndEndsThePrinting()
+    {
+        GuiDesk desk;
+        TakeHousehold(26);
+        State.CurrentPayPeriod = u"12/1/9999"_s; // two pay periods are left
+        State.PrintSavingsForecast = true;
+        Show(Window);
+        const Message box = desk.TakeMessage();
+        QVERIFY(box.Text.startsWith(u"An unknown error occured."_s));
+        QCOMPARE(box.Title, u"Savings Forecast"_s);
+        QCOMPARE(Rows(), QStringList());
+        QVERIFY(!State.PrintSavingsForecast);
+        QVERIFY(!State.ForecastMode);
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"12/1/9999"_s);
     }
 
     void AProjectsWindowThatIsClosedIsLoadedUnseen()

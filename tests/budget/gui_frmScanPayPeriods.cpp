@@ -5,6 +5,8 @@
 #include "budget/ScanPayPeriods.h"
 
 #include <QHelpEvent>
+#include <QLabel>
+#include <QScrollBar>
 #include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
@@ -69,6 +71,55 @@ private Q_SLOTS:
         Show(Window);
         QCOMPARE(RowsOf(Window, List).mid(0, 2), (QStringList{u"January 1, 2004"_s, u"January 8, 2004"_s}));
         QCOMPARE(RowsOf(Window, List).size(), 101);
+    }
+
+    void ComingBackToTheSameDatesKeepsThePlace()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        QScrollBar &bar = *Find<ListBox>(Window, List).verticalScrollBar();
+        bar.setValue(bar.maximum() / 2);
+        const int place = bar.value();
+        QVERIFY(place > 0);
+        Show(u"frmOther"_s);
+        Show(Window);
+        QCOMPARE(bar.value(), place);
+        Show(u"frmOther"_s);
+        State.PayFrequency = Weekly; // other dates begin at the top
+        Show(Window);
+        QCOMPARE(bar.value(), 0);
+    }
+
+    void ThatItWaitsForAPickIsSeen()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        QVERIFY(!Find<QLabel>(Window, u"lblPick"_s).isVisible());
+        OpenForExtras();
+        QVERIFY(Find<QLabel>(Window, u"lblPick"_s).isVisible());
+        QCOMPARE(TextOf(Window, u"lblPick"_s), u"Click a date to add it to the extra pay periods"_s);
+        QCOMPARE(Find<ListBox>(Window, List).viewport()->cursor().shape(), Qt::PointingHandCursor);
+    }
+
+    void APayPeriodAtTheCalendarsEndIsAnUnknownErrorAndKeepsTheRows()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        TheWindows.Register(u"frmOther"_s, [] { return new Other; });
+        Show(Window);
+        const QStringList rows = RowsOf(Window, List);
+        Show(u"frmOther"_s);
+        State.CurrentPayPeriod = u"12/31/9999"_s;
+        Show(Window);
+        const Message box = desk.TakeMessage();
+        QCOMPARE(box.Text, UnknownErrorText);
+        QCOMPARE(box.Title, u"Valid Pay Periods"_s);
+        QCOMPARE(RowsOf(Window, List), rows);
+        ClickRow(Window, List, 1);
+        QCOMPARE(Scan.ScanPickedDate, u"01-15-2004"_s); // the dates are those of the rows
     }
 
     void ForLookingOnlyAClickIsRememberedAndNothingElse()
