@@ -2,6 +2,7 @@
 
 #include "commitments/Projects.h"
 #include "foundation/StatementGrid.h"
+#include "platform/windows/Caption.h"
 
 namespace {
 constexpr int StartRows = 2; // the heading and one row; every installment brings its own
@@ -27,7 +28,7 @@ frmViewProject::frmViewProject()
 void frmViewProject::Activate()
 {
     if (ProjectIsThere())
-        setWindowTitle(State.ProjectNames(Projects.SelectedProject));
+        setWindowTitle(Caption(State.ProjectNames(Projects.SelectedProject)));
 }
 
 void frmViewProject::FillGrid()

@@ -81,6 +81,35 @@ private Q_SLOTS:
         QCOMPARE(desk.Printed.size(), 0);
     }
 
+    void ANameWithTheToolkitsMarkIsShownAsItIs()
+    {
+        CommitmentsDesk desk;
+        TakeProject(u"Boat [*] A & B"_s, {40});
+        Show(Window);
+        // What the window system is given, not what the window was told to show.
+        QCOMPARE(TheWindows.Loaded(Window)->windowHandle()->title(), u"Boat [*] A & B"_s);
+    }
+
+    void RedGoesByTheExactAmount()
+    {
+        CommitmentsDesk desk;
+        TakeProject(u"Boat"_s, {40});
+        State.ProjectEntryAmounts(1).At(1) = Currency::FromTenThousandths(-40); // shown as ($0.00) or $0.00
+        Show(Window);
+        QCOMPARE(ColoursOf(1), BothRed);
+    }
+
+    void AnOpenDocumentStaysOpenWithoutPrinting()
+    {
+        CommitmentsDesk desk;
+        TakeProject(u"Boat"_s, {40});
+        ThePrinter.Print(u"a page of another report"_s).NewLine();
+        Show(Window);
+        QVERIFY(desk.Printed.isEmpty());
+        QCOMPARE(ThePrinter.PendingLines(), QStringList{u"a page of another report"_s});
+        ThePrinter.Reset();
+    }
+
     void UnshownItIsCalledProject()
     {
         CommitmentsDesk desk;
