@@ -2,6 +2,7 @@
 
 #include "foundation/BudgetFiles.h"
 #include "foundation/StartAndEnd.h"
+#include "foundation/State.h"
 #include "platform/desk/Desk.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -10,8 +11,8 @@
 void SaveWithoutQuestion()
 {
     const Form *main = TheWindows.Loaded(QStringLiteral("frmMain"));
-    if (!main || !main->isVisible())
-        return;
+    if (!main || !main->isVisible() || State.InitializingVariables)
+        return; // a start that was given up leaves settings that are half read
     const QScopedValueRollback quiet(TheDesk.ShowMessage, {[](const Message &message) {
                                          qWarning("%s: %s", qPrintable(message.Title), qPrintable(message.Text));
                                          return Answer::No;

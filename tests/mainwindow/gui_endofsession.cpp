@@ -136,6 +136,8 @@ private Q_SLOTS:
         QTest::newRow("the splash") << u"frmSplash"_s << Edited;
         QTest::newRow("half of the settings is read")
             << u"frmSplash.cmdContinue,messageBox"_s << QByteArray("26\r\n1000.00\r\n");
+        QTest::newRow("the rest of them was given up")
+            << u"frmSplash.cmdContinue,messageBox.OK,frmSetCurrentPayPeriod"_s << QByteArray("26\r\n1000.00\r\n");
     }
     void BeforeTheMainWindowStandsNothingIsSaved()
     {

@@ -1,5 +1,5 @@
 // Does the steps that TALLYMERE_STEPS names, parted by commas, each as soon as it can be done:
-//   frmX.cmdY    clicks a button, or chooses a menu entry, of a window that is shown
+//   frmX.cmdY    clicks a button, by its name or its caption, or chooses a menu entry, of a window that is shown
 //   messageBox   waits until a box or dialog of this name is shown
 //   commit, quit what the desktop sends before and at the end of its session
 // Then it writes "ready" to the standard output.
@@ -39,6 +39,9 @@ bool Do(const QString &step)
         return window;
     if (auto *button = window->findChild<QAbstractButton *>(control))
         return QMetaObject::invokeMethod(button, "click", Qt::QueuedConnection);
+    for (QAbstractButton *button : window->findChildren<QAbstractButton *>())
+        if (button->text() == control)
+            return QMetaObject::invokeMethod(button, "click", Qt::QueuedConnection);
     auto *entry = window->findChild<QAction *>(control);
     return entry && QMetaObject::invokeMethod(entry, "trigger", Qt::QueuedConnection);
 }
