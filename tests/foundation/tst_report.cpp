@@ -54,6 +54,24 @@ private Q_SLOTS:
         ThePrinter.Reset(); // the document stays open for more
     }
 
+    void ALongLabelMovesTheAmountToTheNextLine_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QStringList>("lines");
+        // $1,234.50 has nine signs: it begins in column 56 and ends in column 64. The label begins in column 15.
+        const auto label = [](int length) { return QString(14, u' ') + QString(length, u'r'); };
+        QTest::newRow("it ends right beside the amount") << 41 << QStringList{label(41) + u"$1,234.50"_s};
+        QTest::newRow("one sign more") << 42 << QStringList{label(42), QString(55, u' ') + u"$1,234.50"_s};
+    }
+    void ALongLabelMovesTheAmountToTheNextLine()
+    {
+        QFETCH(int, length);
+        FakeDesk desk;
+        PrintStatement({.Rows = {{{QString(length, u'r')}, {Currency::FromTenThousandths(12345000)}}}}, AmountPage);
+        QTEST(ThePrinter.PendingLines().mid(2), "lines");
+        ThePrinter.Reset();
+    }
+
     void ATableHasAColumnForEachAmount()
     {
         FakeDesk desk;

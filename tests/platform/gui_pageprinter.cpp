@@ -193,8 +193,8 @@ private Q_SLOTS:
         printer.Font = Courier(8);
         printer.CentredLine("OVERHEAD");
         printer.NewLine();
-        printer.AmountLine("Rent due the 1st", "$1,250.00");
-        printer.AmountLine("Gas", "$7.50");
+        printer.Tab(15).Print("Rent due the 1st").Tab(56).Print("$1,250.00").NewLine();
+        printer.Tab(15).Print("Gas").Tab(60).Print("$7.50").NewLine();
         printer.RuleLine();
         printer.EndDoc();
         const QString path = m_folder.filePath("columns.pdf");

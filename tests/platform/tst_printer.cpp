@@ -59,33 +59,6 @@ private Q_SLOTS:
         QCOMPARE(ThePrinter.PendingLines(), QStringList{QStringLiteral("Quantity 2")});
     }
 
-    void AnAmountEndsJustBeforeItsColumn_data()
-    {
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QStringList>("lines");
-        // $1,234.50 has nine signs: it begins in column 56 and ends in column 64.
-        QTest::newRow("label at column 15, amount up to column 64")
-            << QStringLiteral("Rent") << QStringLiteral("$1,234.50")
-            << QStringList{QString(14, QLatin1Char(' ')) + QLatin1String("Rent") + QString(37, QLatin1Char(' ')) +
-                           QLatin1String("$1,234.50")};
-        // A label of 41 signs ends in column 55, right beside the amount.
-        QTest::newRow("a label that just leaves room")
-            << QString(41, QLatin1Char('r')) << QStringLiteral("$1,234.50")
-            << QStringList{QString(14, QLatin1Char(' ')) + QString(41, QLatin1Char('r')) + QLatin1String("$1,234.50")};
-        QTest::newRow("a longer label moves the amount to the next line")
-            << QString(42, QLatin1Char('r')) << QStringLiteral("$1,234.50")
-            << QStringList{QString(14, QLatin1Char(' ')) + QString(42, QLatin1Char('r')),
-                           QString(55, QLatin1Char(' ')) + QLatin1String("$1,234.50")};
-    }
-    void AnAmountEndsJustBeforeItsColumn()
-    {
-        QFETCH(QString, label);
-        QFETCH(QString, amount);
-        ThePrinter.AmountLine(label, amount);
-        QTEST(ThePrinter.PendingLines(), "lines");
-    }
-
     void ACentredLineStartsAtHalfTheRest_data()
     {
         QTest::addColumn<int>("length");

@@ -39,11 +39,6 @@ void Printer::CentredLine(const QString &text)
     Tab(RoundToEven((80 - double(text.size())) / 2)).Print(text).NewLine();
 }
 
-void Printer::AmountLine(const QString &label, const QString &amount, int left, int right)
-{
-    Tab(left).Print(label).Tab(right - int(amount.size())).Print(amount).NewLine();
-}
-
 void Printer::RuleLine(int column, int length)
 {
     Tab(column).Print(QString(length, QLatin1Char('_'))).NewLine();

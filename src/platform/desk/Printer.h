@@ -19,8 +19,6 @@ public:
 
     /// One line of text in the middle of a page of 80 columns, at Tab((80 - length) / 2), halves to even.
     void CentredLine(const QString &text);
-    /// Label at column `left`, amount ending just before column `right`: Tab(right - length).
-    void AmountLine(const QString &label, const QString &amount, int left = 15, int right = 65);
     /// `length` times "_" at `column`.
     void RuleLine(int column = 15, int length = 50);
 
