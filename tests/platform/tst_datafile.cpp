@@ -605,6 +605,29 @@ private Q_SLOTS:
         QCOMPARE(::access(pipe.constData(), F_OK), 0);
     }
 
+    // ---- Permissions
+
+    void TheNewFileTakesTheOldOnesPermissions()
+    {
+        const QString path = Path(QStringLiteral("creditor.txt"));
+        Put(QStringLiteral("creditor.txt"), "5\r\n");
+        const QFile::Permissions hidden = QFile::ReadOwner | QFile::WriteOwner;
+        const QFile::Permissions alike =
+            QFile::ReadUser | QFile::WriteUser; // the toolkit tells the owner's as the user's
+        QVERIFY(QFile::setPermissions(path, hidden));
+        OutputFile file;
+        file.Collect();
+        file.Write(qint16(6));
+        file.Replace(path, OldFile::MustExist);
+        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("6\r\n"));
+        QCOMPARE(QFile::permissions(path) & ~alike, hidden);
+        // A file of another name is a new one.
+        file.Collect();
+        file.Write(qint16(7));
+        file.Replace(Path(QStringLiteral("regulars.txt")), OldFile::MayBeMissing);
+        QVERIFY(QFile::permissions(Path(QStringLiteral("regulars.txt"))) & QFile::ReadGroup);
+    }
+
     // ---- Symbolic links
 
     void ALinkIsFollowedAndStays_data()

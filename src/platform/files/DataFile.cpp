@@ -312,6 +312,7 @@ void OutputFile::Replace(const QString &path, OldFile oldFile)
     if (oldFile == OldFile::MustExist || FileExists(path)) {
         const QFileInfo old = Deletable(path);
         RequireRoom(old, m_collected.size());
+        m_permissions = old.permissions();
         Remove(old);
     }
     Open(path);
@@ -328,6 +329,9 @@ void OutputFile::Open(const QString &givenPath)
     errno = 0;
     if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         m_collecting = false;
+        // What a user hides from others stays hidden. A disk without permissions refuses, which does no harm.
+        if (const auto permissions = std::exchange(m_permissions, {}))
+            m_file.setPermissions(*permissions);
         WriteBytes(std::exchange(m_collected, {}));
         return;
     }

@@ -12,6 +12,7 @@
 #include <QByteArray>
 #include <QFile>
 #include <QString>
+#include <optional>
 
 /// The path of an existing file, which is found whatever the letter case of its name and folders; where there is none,
 /// the given name in the folder as it is spelt on the disk. "\" counts as a separator.
@@ -94,4 +95,5 @@ private:
     QFile m_file;
     QByteArray m_collected;
     bool m_collecting = false;
+    std::optional<QFile::Permissions> m_permissions; ///< of the old file, which the new one takes
 };
