@@ -99,9 +99,10 @@ lay_help() {
 
 # The fresh copy of each file of the household that FOLDER lacks: of all of them the first time.
 lay_household() {
-    local folder=$1 fresh=yes stores store file laid=()
+    local folder=$1 fresh=yes stores store file values laid=()
     if has_household "$folder"; then fresh=no; fi
-    mkdir -p "$folder"
+    # Nobody else has to know a family's money.
+    [[ -d $folder ]] || { mkdir -p "$(dirname "$folder")" && mkdir -m 700 "$folder"; }
     for file in "${data_files[@]}"; do
         if ! is_there "$folder" "$file"; then
             lay_file "household/$file" "$folder/$file"
@@ -109,8 +110,12 @@ lay_household() {
         fi
     done
 
-    # The empty store list belongs to the household as long as the settings name it.
+    # Settings that a full disk or an editor cut short make the program give up its start, and do not say which file it is.
     is_there "$folder" environm.ini
+    values=$(tr ',' '\n' <"$there" | tr -d '\r' | grep -c .) || true
+    ((values >= 9)) || say "$there holds $values of 9 settings; delete it to begin with fresh ones"
+
+    # The empty store list belongs to the household as long as the settings name it.
     store=$(sed -n '8s/["\r]//gp' "$there")
     is_there "$folder" stores || true
     stores=$there
