@@ -126,6 +126,14 @@ class Person:
             return seen and seen["active"] and re.fullmatch(title, seen["title"])
         self.until(stands, f'{window} "{title}" is not the active window')
 
+    def see_over(self, window, caller):
+        """Waits until the window stands in the middle over its caller, give or take a title bar."""
+        def offset():
+            x, y, width, height = self.look()["windows"][window]["rect"]
+            left, top, wide, high = self.look()["windows"][caller]["rect"]
+            return max(abs(x + width / 2 - left - wide / 2), abs(y + height / 2 - top - high / 2))
+        self.until(lambda: offset() <= 24, lambda: f"{window} is {offset()} pixels off the middle of {caller}")
+
     def see_no(self, window):
         self.until(lambda: window not in self.look()["windows"], f"{window} stays")
 

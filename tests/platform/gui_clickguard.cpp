@@ -35,6 +35,7 @@ struct Stage {
         for (const QString &name : {u"lower"_s, u"upper"_s})
             TheWindows.Register(name, [] { return new Plain; });
         TheWindows.Show(u"lower"_s);
+        Settle(); // it stands, and takes the upper one along no more
         TheWindows.Show(u"upper"_s);
         Lower().Field->setFocus();
         QObject::connect(Upper().Button, &QPushButton::clicked, [] { TheWindows.Hide(u"upper"_s); });

@@ -123,6 +123,41 @@ private Q_SLOTS:
         QVERIFY((place.center() - PlaceOf(u"frmHub"_s).center()).manhattanLength() <= 2);
     }
 
+    void AWindowGoesAlongWithACallerThatIsStillPutToItsPlace_data()
+    {
+        QTest::addColumn<bool>("isNew");   // the caller is not on the screen yet
+        QTest::addColumn<bool>("isMoved"); // the user has moved the window meanwhile
+        QTest::addColumn<bool>("isLater"); // the caller is moved when it has stood for long
+        QTest::addColumn<bool>("goesAlong");
+        QTest::newRow("the caller is new") << true << false << false << true;
+        QTest::newRow("the user has moved the window") << true << true << false << false;
+        QTest::newRow("the user moves the caller later") << true << false << true << false;
+        QTest::newRow("the caller stands") << false << false << false << false;
+    }
+    void AWindowGoesAlongWithACallerThatIsStillPutToItsPlace()
+    {
+        QFETCH(bool, isNew);
+        QFETCH(bool, isMoved);
+        QFETCH(bool, isLater);
+        QFETCH(bool, goesAlong);
+        const QString caller = u"frmTwo"_s;
+        TheWindows.Show(caller);
+        if (!isNew)
+            Settle();
+        TheWindows.Show(u"frmOne"_s);
+        const QPoint before = PlaceOf(u"frmOne"_s).topLeft();
+        QCOMPARE(before, RightOf(caller));
+        Settle();
+        if (isMoved)
+            TheWindows.Loaded(u"frmOne"_s)->move(20, 500);
+        if (isLater)
+            QTest::qWait(900);
+        TheWindows.Loaded(caller)->move(340, 420);
+        Settle();
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), isMoved ? QPoint(20, 500) : goesAlong ? RightOf(caller) : before);
+        QVERIFY(RightOf(caller) != before);
+    }
+
     void WhatIsOnlyLookedAtKeepsItsOwnPlace()
     {
         TheWindows.Touch(u"frmOnlooker"_s).move(7, 9);

@@ -4,8 +4,11 @@
 #include "platform/windows/Placement.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -20,21 +23,77 @@ QSize SizeWhenShown(Form &form)
     return form.size();
 }
 
+QPoint PlaceOf(const Form &form, const QSize &size, const Form &caller)
+{
+    // The frame is the window manager's and comes with the showing; the caller's tells how thick it will be.
+    const QSize frame = caller.frameGeometry().size() - caller.geometry().size();
+    Surroundings around{.Caller = caller.frameGeometry(), .OverCaller = form.isModal()};
+    for (const QScreen *screen : QGuiApplication::screens())
+        around.Screens += screen->availableGeometry();
+    if (const auto *field = qobject_cast<QLineEdit *>(caller.FocusControl()))
+        around.Field = {field->mapToGlobal(QPoint()), field->size()};
+    for (const QWidget *widget : QApplication::topLevelWidgets())
+        if (qobject_cast<const Form *>(widget) && widget->isVisible() && widget != &caller && widget != &form)
+            around.Others += widget->frameGeometry();
+    return Placed(size + frame, around);
+}
+
+/// A window whose caller is shown just now, so that the window manager has still to put that one to its place: this one
+/// goes along until the caller stands. Where the user has moved it meanwhile, it stays.
+class PlaceFollower : public QObject
+{
+public:
+    PlaceFollower(Form &form, const Form &caller) : QObject(&form), m_form(form), m_caller(&caller), m_place(form.pos())
+    {
+        form.installEventFilter(this);
+        const_cast<Form &>(caller).installEventFilter(this);
+        m_rest.setInterval(SettlingTime);
+        connect(&m_rest, &QTimer::timeout, this, [this] {
+            if (m_caller && m_caller->isVisible() && !m_caller->windowHandle()->isExposed())
+                return; // it is still on its way to the screen
+            Follow();
+            deleteLater();
+        });
+        m_rest.start();
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (watched == &m_form && type == QEvent::Hide)
+            deleteLater();
+        else if (watched == m_caller && (type == QEvent::Move || type == QEvent::Resize))
+            Follow();
+        return false;
+    }
+
+private:
+    static constexpr int SettlingTime = 400; // milliseconds, once the caller is on the screen
+    static constexpr int ThickestFrame = 80; // pixels; as far a window is off while its own frame is put around it
+
+    void Follow()
+    {
+        if (!m_caller || !m_caller->isVisible() || !m_form.isVisible() ||
+            (m_form.pos() - m_place).manhattanLength() > ThickestFrame)
+            return;
+        m_place = PlaceOf(m_form, m_form.size(), *m_caller);
+        m_form.move(m_place);
+    }
+
+    Form &m_form;
+    QPointer<const Form> m_caller;
+    QPoint m_place;
+    QTimer m_rest;
+};
+
 } // namespace
 
 void PlaceBeside(Form &form, const Form *caller)
 {
     if (!caller || caller == &form || !caller->isVisible() || caller->isMinimized() || !form.StandsBesideItsCaller())
         return;
-    // The frame is the window manager's and comes with the showing; the caller's tells how thick it will be.
-    const QSize frame = caller->frameGeometry().size() - caller->geometry().size();
-    Surroundings around{.Caller = caller->frameGeometry(), .OverCaller = form.isModal()};
-    for (const QScreen *screen : QGuiApplication::screens())
-        around.Screens += screen->availableGeometry();
-    if (const auto *field = qobject_cast<QLineEdit *>(caller->FocusControl()))
-        around.Field = {field->mapToGlobal(QPoint()), field->size()};
-    for (const QWidget *widget : QApplication::topLevelWidgets())
-        if (qobject_cast<const Form *>(widget) && widget->isVisible() && widget != caller && widget != &form)
-            around.Others += widget->frameGeometry();
-    form.move(Placed(SizeWhenShown(form) + frame, around));
+    form.move(PlaceOf(form, SizeWhenShown(form), *caller));
+    if (!caller->windowHandle()->isExposed())
+        new PlaceFollower(form, *caller);
 }
