@@ -1,5 +1,6 @@
 #include "platform/windows/Window.h"
 
+#include "platform/controls/Fields.h"
 #include "platform/desk/UnknownError.h"
 #include "platform/values/Numbers.h"
 #include "platform/windows/WindowRegister.h"
@@ -57,6 +58,8 @@ void WindowBase::Refuse(const QString &text, QWidget *field, int helpContext)
         TheWindows.Show(objectName());
     ShowText(text, helpContext); // over the window that it is about
     FocusOn(field);
+    if (auto *refused = qobject_cast<QLineEdit *>(field)) // also where it has the focus already
+        SelectWhole(refused);
 }
 
 void WindowBase::Close()
