@@ -15,14 +15,6 @@ namespace {
 constexpr double LastFirstPayDate = 27;
 constexpr double LastSecondPayDate = 28;
 
-/// Stores the fraction of a percentage, unless the text is what the window shows of the present one: then its further
-/// decimals, which the text leaves out, are kept.
-void TakePercentage(float &fraction, const QString &perCent)
-{
-    if (perCent != PerCent(fraction))
-        fraction = FractionOf(perCent);
-}
-
 /// A number that no double can hold lies beyond every range.
 double ValueOrInfinity(const QString &text)
 {
@@ -61,10 +53,31 @@ QString SteppedForecastPeriods(const QString &text, int step, int maximum)
 
 void TakeEnvironmentEntry(const EnvironmentEntry &entry)
 {
-    State.ForecastPeriods = ToInteger(entry.ForecastPeriods);
-    State.PaycheckAmount = ToCurrency(entry.PaycheckAmount);
-    TakePercentage(State.SalesTax, entry.SalesTax);
-    TakePercentage(State.AverageNetPercentage, entry.AverageNetPercentage);
+    if (!entry.ForecastPeriods.isNull())
+        State.ForecastPeriods = ToInteger(entry.ForecastPeriods);
+    if (!entry.PaycheckAmount.isNull())
+        State.PaycheckAmount = ToCurrency(entry.PaycheckAmount);
+    if (!entry.SalesTax.isNull())
+        State.SalesTax = FractionOf(entry.SalesTax);
+    if (!entry.AverageNetPercentage.isNull())
+        State.AverageNetPercentage = FractionOf(entry.AverageNetPercentage);
+}
+
+QString SemimonthlyPayDays()
+{
+    const QString second = State.SecondPayDate == 0 ? u"the end of the month"_s : PlainText(State.SecondPayDate);
+    return u"Pay days %1 and %2. To change them choose another frequency, then this one again."_s.arg(
+        PlainText(State.FirstPayDate), second);
+}
+
+QString MonthlyPayDay()
+{
+    QString day = u"Not known whether paid at the end of the month"_s; // an edited file may hold another value
+    if (State.MonthEndPay == -1)
+        day = u"Paid at the end of the month"_s;
+    else if (State.MonthEndPay == 0)
+        day = u"Not paid at the end of the month"_s;
+    return day + u". To change this choose another frequency, then this one again."_s;
 }
 
 std::optional<Refusal> ValidateSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate)

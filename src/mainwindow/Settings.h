@@ -4,12 +4,13 @@
 #include "foundation/Refusal.h"
 #include "foundation/State.h"
 
-/// The texts of frmEnvironmentSettings that apply when the window is left. Percentages are in per cent.
+/// The texts of frmEnvironmentSettings that apply when the window is left. Percentages are in per cent. A null text is
+/// that of a field that nobody has edited: it stores nothing, since a text shows less than the setting may hold.
 struct EnvironmentEntry {
-    QString ForecastPeriods;
-    QString PaycheckAmount;
-    QString SalesTax;
-    QString AverageNetPercentage;
+    QString ForecastPeriods = {};
+    QString PaycheckAmount = {};
+    QString SalesTax = {};
+    QString AverageNetPercentage = {};
     bool operator==(const EnvironmentEntry &) const = default;
 };
 
@@ -24,9 +25,12 @@ QString BoundedForecastPeriods(const QString &text);
 QString SteppedForecastPeriods(const QString &text, int step, int maximum);
 
 /// Stores the entry, setting by setting in the order of the record; an error leaves those before it stored.
-/// Percentages become fractions in single precision; one that still shows the present fraction leaves it as it is, so
-/// that opening and leaving the window never changes it. Error 6 for a number beyond its type, 13 for no number.
+/// Percentages become fractions in single precision. Error 6 for a number beyond its type, 13 for no number.
 void TakeEnvironmentEntry(const EnvironmentEntry &entry);
+
+/// What is known of the pay days of the frequencies that ask for them, and how to change it, in full sentences.
+QString SemimonthlyPayDays();
+QString MonthlyPayDay();
 
 /// What two semimonthly pay dates are refused for, if anything. A second date of 0 is the month's end.
 std::optional<Refusal> ValidateSemimonthlyEntry(const QString &firstPayDate, const QString &secondPayDate);

@@ -27,7 +27,11 @@ frmEnvironmentSettings::frmEnvironmentSettings()
                        {ui.optPayFrequency1, Biweekly},
                        {ui.optPayFrequency2, Semimonthly},
                        {ui.optPayFrequency3, Monthly}},
-                      [this](qint16 frequency) { optPayFrequency_Click(frequency); })
+                      [this](qint16 frequency) { optPayFrequency_Click(frequency); }),
+      m_fields{{{ui.txtForecastPeriods, &EnvironmentEntry::ForecastPeriods},
+                {ui.txtPaycheckAmount, &EnvironmentEntry::PaycheckAmount},
+                {ui.txtSalesTax, &EnvironmentEntry::SalesTax},
+                {ui.txtAverageNetPercentage, &EnvironmentEntry::AverageNetPercentage}}}
 {
     ShowOnly(ui.txtStoreFile);
     ui.updForecastPeriods->SetBuddy(ui.txtForecastPeriods);
@@ -42,13 +46,41 @@ void frmEnvironmentSettings::Load()
 {
     ui.updForecastPeriods->SetMaximum(MostForecastPeriods);
     const QScopedValueRollback filling(loading, true);
-    const EnvironmentEntry shown = ShownEnvironment();
-    ui.txtForecastPeriods->setText(shown.ForecastPeriods);
-    ui.txtPaycheckAmount->setText(shown.PaycheckAmount);
+    ShowSettings();
     optPayFrequency.Select(State.PayFrequency);
-    ui.txtSalesTax->setText(shown.SalesTax);
+    DescribePayDays();
     ui.txtStoreFile->setText(State.CurrentStoreFile);
-    ui.txtAverageNetPercentage->setText(shown.AverageNetPercentage);
+}
+
+void frmEnvironmentSettings::Activate()
+{
+    ShowSettings();
+    DescribePayDays();
+    Window::Activate();
+}
+
+/// Fields that the user has not edited follow their settings, which other windows may have changed.
+void frmEnvironmentSettings::ShowSettings()
+{
+    const EnvironmentEntry settings = ShownEnvironment();
+    for (ShownField &field : m_fields) {
+        if (!loading && field.IsEdited())
+            continue;
+        field.Shown = settings.*field.Text;
+        field.Field->setText(field.Shown);
+    }
+}
+
+/// The days that two of the frequencies pay on are asked for and shown nowhere else.
+void frmEnvironmentSettings::DescribePayDays()
+{
+    const auto describe = [](QWidget *control, const QString &text) {
+        control->setToolTip(text);
+        control->setAccessibleDescription(text);
+    };
+    describe(ui.optPayFrequency2, SemimonthlyPayDays());
+    describe(ui.optPayFrequency3, MonthlyPayDay());
+    describe(ui.fraPayFrequency, optPayFrequency.Selected() ? QString() : u"No pay frequency is chosen yet"_s);
 }
 
 void frmEnvironmentSettings::updForecastPeriods_Change(int step)
@@ -56,6 +88,7 @@ void frmEnvironmentSettings::updForecastPeriods_Change(int step)
     FocusOn(ui.txtForecastPeriods);
     ui.txtForecastPeriods->setText(
         SteppedForecastPeriods(ui.txtForecastPeriods->text(), step, ui.updForecastPeriods->Maximum()));
+    ui.txtForecastPeriods->setModified(true); // a step is the user's
     ui.txtForecastPeriods->selectAll();
 }
 
@@ -70,22 +103,21 @@ void frmEnvironmentSettings::optPayFrequency_Click(qint16 frequency)
         TheWindows.Touch(WindowName::frmCalculateWages).setWindowTitle(chosen.WagesCaption);
     if (!chosen.DatesWindow.isEmpty() && !State.InitializingVariables)
         TheWindows.ShowModal(chosen.DatesWindow);
-}
-
-EnvironmentEntry frmEnvironmentSettings::Entry() const
-{
-    return {.ForecastPeriods = ui.txtForecastPeriods->text(),
-            .PaycheckAmount = ui.txtPaycheckAmount->text(),
-            .SalesTax = ui.txtSalesTax->text(),
-            .AverageNetPercentage = ui.txtAverageNetPercentage->text()};
+    DescribePayDays();
 }
 
 bool frmEnvironmentSettings::TakeSettings()
 {
     if (!Accepts(Rules))
         return false;
+    const bool edited = ui.txtForecastPeriods->isModified();
     ui.txtForecastPeriods->setText(BoundedForecastPeriods(ui.txtForecastPeriods->text()));
-    TakeEnvironmentEntry(Entry());
+    ui.txtForecastPeriods->setModified(edited);
+    EnvironmentEntry entry;
+    for (const ShownField &field : m_fields)
+        if (field.IsEdited())
+            entry.*field.Text = field.Field->text();
+    TakeEnvironmentEntry(entry);
     return true;
 }
 

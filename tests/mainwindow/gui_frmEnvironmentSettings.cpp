@@ -44,6 +44,23 @@ void TakeHousehold()
     State.AverageNetPercentage = 0.9F;
 }
 
+/// Amounts with more digits than the window shows.
+void TakeFineHousehold()
+{
+    TakeHousehold();
+    State.PaycheckAmount = Currency::FromTenThousandths(10615385);
+    State.SalesTax = 0.06625F;
+    State.AverageNetPercentage = 1.0F / 3;
+}
+
+void VerifyFine()
+{
+    QCOMPARE(State.ForecastPeriods, qint16(26));
+    QCOMPARE(State.PaycheckAmount, Currency::FromTenThousandths(10615385));
+    QVERIFY(State.SalesTax == 0.06625F); // exactly
+    QVERIFY(State.AverageNetPercentage == 1.0F / 3);
+}
+
 void VerifyUnchanged()
 {
     QCOMPARE(State.ForecastPeriods, qint16(26));
@@ -557,6 +574,200 @@ private Q_SLOTS:
         }
         QVERIFY(State.SalesTax == 0.06625F); // exactly
         QVERIFY(State.AverageNetPercentage == 0.85375F);
+    }
+
+    void AFieldThatNobodyEditedLeavesItsSetting_data() { LeavingStoresTheFields_data(); }
+    void AFieldThatNobodyEditedLeavesItsSetting()
+    {
+        QFETCH(int, way);
+        GuiDesk desk;
+        TakeFineHousehold();
+        Show(Window);
+        QCOMPARE(TextOf(Window, Paycheck), u"$1,061.54"_s);
+        QCOMPARE(TextOf(Window, Tax), u"6.63"_s);
+        QCOMPARE(TextOf(Window, Net), u"33.33"_s);
+        Leave(way);
+        QVERIFY(!TheWindows.Loaded(Window));
+        VerifyFine();
+    }
+
+    void ATextThatIsTypedOverTheSameIsStored_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("way");
+        for (const int way : {ExitButton, CloseBox}) {
+            QTest::addRow("paycheck by way %d", way) << Paycheck << u"$1,061.54"_s << way;
+            QTest::addRow("sales tax by way %d", way) << Tax << u"6.63"_s << way;
+            QTest::addRow("net percentage by way %d", way) << Net << u"33.33"_s << way;
+        }
+    }
+    void ATextThatIsTypedOverTheSameIsStored()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, text);
+        QFETCH(int, way);
+        GuiDesk desk;
+        TakeFineHousehold();
+        Show(Window);
+        QCOMPARE(TextOf(Window, field), text);
+        Type(Window, field, text);
+        Leave(way);
+        QVERIFY(!TheWindows.Loaded(Window));
+        QCOMPARE(State.PaycheckAmount, Currency::FromTenThousandths(field == Paycheck ? 10615400 : 10615385));
+        QVERIFY(State.SalesTax == (field == Tax ? 0.0663F : 0.06625F));
+        QVERIFY(State.AverageNetPercentage == (field == Net ? 0.3333F : 1.0F / 3));
+    }
+
+    void AnErasedFieldIsRefusedAndNotTakenForUnedited()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        Show(Window);
+        Type(Window, Tax, {});
+        Click(Window, u"cmdExit"_s);
+        QCOMPARE(desk.TakeMessage().Text, u"Sales Tax does not contain a valid numeric amount"_s);
+        VerifyUnchanged();
+    }
+
+    void FieldsThatNobodyEditedFollowTheirSettings_data() { LeavingStoresTheFields_data(); }
+    void FieldsThatNobodyEditedFollowTheirSettings()
+    {
+        QFETCH(int, way);
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold();
+        Show(Window);
+        Type(Window, Tax, u"8.25"_s);
+        Show(u"frmMain"_s);
+        TakeFineHousehold(); // another window has changed everything
+        State.ForecastPeriods = 52;
+        Show(Window);
+        QCOMPARE(TextOf(Window, Forecast), u"52"_s);
+        QCOMPARE(SelectedText(Forecast), u"52"_s);
+        QCOMPARE(TextOf(Window, Paycheck), u"$1,061.54"_s);
+        QCOMPARE(TextOf(Window, Tax), u"8.25"_s); // what the user has typed stays
+        QCOMPARE(TextOf(Window, Net), u"33.33"_s);
+        Leave(way);
+        QCOMPARE(State.ForecastPeriods, qint16(52));
+        QCOMPARE(State.PaycheckAmount, Currency::FromTenThousandths(10615385));
+        QVERIFY(State.SalesTax == 0.0825F);
+        QVERIFY(State.AverageNetPercentage == 1.0F / 3);
+    }
+
+    void ClosedBehindAnotherWindowItWritesNoOldTextsBack()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold();
+        Show(Window);
+        Show(u"frmMain"_s);
+        TakeFineHousehold();
+        State.ForecastPeriods = 52;
+        CloseByFrame(Window);
+        QVERIFY(!TheWindows.Loaded(Window));
+        QCOMPARE(State.ForecastPeriods, qint16(52));
+        State.ForecastPeriods = 26;
+        VerifyFine();
+    }
+
+    void LoadedUnseenItShowsWhatThereIsWhenItIsSeen()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold();
+        TheWindows.Touch(Window); // as opening a store list does
+        TakeFineHousehold();
+        Show(Window);
+        QCOMPARE(TextOf(Window, Paycheck), u"$1,061.54"_s);
+        Click(Window, u"cmdExit"_s);
+        VerifyFine();
+    }
+
+    void AStepOfTheSpinnerIsAnEdit()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold();
+        Show(Window);
+        Click(Window, u"Up"_s);
+        Click(Window, u"Down"_s);
+        Show(u"frmMain"_s);
+        State.ForecastPeriods = 52;
+        Show(Window);
+        QCOMPARE(TextOf(Window, Forecast), u"26"_s);
+        Click(Window, u"cmdExit"_s);
+        QCOMPARE(State.ForecastPeriods, qint16(26));
+    }
+
+    void AForecastBeyondItsBoundsIsMendedUneditedToo()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.ForecastPeriods = 5000; // of an edited file
+        Show(Window);
+        Click(Window, u"cmdExit"_s);
+        QCOMPARE(State.ForecastPeriods, qint16(1000));
+    }
+
+    void AForecastThatIsClampedToWhatWasShownIsStored()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold();
+        State.ForecastPeriods = 1000;
+        Show(Window);
+        Type(Window, Forecast, u"1500"_s);
+        Show(u"frmMain"_s);
+        State.ForecastPeriods = 52;
+        CloseByFrame(Window);
+        QCOMPARE(State.ForecastPeriods, qint16(1000));
+    }
+
+    void ThePayDaysAreToldUnderThePointer()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TakeHousehold();
+        const auto told = [](const QString &control, const QString &text) {
+            const QWidget &widget = Find(Window, control);
+            QCOMPARE(widget.toolTip(), text);
+            QCOMPARE(widget.accessibleDescription(), text);
+        };
+        const QString dates = u"optPayFrequency2"_s;
+        const QString monthEnd = u"optPayFrequency3"_s;
+        TheWindows.Touch(Window);
+        told(dates, u"Pay days 1 and 15. To change them choose another frequency, then this one again."_s);
+        told(monthEnd,
+             u"Paid at the end of the month. To change this choose another frequency, then this one again."_s);
+        State.SecondPayDate = 20;
+        Show(Window);
+        told(dates, u"Pay days 1 and 20. To change them choose another frequency, then this one again."_s);
+        // While its question is answered nothing has activated the window yet.
+        QVERIFY(ChooseFrequencyAndAnswer(2, DatesWindow, [] {
+            Type(DatesWindow, u"txtFirstPayDate"_s, u"5"_s);
+            Type(DatesWindow, u"txtSecondPayDate"_s, u"0"_s);
+            Click(DatesWindow, u"cmdOK"_s);
+        }));
+        told(dates,
+             u"Pay days 5 and the end of the month. To change them choose another frequency, then this one again."_s);
+        QVERIFY(ChooseFrequencyAndAnswer(3, MonthEndWindow, [] { Click(MonthEndWindow, u"optYesNo1"_s); }));
+        told(monthEnd,
+             u"Not paid at the end of the month. To change this choose another frequency, then this one again."_s);
+    }
+
+    void WithoutAPayFrequencyItsFrameSaysSo()
+    {
+        GuiDesk desk;
+        TakeHousehold();
+        State.PayFrequency = 0;
+        Show(Window);
+        const QWidget &frame = Find(Window, u"fraPayFrequency"_s);
+        QCOMPARE(frame.toolTip(), u"No pay frequency is chosen yet"_s);
+        QCOMPARE(frame.accessibleDescription(), u"No pay frequency is chosen yet"_s);
+        Click(Window, u"optPayFrequency0"_s);
+        QCOMPARE(frame.toolTip(), QString());
+        QCOMPARE(frame.accessibleDescription(), QString());
     }
 
     void TheForecastIsClamped_data()

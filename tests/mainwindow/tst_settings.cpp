@@ -5,8 +5,6 @@
 #include "mainwindow/Settings.h"
 #include "platform/values/Numbers.h"
 
-#include <cstring>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -148,24 +146,30 @@ private Q_SLOTS:
         QVERIFY(State.AverageNetPercentage == 0.85F);
     }
 
-    void AnUntouchedPercentageStaysAsItIs_data()
+    void ANullTextLeavesItsSetting_data()
     {
-        QTest::addColumn<float>("fraction");
-        for (const float fraction :
-             {0.06625F, 0.0663F, 0.06F, 0.9F, 1.0F / 3, 0.0700001F, 1e-6F, 0.0F, -0.01F, 12.34567F})
-            QTest::addRow("%.9g", double(fraction)) << fraction;
+        QTest::addColumn<EnvironmentEntry>("entry");
+        QTest::addColumn<int>("stored");
+        QTest::newRow("none of them") << EnvironmentEntry{} << -1;
+        QTest::newRow("forecast") << EnvironmentEntry{.ForecastPeriods = u"52"_s} << 0;
+        QTest::newRow("paycheck") << EnvironmentEntry{.PaycheckAmount = u"2"_s} << 1;
+        QTest::newRow("sales tax") << EnvironmentEntry{.SalesTax = u"7"_s} << 2;
+        QTest::newRow("net percentage") << EnvironmentEntry{.AverageNetPercentage = u"80"_s} << 3;
     }
-    void AnUntouchedPercentageStaysAsItIs()
+    void ANullTextLeavesItsSetting()
     {
-        QFETCH(float, fraction);
+        QFETCH(EnvironmentEntry, entry);
+        QFETCH(int, stored);
         FakeDesk desk;
         State.ForecastPeriods = 26;
-        State.SalesTax = fraction;
-        State.AverageNetPercentage = fraction;
-        for (int time = 0; time < 10; ++time)
-            TakeEnvironmentEntry(ShownEnvironment());
-        QVERIFY(std::memcmp(&State.SalesTax, &fraction, sizeof fraction) == 0);
-        QVERIFY(std::memcmp(&State.AverageNetPercentage, &fraction, sizeof fraction) == 0);
+        State.PaycheckAmount = Currency::FromTenThousandths(10615385);
+        State.SalesTax = 0.06625F;
+        State.AverageNetPercentage = 1.0F / 3;
+        TakeEnvironmentEntry(entry);
+        QCOMPARE(State.ForecastPeriods, qint16(stored == 0 ? 52 : 26));
+        QCOMPARE(State.PaycheckAmount, stored == 1 ? Dollars(2) : Currency::FromTenThousandths(10615385));
+        QVERIFY(State.SalesTax == (stored == 2 ? 0.07F : 0.06625F));
+        QVERIFY(State.AverageNetPercentage == (stored == 3 ? 0.8F : 1.0F / 3));
     }
 
     void APercentageIsStoredAsItIsTyped_data()
@@ -177,26 +181,17 @@ private Q_SLOTS:
         QTest::newRow("what binary division would miss") << u"0.06"_s << 0.0006F;
         QTest::newRow("another way to write what is shown") << u"7"_s << 0.07F;
         QTest::newRow("what was shown before") << u"6.00"_s << 0.06F;
+        QTest::newRow("what is shown") << u"7.00"_s << 0.07F;
     }
     void APercentageIsStoredAsItIsTyped()
     {
         QFETCH(QString, typed);
         QFETCH(float, stored);
         FakeDesk desk;
-        State.SalesTax = State.AverageNetPercentage = 0.07F; // shows 7.00
+        State.SalesTax = State.AverageNetPercentage = 0.070001F; // shows 7.00
         TakeEnvironmentEntry({u"26"_s, u"1"_s, typed, typed});
         QVERIFY2(State.SalesTax == stored, qPrintable(PlainText(State.SalesTax)));
         QVERIFY2(State.AverageNetPercentage == stored, qPrintable(PlainText(State.AverageNetPercentage)));
-    }
-
-    void AValueThatChangedInTheMeantimeIsReplacedByTheText()
-    {
-        FakeDesk desk;
-        State.AverageNetPercentage = 0.85555F;
-        const EnvironmentEntry shown = ShownEnvironment();
-        State.AverageNetPercentage = 0.7F; // another window has changed it
-        TakeEnvironmentEntry({u"26"_s, u"1"_s, u"6"_s, shown.AverageNetPercentage});
-        QVERIFY(State.AverageNetPercentage == 0.8556F);
     }
 
     void AnErrorKeepsWhatWasStoredBefore_data()
@@ -218,6 +213,39 @@ private Q_SLOTS:
         QCOMPARE(State.PaycheckAmount, Dollars(stored > 1 ? 2 : 0));
         QCOMPARE(State.SalesTax, stored > 2 ? 0.02F : 0.0F);
         QCOMPARE(State.AverageNetPercentage, 0.0F);
+    }
+
+    void ThePayDaysAreTold_data()
+    {
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("second");
+        QTest::addColumn<int>("monthEnd");
+        QTest::addColumn<QString>("semimonthly");
+        QTest::addColumn<QString>("monthly");
+        QTest::newRow("two days, not at the end")
+            << 1 << 15 << 0 << u"Pay days 1 and 15. To change them choose another frequency, then this one again."_s
+            << u"Not paid at the end of the month. To change this choose another frequency, then this one again."_s;
+        QTest::newRow("at the end")
+            << 12 << 0 << -1
+            << u"Pay days 12 and the end of the month. To change them choose another frequency, then this one again."_s
+            << u"Paid at the end of the month. To change this choose another frequency, then this one again."_s;
+        QTest::newRow("neither yes nor no")
+            << 0 << 28 << 1 << u"Pay days 0 and 28. To change them choose another frequency, then this one again."_s
+            << u"Not known whether paid at the end of the month. To change this choose another frequency, then this "
+               u"one "
+               "again."_s;
+    }
+    void ThePayDaysAreTold()
+    {
+        QFETCH(int, first);
+        QFETCH(int, second);
+        QFETCH(int, monthEnd);
+        FakeDesk desk;
+        State.FirstPayDate = qint16(first);
+        State.SecondPayDate = qint16(second);
+        State.MonthEndPay = qint16(monthEnd);
+        QTEST(SemimonthlyPayDays(), "semimonthly");
+        QTEST(MonthlyPayDay(), "monthly");
     }
 
     void SemimonthlyDates_data()
