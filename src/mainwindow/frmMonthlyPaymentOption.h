@@ -11,6 +11,9 @@ public:
     frmMonthlyPaymentOption();
     void Load() override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     ValueOptions<qint16> optYesNo;
 };

@@ -27,6 +27,7 @@ frmSetCurrentPayPeriod::frmSetCurrentPayPeriod()
 void frmSetCurrentPayPeriod::Load()
 {
     ui.txtCurrentPayPeriod->setText(FormatLongDate(State.CurrentPayPeriod));
+    Timer1_Timer(); // the first second has its time, too
     Timer1.start();
 }
 

@@ -103,6 +103,39 @@ private Q_SLOTS:
         QVERIFY(!IsSelected(Yes));
         QCOMPARE(FocusOf(Window), No);
     }
+
+    void EnterOnAnOptionAnswers_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<int>("monthEndPay");
+        QTest::newRow("Enter on yes") << int(Qt::Key_Return) << Yes << -1;
+        QTest::newRow("Enter on no") << int(Qt::Key_Return) << No << 0;
+        QTest::newRow("the keypad's") << int(Qt::Key_Enter) << No << 0;
+        QTest::newRow("where nothing is chosen") << int(Qt::Key_Return) << Yes << 1;
+    }
+    void EnterOnAnOptionAnswers()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, option);
+        QFETCH(int, monthEndPay);
+        GuiDesk desk;
+        ShowWith(monthEndPay);
+        QCOMPARE(FocusOf(Window), option);
+        QTest::keyClick(&Find(Window, option), Qt::Key(key));
+        Settle();
+        QVERIFY(!TheWindows.Loaded(Window));
+        QCOMPARE(State.MonthEndPay, qint16(monthEndPay));
+    }
+
+    void OtherKeysOnAnOptionDoNotAnswer()
+    {
+        GuiDesk desk;
+        ShowWith(-1);
+        QTest::keyClick(&Find(Window, Yes), Qt::Key_A);
+        Settle();
+        QVERIFY(IsShown(Window));
+    }
 };
 
 REGISTER_TEST(gui_frmMonthlyPaymentOption)

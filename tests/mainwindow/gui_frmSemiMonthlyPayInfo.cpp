@@ -44,6 +44,20 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"cmdOK"_s), u"OK"_s);
     }
 
+    void TheTitleFitsItsBar()
+    {
+        GuiDesk desk;
+        Show(Window);
+        Form &window = *TheWindows.Loaded(Window);
+        QFont titleFont = window.font();
+        titleFont.setBold(true);
+        constexpr int buttons = 100; // pixels; icon and buttons of a title bar
+        QVERIFY(window.width() >= QFontMetrics(titleFont).horizontalAdvance(window.windowTitle()) + buttons);
+        window.resize(1, 1);
+        Settle();
+        QVERIFY(window.width() >= QFontMetrics(titleFont).horizontalAdvance(window.windowTitle()) + buttons);
+    }
+
     void TheDatesAreShownAndTheFirstIsSelected()
     {
         GuiDesk desk;

@@ -137,6 +137,67 @@ private Q_SLOTS:
         QVERIFY(!State.CurrentPayPeriodConfirmed);
     }
 
+    void ARefusedTextIsSelectedAsAWhole_data()
+    {
+        QTest::addColumn<int>("way");
+        for (int way = 0; way < WaysOut; ++way)
+            QTest::addRow("by way %d", way) << way;
+    }
+    void ARefusedTextIsSelectedAsAWhole()
+    {
+        QFETCH(int, way);
+        GuiDesk desk;
+        Show(Window);
+        Type(Window, u"txtCurrentPayPeriod"_s, u"2/30/2004"_s);
+        QCOMPARE(FocusOf(Window), u"txtCurrentPayPeriod"_s);
+        LeaveBy(way);
+        QCOMPARE(desk.TakeMessage(), NoDate);
+        QCOMPARE(Find<QLineEdit>(Window, u"txtCurrentPayPeriod"_s).selectedText(), u"2/30/2004"_s);
+    }
+
+    void AnErrorIsToldUnderTheTitleOfItsWayOut_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("the button") << 1 << u"Creditors"_s;
+        QTest::newRow("the close box") << 2 << u"Set Current Pay Period"_s;
+    }
+    void AnErrorIsToldUnderTheTitleOfItsWayOut()
+    {
+        QFETCH(int, way);
+        QFETCH(QString, title);
+        GuiDesk desk;
+        State.CurrentPayPeriod = u"01-05-2004"_s;
+        Show(Window);
+        Type(Window, u"txtCurrentPayPeriod"_s, u"abc"_s);
+        TheDesk.ShowMessage = [show = TheDesk.ShowMessage](const Message &message) {
+            TheDesk.ShowMessage = show; // fails once
+            if (message == NoDate)
+                RaiseError(RuntimeError::InvalidProcedureCall);
+            return show(message);
+        };
+        LeaveBy(way);
+        const Message told = desk.TakeMessage();
+        QCOMPARE(told.Title, title);
+        QVERIFY2(told.Text.startsWith(u"An unknown error occured."_s), qPrintable(told.Text));
+        QCOMPARE(told.TheIcon, Icon::Warning);
+        QCOMPARE(State.CurrentPayPeriod, u"01-05-2004"_s);
+        // The button's handler ends before it closes the window; the close box goes on closing.
+        QCOMPARE(IsShown(Window), way == 1);
+    }
+
+    void BlanksAroundADateAreKept_data() { ARefusedTextIsSelectedAsAWhole_data(); }
+    void BlanksAroundADateAreKept()
+    {
+        QFETCH(int, way);
+        GuiDesk desk;
+        Show(Window);
+        Type(Window, u"txtCurrentPayPeriod"_s, u" 5/24/97 "_s);
+        LeaveBy(way);
+        QCOMPARE(State.CurrentPayPeriod, u" 5/24/97 "_s);
+        QVERIFY(!TheWindows.Loaded(Window));
+    }
+
     void ADateFarFromAnyPayDayIsAccepted()
     {
         GuiDesk desk;
@@ -234,6 +295,7 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         Show(Window);
+        QCOMPARE(TextOf(Window, u"lblTime"_s), u"09:30:00 AM"_s); // from the first moment
         Find<QLabel>(Window, u"lblDate"_s).setText(u"Monday  January 5, 2004"_s);
         desk.Now = QDateTime(QDate(2004, 1, 6), QTime(14, 5, 9));
         auto &timer = Find<QTimer>(Window, u"Timer1"_s);
@@ -241,6 +303,11 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(TextOf(Window, u"lblTime"_s), u"02:05:09 PM"_s, 3000);
         QCOMPARE(State.ClockTime, QTime(14, 5, 9));
         QCOMPARE(TextOf(Window, u"lblDate"_s), u"Monday  January 5, 2004"_s);
+        timer.setInterval(20);
+        for (const int second : {10, 11, 12}) { // it strikes again and again
+            desk.Now = QDateTime(QDate(2004, 1, 6), QTime(14, 5, second));
+            QTRY_COMPARE_WITH_TIMEOUT(TextOf(Window, u"lblTime"_s), u"02:05:%1 PM"_s.arg(second), 3000);
+        }
     }
 };
 
