@@ -24,7 +24,7 @@ protected:
 private:
     static constexpr int UsualSide = 312; // four buttons of 72 pixels and the gaps
     static constexpr int LeastIcon = 24;
-    static constexpr int LargestIcon = 64;
+    static constexpr int LargestIcon = 128;
 
     void FitIcons()
     {

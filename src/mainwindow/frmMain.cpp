@@ -23,6 +23,7 @@ namespace {
 constexpr int LastTimedTutorPage = 24;
 constexpr int LeastButton = 36;     // pixels; room for the smallest icon
 constexpr int LeastLinePadding = 8; // pixels, above and below a line of the list together
+constexpr int HighestLine = 56;     // pixels; more would tear the list apart on a large screen
 constexpr int LeastLines = 5;       // of the list; the others are scrolled to
 constexpr int LineCharacters = 52;  // what the list, and a line of the hint, have room for in their width
 constexpr int TitleBarHeight = 40;  // pixels; a guess, before the window manager has put its frame around the window
@@ -170,7 +171,7 @@ void frmMain::ReserveSpace()
     list.setMinimumSize(LineCharacters * list.fontMetrics().averageCharWidth(),
                         LeastLines * least + 2 * list.frameWidth());
     for (int line = 0; line < list.count(); ++line)
-        list.item(line)->setSizeHint(QSize(0, qMax(least, list.viewport()->height() / lines)));
+        list.item(line)->setSizeHint(QSize(0, qMax(least, qMin(HighestLine, list.viewport()->height() / lines))));
 }
 
 void frmMain::resizeEvent(QResizeEvent *event)
@@ -403,8 +404,8 @@ void frmMain::tmrAutoTutor_Timer()
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
-    const QEvent::Type type = event->type();
-    if ((type == QEvent::Enter || type == QEvent::MouseMove) && m_hints.contains(watched))
+    // The pointer must have moved: one that lies still while a window closes over it has asked for nothing.
+    if (event->type() == QEvent::MouseMove && m_hints.contains(watched))
         ui.lblToolbar->setText(m_hints.value(watched)); // never cleared: leaving the toolbar leaves the last hint
     return Window::eventFilter(watched, event);
 }

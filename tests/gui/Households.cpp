@@ -96,8 +96,10 @@ bool ShowAtWork(const QString &window, Household household)
         if (Form *form = TheWindows.Loaded(clock))
             QMetaObject::invokeMethod(form->findChild<QTimer *>(u"Timer1"_s), "timeout");
     if (window == u"frmMain"_s && household == Household::Filled) {
-        QEvent pointed(QEvent::Enter);
-        QCoreApplication::sendEvent(&Find<QToolButton>(window, u"Toolbar1Button6"_s), &pointed);
+        auto &button = Find<QToolButton>(window, u"Toolbar1Button6"_s);
+        const QPointF middle = button.rect().center();
+        QMouseEvent pointed(QEvent::MouseMove, middle, button.mapToGlobal(middle), Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(&button, &pointed);
     }
     if (household == Household::Filled)
         ClickAllOf(window);

@@ -234,6 +234,9 @@ public:
             ++Asked;
             Offered = TextOf(Question, u"txtCurrentPayPeriod"_s);
             ActiveThen = ActiveWindow();
+            for (const QString &wish : {u"frmGettingStarted"_s, u"frmHowDoI"_s})
+                if (IsShown(wish))
+                    WishesThen += wish;
             Type(Question, u"txtCurrentPayPeriod"_s, u"1/7/2004"_s);
             PressEnter(Question, u"txtCurrentPayPeriod"_s);
         });
@@ -242,6 +245,7 @@ public:
     int Asked = 0;
     QString Offered;
     QString ActiveThen;
+    QStringList WishesThen; ///< what the welcome was asked for and stands there already
 
 private:
     QTimer m_timer;
@@ -269,6 +273,8 @@ QToolButton &ToolbarButton(int index)
 
 void PointAt(const QWidget &control)
 {
+    // From the status bar: a pointer that is there already does not move.
+    QTest::mouseMove(control.window()->windowHandle(), control.window()->rect().bottomLeft());
     QTest::mouseMove(control.window()->windowHandle(), control.mapTo(control.window(), control.rect().center()));
     Settle();
 }
@@ -430,11 +436,40 @@ private Q_SLOTS:
             return shown;
         };
         QCOMPARE(icon(main.minimumSizeHint()), QSize(24, 24));
-        QCOMPARE(icon({3000, 2000}), QSize(64, 64));
-        const QSize between = icon({900, 640});
-        QVERIFY(between.width() > 24 && between.width() < 64);
-        QCOMPARE(between.width(), between.height());
+        QCOMPARE(icon({3000, 2000}), QSize(128, 128));
+        for (const QSize &size : {QSize(900, 640), QSize(1400, 1000)}) {
+            const QSize between = icon(size);
+            QVERIFY(between.width() > 24 && between.width() < 128);
+            QCOMPARE(between.width(), between.height());
+        }
         QCOMPARE(icon(main.minimumSizeHint()), QSize(24, 24)); // what has grown does not hold the window
+    }
+
+    void OnALargeScreenTheContentKeepsTogether()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Form &main = *TheWindows.Loaded(Main);
+        const auto spanOf = [&] { // of list and toolbar
+            const auto &list = Find(Main, u"lstBudgetState"_s);
+            const auto &toolbar = Find(Main, u"Toolbar1"_s);
+            return QRect(list.mapTo(&main, QPoint()), list.size())
+                .united(QRect(toolbar.mapTo(&main, QPoint()), toolbar.size()));
+        };
+        for (const QSize &size : {QSize(1920, 1040), QSize(3000, 2000)}) {
+            main.resize(size);
+            Settle();
+            QVERIFY(qAbs(spanOf().center().x() - main.rect().center().x()) <= 1);
+            QCOMPARE(spanOf().width(), 1608); // room for the largest icons
+            const auto &list = Find<ListBox>(Main, u"lstBudgetState"_s);
+            for (int row = 0; row < list.count(); ++row)
+                QCOMPARE(list.visualItemRect(list.item(row)).height(), 56);
+            QCOMPARE(Find(Main, u"staMain"_s).width(), size.width()); // which reaches from edge to edge
+        }
+        main.resize(1000, 640);
+        Settle();
+        QCOMPARE(spanOf().left(), 16);
+        QCOMPARE(spanOf().right(), 1000 - 16 - 1);
     }
 
     void ButtonsAndStatusBarStayWhateverTheSize()
@@ -484,6 +519,21 @@ private Q_SLOTS:
         QCOMPARE(hint.text(), Text(ToolbarRows[15].Hint));
         PointAt(ToolbarButton(3));
         QCOMPARE(hint.text(), Text(ToolbarRows[2].Hint));
+    }
+
+    void AToolbarThatComesUnderAPointerAtRestLeavesTheHintAlone()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        const QPointF middle = ToolbarButton(2).rect().center();
+        QEnterEvent enters(middle, middle, ToolbarButton(2).mapToGlobal(middle));
+        QCoreApplication::sendEvent(&ToolbarButton(2), &enters); // as when a window closes over it
+        QCOMPARE(TextOf(Main, u"lblToolbar"_s), QString());
+        PointAt(ToolbarButton(3));
+        QCoreApplication::sendEvent(&ToolbarButton(2), &enters);
+        QCOMPARE(TextOf(Main, u"lblToolbar"_s), Text(ToolbarRows[2].Hint));
+        PointAt(ToolbarButton(2));
+        QCOMPARE(TextOf(Main, u"lblToolbar"_s), Text(ToolbarRows[1].Hint));
     }
 
     void TheMenuLeavesTheHintAlone()
@@ -789,6 +839,33 @@ private Q_SLOTS:
         }
     }
 
+    void AnOptionIsStoredBeforeItsBox()
+    {
+        for (const OptionRow &row : OptionRows) {
+            GuiDesk desk;
+            DeclareToys();
+            desk.StartProgram();
+            const bool isTutor = Text(row.Entry) == u"mnuTallymereTutor"_s;
+            QString stored;
+            bool runs = false;
+            bool loaded = false;
+            TheDesk.ShowMessage = [&, show = TheDesk.ShowMessage](const Message &message) {
+                stored = desk.TakeOption(Text(row.Key));
+                runs = TheTutorTimer().isActive();
+                loaded = TheWindows.Loaded(u"frmTallymereTutor"_s);
+                return show(message);
+            };
+            TheWindows.Touch(u"frmTallymereTutor"_s);
+            for (const bool on : {false, true}) {
+                Choose(Text(row.Entry));
+                QCOMPARE(desk.TakeMessage().Title, Text(row.Title));
+                QCOMPARE(stored, on ? u"1"_s : u"0"_s);
+                QCOMPARE(runs, on || !isTutor);
+                QCOMPARE(loaded, !isTutor);
+            }
+        }
+    }
+
     void TheMarkIsWhatFlipsAndNotTheStoredNumber()
     {
         GuiDesk desk;
@@ -862,6 +939,100 @@ private Q_SLOTS:
         Show(Main);
         QVERIFY(IsShown(u"frmCreditors"_s));
         QVERIFY(TheTutorTimer().isActive());
+    }
+
+    void ARunningTimerRunsOnWhenTheUserComesBack()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TheTutorTimer().setTimerType(Qt::PreciseTimer);
+        TheTutorTimer().start();
+        QTest::qWait(60);
+        LeaveAndReturn();
+        QVERIFY(TheTutorTimer().isActive());
+        QVERIFY(TheTutorTimer().remainingTime() <= TheTutorTimer().interval() - 50);
+    }
+
+    void TheTutorGoesOnWhereItStopped()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        desk.StartProgram();
+        TutorPages tutor;
+        const auto strike = [&] {
+            tutor.Pages.clear();
+            QVERIFY(TheTutorTimer().isActive());
+            QVERIFY(Tick(u"tmrAutoTutor"_s));
+        };
+        strike();
+        strike();
+        QCOMPARE(tutor.Pages, QList<int>{2});
+        Choose(u"mnuFileCreditors"_s); // its page is shown, and it rests the timer
+        TheWindows.Unload(u"frmCreditors"_s);
+        Settle();
+        strike();
+        QCOMPARE(tutor.Pages, QList<int>{3});
+        LeaveAndReturn();
+        strike();
+        QCOMPARE(tutor.Pages, QList<int>{4});
+        for (int flip = 0; flip < 2; ++flip) { // off and on again
+            Choose(u"mnuTallymereTutor"_s);
+            desk.TakeMessage();
+            desk.TakeOption(u"show tallymere tutor"_s);
+        }
+        strike();
+        QCOMPARE(tutor.Pages, QList<int>{5});
+        desk.Options[u"show tallymere tutor"_s] = u"0"_s;
+        LeaveAndReturn();
+        QVERIFY(!TheTutorTimer().isActive());
+        desk.Options[u"show tallymere tutor"_s] = u"1"_s;
+        LeaveAndReturn();
+        strike();
+        QCOMPARE(tutor.Pages, QList<int>{6});
+    }
+
+    void ThePageComesBeforeWhatTheEntryAsks()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        desk.StartProgram();
+        TutorPages tutor;
+        QStringList order;
+        const auto note = [&](const QString &what) {
+            order += u"%1 after page %2"_s.arg(what).arg(tutor.Pages.isEmpty() ? 0 : tutor.Pages.last());
+            tutor.Pages.clear();
+        };
+        TheDesk.AskFile = [&](const FileQuestion &) {
+            note(u"dialog"_s);
+            return QString();
+        };
+        TheDesk.BringCalculatorForward = [&] { note(u"calculator"_s); };
+        Choose(u"mnuFinanceMathCalculator"_s);
+        QTimer::singleShot(0, [&] {
+            QVERIFY(IsShown(Question));
+            note(u"question"_s);
+            CloseByFrame(Question);
+        });
+        // The question rests the timer from its load on, after which no page would come.
+        Choose(u"mnuOptionsSetCurrentPayPeriod"_s);
+        Choose(u"mnuShopperOpenStoreList"_s);
+        QCOMPARE(order,
+                 (QStringList{u"calculator after page 10"_s, u"question after page 22"_s, u"dialog after page 11"_s}));
+        QCOMPARE(tutor.ActiveThen, Main);
+        QVERIFY(tutor.Pages.isEmpty());
+    }
+
+    void WithoutTheTutorAStoreListShowsNoPage()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        desk.Options[u"show tallymere tutor"_s] = u"0"_s;
+        desk.StartProgram();
+        TutorPages tutor;
+        desk.FileAnswers += QString();
+        Choose(u"mnuShopperOpenStoreList"_s);
+        QCOMPARE(desk.FileQuestions.size(), 1);
+        QCOMPARE(tutor.Pages, QList<int>());
     }
 
     void WhileTheTimerRestsNoPageIsShown()
@@ -1164,12 +1335,32 @@ private Q_SLOTS:
         Show(Main);
         QTRY_COMPARE(answerer.Asked, 1);
         QVERIFY(!State.WelcomeLevelPending);
+        QCOMPARE(answerer.WishesThen, window.isNull() ? QStringList() : QStringList{window});
+        QCOMPARE(answerer.ActiveThen, Question);
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         for (const QString &name : {u"frmGettingStarted"_s, u"frmHowDoI"_s})
             QCOMPARE(IsShown(name), name == window);
         TheWindows.Unload(window);
         LeaveAndReturn();
         QVERIFY(!IsShown(window)); // the wish is fulfilled once
+    }
+
+    void TheQuestionGoesAlongToWhereTheWindowManagerPutsTheMainWindow()
+    {
+        GuiDesk desk;
+        QRect main;
+        QRect question;
+        QTimer::singleShot(0, [&] {
+            TheWindows.Loaded(Main)->move(210, 130); // as a window manager does once the window is on the screen
+            Settle();
+            main = TheWindows.Loaded(Main)->frameGeometry();
+            question = TheWindows.Loaded(Question)->frameGeometry();
+            CloseByFrame(Question);
+        });
+        Show(Main);
+        QCOMPARE(main.topLeft(), QPoint(210, 130));
+        QVERIFY((question.center() - main.center()).manhattanLength() <= 2);
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
     }
 
     void TheMainWindowStandsLeftOfTheTutors()
