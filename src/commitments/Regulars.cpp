@@ -1,7 +1,7 @@
 #include "commitments/Regulars.h"
 
-#include "commitments/Compaction.h"
 #include "foundation/BudgetFiles.h"
+#include "foundation/Compaction.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
