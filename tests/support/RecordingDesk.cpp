@@ -9,6 +9,8 @@
 #include "debt/DebtState.h"
 #include "foundation/Tutor.h"
 #include "income/IncomeState.h"
+#include "shopping/ShoppingDoors.h"
+#include "shopping/ShoppingState.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -40,9 +42,11 @@ void ResetProgram()
     Projects = {};
     Debt = {};
     Income = {};
+    Shopping = {};
     // Whoever stands behind a door and outlived its test hears no more of it.
-    for (QObject *door : std::initializer_list<QObject *>{&TheTutorRequests, &TheBudgetOutlet, &TheForecastOutlet,
-                                                          &ThePayPeriodOutlet, &TheCompletionDateOutlet})
+    for (QObject *door :
+         std::initializer_list<QObject *>{&TheTutorRequests, &TheBudgetOutlet, &TheForecastOutlet, &ThePayPeriodOutlet,
+                                          &TheCompletionDateOutlet, &TheShoppingDoors})
         door->disconnect();
 }
 

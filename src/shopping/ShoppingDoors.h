@@ -1,0 +1,15 @@
+// How the windows of shopping have each other's lists filled anew.
+#pragma once
+
+#include <QObject>
+
+class ShoppingDoors : public QObject
+{
+    Q_OBJECT
+Q_SIGNALS:
+    /// The lines of the current list have changed.
+    void CurrentListChanged();
+    /// The items of the catalogue have changed.
+    void ShelfChanged();
+};
+inline ShoppingDoors TheShoppingDoors;
