@@ -19,13 +19,36 @@ constexpr int SamplePeriods = 12;
 const QHash<QString, QStringList> &FirstClicks()
 {
     static const QHash<QString, QStringList> clicks{
+        {u"frmAverageNetPercentage"_s, {u"cmdCalculate"_s}},
         {u"frmBudget"_s, {u"cmdBudget"_s, u"cmdBudget"_s}},
+        {u"frmCalculateWages"_s, {u"cmdCalculate"_s}},
         {u"frmCreditors"_s, {u"cmdListCreditors"_s, u"lstCreditors"_s}},
         {u"frmExtras"_s, {u"cmdListPayPeriods"_s, u"lstExtraItems"_s, u"lstExtraItems"_s}}, // a period, then an item
         {u"frmProjects"_s, {u"cmdListProjects"_s, u"lstProjects"_s}},
         {u"frmRegulars"_s, {u"cmdListRegularItems"_s, u"lstRegulars"_s}},
     };
     return clicks;
+}
+
+/// What is typed into a window's fields before that.
+const QHash<QString, QList<QPair<QString, QString>>> &FirstEntries()
+{
+    static const QHash<QString, QList<QPair<QString, QString>>> entries{
+        {u"frmAverageNetPercentage"_s,
+         {{u"txtFirstCheckGross"_s, u"$3,000.00"_s},
+          {u"txtFirstCheckNet"_s, u"$2,340.00"_s},
+          {u"txtSecondCheckGross"_s, u"$3,412.50"_s},
+          {u"txtSecondCheckNet"_s, u"$2,627.63"_s}}},
+        {u"frmCalculateWages"_s, {{u"txtHourlyPayRate"_s, u"$30.00"_s}}},
+        {u"frmTotalHours"_s, {{u"txtWeek1"_s, u"42.5"_s}, {u"txtWeek2"_s, u"38"_s}, {u"txtWeek3"_s, u"16.25"_s}}},
+    };
+    return entries;
+}
+
+void FillIn(const QString &window)
+{
+    for (const auto &[field, text] : FirstEntries().value(window))
+        Type(window, field, text);
 }
 
 void ClickAllOf(const QString &window)
@@ -101,8 +124,15 @@ bool ShowAtWork(const QString &window, Household household)
         QMouseEvent pointed(QEvent::MouseMove, middle, button.mapToGlobal(middle), Qt::NoButton, Qt::NoButton, {});
         QCoreApplication::sendEvent(&button, &pointed);
     }
-    if (household == Household::Filled)
+    if (window == u"frmCalculateWages"_s && household == Household::Filled) { // its hours come from their own window
+        PressEnter(window, u"txtTotalHoursWorked"_s);
+        FillIn(u"frmTotalHours"_s);
+        Click(u"frmTotalHours"_s, u"cmdOK"_s);
+    }
+    if (household == Household::Filled) {
+        FillIn(window);
         ClickAllOf(window);
+    }
     Settle();
     return IsShown(window);
 }

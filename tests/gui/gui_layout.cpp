@@ -269,6 +269,8 @@ private Q_SLOTS:
                                      << QStringList{u"lblPayPeriod"_s, u"txtExtraItemAmount"_s, u"txtExtraItem"_s};
         QTest::newRow("projects") << u"frmProjects"_s
                                   << QStringList{u"txtProject"_s, u"txtProjectAmount"_s, u"txtProjectCompletionDate"_s};
+        QTest::newRow("wages") << u"frmCalculateWages"_s
+                               << QStringList{u"txtTotalRegularPay"_s, u"txtTotalOvertimePay"_s, u"txtYearlyGross"_s};
         QTest::newRow("a project") << u"frmViewProject"_s << QStringList();
     }
     void TheFilledHouseholdFillsTheWindows()
@@ -331,6 +333,8 @@ private Q_SLOTS:
     {
         // What is known to show one; windows to come are looked at without being named here.
         static const QHash<QString, QStringList> known{
+            {u"frmAverageNetPercentage"_s, {u"txtFirstCheckGross"_s, u"txtSecondCheckNet"_s}},
+            {u"frmCalculateWages"_s, {u"txtHourlyPayRate"_s, u"txtOvertimeRate"_s, u"txtYearlyGross"_s}},
             {u"frmCreditors"_s, {u"txtCreditorAmount"_s}},
             {u"frmEnvironmentSettings"_s, {u"txtPaycheckAmount"_s}},
             {u"frmExtras"_s, {u"txtExtraItemAmount"_s}},
