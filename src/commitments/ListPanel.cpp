@@ -144,12 +144,11 @@ void ListPanel::showEvent(QShowEvent *event)
         GiveListWholeRows();
 }
 
-/// At its opening the window is made lower, or where it cannot be, higher by what a row at the list's lower edge lacks,
-/// so that none is cut in half.
+/// Makes the window higher by what the row at the list's lower edge lacks, so that none is cut in half.
 void ListPanel::GiveListWholeRows()
 {
     const int row = RowHeight(*m_controls.List);
     const int rest = m_controls.List->viewport()->height() % row;
-    const int lower = height() - rest;
-    resize(width(), lower >= minimumHeight() ? lower : lower + row);
+    if (rest > 0)
+        resize(width(), height() + row - rest);
 }

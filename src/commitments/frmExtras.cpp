@@ -154,9 +154,8 @@ void frmExtras::DeletePayPeriod()
     EmptyFields();
 }
 
-/// From one delete button that is enabled to the other.
+/// From one delete button to the other, or where that one is disabled, nowhere.
 void frmExtras::GoToDelete()
 {
-    const bool toItem = FocusControl() == ui.cmdDeletePayPeriod && ui.cmdDeleteExtraItem->isEnabled();
-    FocusOn(toItem ? ui.cmdDeleteExtraItem : ui.cmdDeletePayPeriod);
+    FocusOn(FocusControl() == ui.cmdDeletePayPeriod ? ui.cmdDeleteExtraItem : ui.cmdDeletePayPeriod);
 }

@@ -58,9 +58,8 @@ void frmProjects::PickCompletionDate()
 void frmProjects::TakePickedDate(const QString &date)
 {
     ui.txtProjectCompletionDate->setText(date);
-    // When the window comes back. In the date the next key would open the forecast again.
-    if (ui.cmdNew->isEnabled())
-        FocusOn(ui.cmdNew);
+    // For the window's return, if the entry is complete: in the date the next key would open the forecast again.
+    FocusOn(ui.cmdNew);
 }
 
 void frmProjects::AddClicked()

@@ -344,6 +344,25 @@ private Q_SLOTS:
         QVERIFY(row >= QFontMetrics(large).height());
         QCOMPARE(list.viewport()->height() % row, 0);
         QVERIFY(list.viewport()->height() / row >= 5);
+        // It is no higher than that takes: at its own height the layout leaves less than a row.
+        Form *form = TheWindows.Loaded(panel.Window);
+        const int height = form->height();
+        form->adjustSize();
+        QVERIFY2(height - form->height() < row, qPrintable(QString::number(height - form->height())));
+    }
+
+    void AListThatHasWholeRowsAlreadyGetsNoMore_data() { AddPanels(); }
+    void AListThatHasWholeRowsAlreadyGetsNoMore()
+    {
+        const Panel &panel = ThePanel();
+        CommitmentsDesk desk;
+        Show(panel.Window);
+        const int height = Find(panel.Window, panel.List).height();
+        Click(panel.Window, u"cmdQuit"_s);
+        TheWindows.Touch(panel.Window);
+        Find(panel.Window, panel.List).setMinimumHeight(height);
+        Show(panel.Window);
+        QCOMPARE(Find(panel.Window, panel.List).height(), height);
     }
 
     void AWindowThatComesBackKeepsTheHeightThatTheUserGaveIt_data() { AddPanels(); }
