@@ -2,6 +2,7 @@
 
 #include "foundation/BudgetFiles.h"
 #include "foundation/Calendar.h"
+#include "foundation/OneMore.h"
 #include "foundation/State.h"
 #include "platform/desk/UnknownError.h"
 #include "platform/values/Numbers.h"
@@ -40,7 +41,7 @@ void FillScanPayPeriods()
 
 void NewExtraPayPeriod()
 {
-    const qint16 count = ToInteger(State.NumberOfExtraPayPeriods + 1);
+    const qint16 count = OneMore(State.NumberOfExtraPayPeriods);
     State.ExtraPayPeriods.RedimPreserve(count);
     State.NumberOfExtraPayPeriods = count;
     ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(count);

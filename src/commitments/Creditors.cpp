@@ -2,6 +2,7 @@
 
 #include "foundation/BudgetFiles.h"
 #include "foundation/Compaction.h"
+#include "foundation/OneMore.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
@@ -89,7 +90,7 @@ std::optional<Refusal> ValidateCreditorEntry(const QStringList &panel)
 
 void AddCreditor(CreditorRecord &record)
 {
-    const qint16 count = ToInteger(State.NumberOfCreditors + 1);
+    const qint16 count = OneMore(State.NumberOfCreditors);
     State.Creditors.RedimPreserve(count);
     State.NumberOfCreditors = count;
     GuardDueDate(record);

@@ -2,6 +2,7 @@
 
 #include "budget/SavingsForecast.h"
 #include "foundation/BudgetFiles.h"
+#include "foundation/OneMore.h"
 #include "foundation/Report.h"
 #include "platform/desk/Printer.h"
 #include "platform/values/Format.h"
@@ -105,7 +106,7 @@ void AddProject(const QString &name, Currency amount)
     const int picked = Forecast.ForecastPickRow;
     if (picked > 0 && ToCurrency(Forecast.ForecastAccumulated(picked)) == Currency::Zero)
         RaiseError(RuntimeError::DivisionByZero); // before anything is added: there is nothing to be proportional to
-    const qint16 count = ToInteger(State.NumberOfProjects + 1);
+    const qint16 count = OneMore(State.NumberOfProjects);
     RedimProjects(count, true);
     State.NumberOfProjects = count;
     State.ProjectNames(count) = name;

@@ -2,6 +2,7 @@
 
 #include "foundation/BudgetFiles.h"
 #include "foundation/Compaction.h"
+#include "foundation/OneMore.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
@@ -62,7 +63,7 @@ std::optional<Refusal> ValidateRegularEntry(const QStringList &panel)
 
 void AddRegular(const RegularRecord &record)
 {
-    const qint16 count = ToInteger(State.NumberOfRegulars + 1);
+    const qint16 count = OneMore(State.NumberOfRegulars);
     State.Regulars.RedimPreserve(count);
     State.NumberOfRegulars = count;
     State.Regulars(count) = record;

@@ -670,6 +670,29 @@ private Q_SLOTS:
         QCOMPARE(desk.ReadFile(panel.File), panel.FileOf(panel.Records + QList<QByteArray>{panel.EntryRecord}));
     }
 
+    void ANegativeCountTakesNoEntryHoweverOftenItIsTried_data() { AddPanels(); }
+    void ANegativeCountTakesNoEntryHoweverOftenItIsTried()
+    {
+        const Panel &panel = ThePanel();
+        if (!panel.Before.isEmpty())
+            QSKIP("its count is a pay period's");
+        CommitmentsDesk desk;
+        Open(desk, panel);
+        QByteArray damaged = panel.TwoRecords();
+        damaged.replace(0, 1, "-1");
+        desk.WriteFile(panel.File, damaged);
+        Click(panel.Window, panel.Read);
+        QVERIFY(desk.TakeMessage().Text.startsWith(u"Error 9"_s));
+        AddEntry(panel, panel.Entry);
+        for (int i = 0; i < 2; ++i) {
+            Click(panel.Window, panel.Commit);
+            if (desk.Messages.size() > 1) // what the entry before has left is dropped, which reads the file again
+                QVERIFY(desk.TakeMessage().Text.startsWith(u"Error 9"_s));
+            QCOMPARE(desk.TakeMessage(), panel.UnknownError());
+            QCOMPARE(desk.ReadFile(panel.File), damaged);
+        }
+    }
+
     void DeletingTakesTheRowOutAndClosesThePanel_data() { AddPanels(); }
     void DeletingTakesTheRowOutAndClosesThePanel()
     {
