@@ -13,9 +13,9 @@ namespace {
 
 /// What the lines of a label need in its width. The label's own answer never falls below its least height, so one like
 /// it without any is asked.
-int HeightOfLines(const QLabel &label)
+int HeightOfLines(const QLabel &label, const QString &text)
 {
-    QLabel lines(label.text());
+    QLabel lines(text);
     lines.setWordWrap(true);
     lines.setTextFormat(label.textFormat());
     lines.setFont(label.font());
@@ -157,7 +157,8 @@ void Form::GiveFieldsTheirWidth()
 }
 
 /// Layouts let a label of several lines be squeezed when the window is small or its letters are large; here it keeps
-/// the height that its lines need in its width, and gives it back when they need less again.
+/// the height that its lines need in its width, and gives it back when they need less again. A label whose design names
+/// its longestText has room for that from the start, so that nothing moves when its text comes.
 void Form::GiveLinesTheirHeight()
 {
     for (QLabel *label : findChildren<QLabel *>()) {
@@ -168,8 +169,10 @@ void Form::GiveLinesTheirHeight()
             height.Reserved = label->minimumHeight();
             height.Given = 0;
         }
-        if (height.Given > 0 || label->heightForWidth(label->width()) > label->height()) {
-            height.Given = qMax(height.Reserved, HeightOfLines(*label));
+        const QString longest = label->property("longestText").toString();
+        if (!longest.isEmpty() || height.Given > 0 || label->heightForWidth(label->width()) > label->height()) {
+            const int longestHeight = longest.isEmpty() ? 0 : HeightOfLines(*label, longest);
+            height.Given = qMax(qMax(height.Reserved, longestHeight), HeightOfLines(*label, label->text()));
             label->setMinimumHeight(height.Given);
         }
     }
