@@ -24,8 +24,11 @@ const QHash<QString, QStringList> &FirstClicks()
         {u"frmCalculateWages"_s, {u"cmdCalculate"_s}},
         {u"frmCreditors"_s, {u"cmdListCreditors"_s, u"lstCreditors"_s}},
         {u"frmExtras"_s, {u"cmdListPayPeriods"_s, u"lstExtraItems"_s, u"lstExtraItems"_s}}, // a period, then an item
+        {u"frmInterestRateCalculator"_s, {u"cmdCalculate"_s}},
+        {u"frmPaymentCalculator"_s, {u"cmdCalculate"_s}},
         {u"frmProjects"_s, {u"cmdListProjects"_s, u"lstProjects"_s}},
         {u"frmRegulars"_s, {u"cmdListRegularItems"_s, u"lstRegulars"_s}},
+        {u"frmSavings"_s, {u"cmdCalculate"_s}},
     };
     return clicks;
 }
@@ -40,6 +43,19 @@ const QHash<QString, QList<QPair<QString, QString>>> &FirstEntries()
           {u"txtSecondCheckGross"_s, u"$3,412.50"_s},
           {u"txtSecondCheckNet"_s, u"$2,627.63"_s}}},
         {u"frmCalculateWages"_s, {{u"txtHourlyPayRate"_s, u"$30.00"_s}}},
+        {u"frmInterestRateCalculator"_s,
+         {{u"txtBorrowedAmount"_s, u"$200,000.00"_s},
+          {u"txtMonthlyPayments"_s, u"$1,199.10"_s},
+          {u"txtNumberOfMonthlyPayments"_s, u"360"_s}}},
+        {u"frmPaymentCalculator"_s,
+         {{u"txtBorrowedAmount"_s, u"$200,000.00"_s},
+          {u"txtAnnualPercentageRate"_s, u"6"_s},
+          {u"txtNumberOfMonthlyPayments"_s, u"360"_s}}},
+        {u"frmSavings"_s,
+         {{u"txtMonthlyDeposits"_s, u"$100.00"_s},
+          {u"txtAnnualPercentageRate"_s, u"4.5"_s},
+          {u"txtNumberOfMonthlyDeposits"_s, u"120"_s},
+          {u"txtCurrentSavingsAmount"_s, u"$1,000.00"_s}}},
         {u"frmTotalHours"_s, {{u"txtWeek1"_s, u"42.5"_s}, {u"txtWeek2"_s, u"38"_s}, {u"txtWeek3"_s, u"16.25"_s}}},
     };
     return entries;
@@ -113,6 +129,11 @@ bool ShowAtWork(const QString &window, Household household)
     if (window == u"frmViewProject"_s && household == Household::Filled) { // it shows the project chosen there
         Show(u"frmProjects"_s);
         ClickAllOf(u"frmProjects"_s);
+    }
+    if (window == u"frmAmortization"_s && household == Household::Filled) { // it lists the loan calculated there
+        Show(u"frmPaymentCalculator"_s);
+        FillIn(u"frmPaymentCalculator"_s);
+        ClickAllOf(u"frmPaymentCalculator"_s);
     }
     Show(window);
     for (const QString &clock : {u"frmMain"_s, u"frmSetCurrentPayPeriod"_s})

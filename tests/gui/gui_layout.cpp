@@ -272,6 +272,9 @@ private Q_SLOTS:
         QTest::newRow("wages") << u"frmCalculateWages"_s
                                << QStringList{u"txtTotalRegularPay"_s, u"txtTotalOvertimePay"_s, u"txtYearlyGross"_s};
         QTest::newRow("a project") << u"frmViewProject"_s << QStringList();
+        QTest::newRow("loan payments") << u"frmPaymentCalculator"_s << QStringList{u"lblMonthlyPayment"_s};
+        QTest::newRow("interest rates") << u"frmInterestRateCalculator"_s << QStringList{u"lblInterestRate"_s};
+        QTest::newRow("savings") << u"frmSavings"_s << QStringList{u"lblFutureValue"_s};
     }
     void TheFilledHouseholdFillsTheWindows()
     {
@@ -338,8 +341,11 @@ private Q_SLOTS:
             {u"frmCreditors"_s, {u"txtCreditorAmount"_s}},
             {u"frmEnvironmentSettings"_s, {u"txtPaycheckAmount"_s}},
             {u"frmExtras"_s, {u"txtExtraItemAmount"_s}},
+            {u"frmInterestRateCalculator"_s, {u"txtBorrowedAmount"_s, u"txtMonthlyPayments"_s}},
+            {u"frmPaymentCalculator"_s, {u"txtBorrowedAmount"_s}},
             {u"frmProjects"_s, {u"txtProjectAmount"_s, u"txtProjectCompletionDate"_s}},
             {u"frmRegulars"_s, {u"txtRegularAmount"_s}},
+            {u"frmSavings"_s, {u"txtMonthlyDeposits"_s, u"txtCurrentSavingsAmount"_s}},
             {u"frmSetCurrentPayPeriod"_s, {u"txtCurrentPayPeriod"_s}},
         };
         QFETCH(QString, window);
