@@ -108,6 +108,27 @@ private Q_SLOTS:
         window.Squeeze(Wide);
         QCOMPARE(window.Text->height(), window.Need(Wide));
     }
+
+    void TheLongestTextHasItsRoomFromTheStart()
+    {
+        TextWindow window;
+        const QString longest = window.Text->text();
+        const int need = window.Need(Narrow);
+        window.Text->setText(QString());
+        window.Text->setProperty("longestText", longest);
+        window.show();
+        window.Squeeze(Narrow);
+        QCOMPARE(window.Text->height(), need);
+        const int height = window.height();
+        window.Text->setText(longest);
+        window.Squeeze(Narrow);
+        QCOMPARE(window.height(), height); // nothing moves
+        QCOMPARE(window.Text->height(), need);
+        window.Text->setText(longest + longest); // longer than anybody thought
+        window.Squeeze(Narrow);
+        QCOMPARE(window.Text->height(), window.Need(Narrow));
+        QVERIFY(window.Text->height() > need);
+    }
 };
 
 REGISTER_TEST(gui_form)
