@@ -1,0 +1,128 @@
+// The worked examples of docs/figures.md: what the page tells is what the program computes.
+#include "FakeDesk.h"
+#include "Figures.h"
+#include "TestProgram.h"
+
+#include "debt/Amortization.h"
+#include "debt/Loans.h"
+#include "platform/values/Format.h"
+#include "platform/values/Numbers.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A row of the test for each row of an example.
+void TakeExamples(const QString &heading)
+{
+    QTest::addColumn<Figures>("figures");
+    int number = 0;
+    for (const Figures &figures : ExamplesOf(heading))
+        QTest::addRow("example %d", ++number) << figures;
+    QVERIFY(number > 0);
+}
+
+void TakeWhenDue(const Figures &figures)
+{
+    const QString due = figures[u"Payment Due"_s];
+    QVERIFY(due == u"Beginning of Pay Period"_s || due == u"End of Pay Period"_s);
+    Debt.LoanPaymentDue = due == u"Beginning of Pay Period"_s ? 1 : 0;
+}
+
+QString LabelOf(const StatementRow &row)
+{
+    return row.Texts.value(0);
+}
+
+} // namespace
+
+class tst_figures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void LoanPaymentIsAsToldThere_data() { TakeExamples(u"Loan payment"_s); }
+    void LoanPaymentIsAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        TakeWhenDue(figures);
+        const std::optional<QString> sentence =
+            LoanPayment({figures[u"Borrowed Amount"_s], figures[u"Annual Percentage Rate (APR)"_s],
+                         figures[u"Number of Monthly Payments"_s]});
+        QVERIFY(sentence);
+        QCOMPARE(PlainText(Debt.LoanMonthlyPayment), figures[u"Kept"_s]);
+        QVERIFY2(sentence->contains(u" will be %1 for "_s.arg(figures[u"Shown"_s])), qPrintable(*sentence));
+    }
+
+    void InterestRateIsAsToldThere_data() { TakeExamples(u"Loan interest rate"_s); }
+    void InterestRateIsAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        TakeWhenDue(figures);
+        const std::optional<QString> sentence = LoanInterestRate(
+            {figures[u"Borrowed Amount"_s], figures[u"Monthly Payments"_s], figures[u"Number of Monthly Payments"_s]});
+        QVERIFY(sentence);
+        QVERIFY2(sentence->endsWith(u" is "_s + figures[u"Shown"_s]), qPrintable(*sentence));
+    }
+
+    void SavingsAreAsToldThere_data() { TakeExamples(u"Savings"_s); }
+    void SavingsAreAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        TakeWhenDue(figures);
+        const QString sentence =
+            FutureSavings({figures[u"Monthly Deposits"_s], figures[u"Annual Percentage Rate (APR)"_s],
+                           figures[u"Number of Monthly Deposits"_s], figures[u"Current Savings Amount"_s]});
+        QCOMPARE(PlainText(Debt.SavingsFutureValue), figures[u"Kept"_s]);
+        QVERIFY2(sentence.contains(u" worth %1 after "_s.arg(figures[u"Shown"_s])), qPrintable(sentence));
+    }
+
+    void TheTableIsAsToldThere_data() { TakeExamples(u"Amortization table"_s); }
+    void TheTableIsAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        const Figures loan = ExamplesOf(u"Loan payment"_s).value(0); // "the mortgage above"
+        TakeWhenDue(loan);
+        QVERIFY(LoanPayment({loan[u"Borrowed Amount"_s], loan[u"Annual Percentage Rate (APR)"_s],
+                             loan[u"Number of Monthly Payments"_s]}));
+        Statement table;
+        Amortize(table);
+        const auto row = std::find_if(table.Rows.begin(), table.Rows.end(),
+                                      [&](const StatementRow &each) { return LabelOf(each) == figures[u"Month"_s]; });
+        QVERIFY(row != table.Rows.end());
+        QCOMPARE(FormatCurrency(row->Amounts[0]), figures[u"Payment"_s]);
+        QCOMPARE(FormatCurrency(row->Amounts[1]), figures[u"Principal"_s]);
+        QCOMPARE(FormatCurrency(row->Amounts[2]), figures[u"Interest"_s]);
+    }
+
+    void ThePaymentLeadsBackToItsRate()
+    {
+        FakeDesk desk;
+        QVERIFY(LoanPayment({u"200000"_s, u"6"_s, u"360"_s}));
+        QCOMPARE(FormatCurrency(Debt.LoanMonthlyPayment), u"$1,199.10"_s);
+        const std::optional<QString> sentence =
+            LoanInterestRate({u"200000"_s, FormatCurrency(Debt.LoanMonthlyPayment), u"360"_s});
+        QVERIFY(sentence && sentence->endsWith(u" is 6.00%"_s));
+    }
+
+    // The rows are the whole table, so what the page says of their sum can be checked against the loan.
+    void ThePrincipalMissesTheLoanByWhatThePageAllows()
+    {
+        FakeDesk desk;
+        const Figures loan = ExamplesOf(u"Loan payment"_s).value(0);
+        const QList<Figures> rows = ExamplesOf(u"Amortization table"_s);
+        QVERIFY(!rows.isEmpty());
+        const Currency principal = ToCurrency(rows.last()[u"Principal"_s]);
+        const Currency borrowed = ToCurrency(loan[u"Borrowed Amount"_s]);
+        const int payments = ToInteger(loan[u"Number of Monthly Payments"_s]);
+        QCOMPARE(principal - borrowed, Currency::FromTenThousandths(1000)); // ten cents
+        QVERIFY((principal - borrowed).TenThousandths() <= 50 * payments);
+    }
+};
+
+REGISTER_TEST(tst_figures)
+#include "tst_figures.moc"
