@@ -18,7 +18,7 @@ constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
 constexpr int MeasuredLetter = 5; // pixels
 constexpr int RowsAtLeast = 6;
-constexpr int MostLetters = 120;  // that a grid claims the width of
+constexpr int MostLetters = 124;  // that a grid claims the width of
 constexpr int HairlineAlpha = 60; // of 255
 } // namespace
 
@@ -500,12 +500,18 @@ int Grid::NaturalWidth() const
            2 * RowLook::Margin * Columns();
 }
 
+/// The columns of a wide grid share less where the screen has less.
+int Grid::LeastWidth() const
+{
+    return qMin(NaturalWidth(), MostLetters * fontMetrics().averageCharWidth());
+}
+
 void Grid::ShareWidth()
 {
     const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
     if (total == 0 || m_model->columnCount() != Columns())
         return;
-    const int width = qMax(viewport()->width(), NaturalWidth());
+    const int width = qMax(viewport()->width(), LeastWidth());
     int used = 0;
     for (int column = 0; column < Columns(); ++column) {
         const bool last = column == Columns() - 1;
@@ -552,6 +558,5 @@ QSize Grid::minimumSizeHint() const
 {
     // A grid of usual width needs no scrolling sideways, also when its columns get their widths late.
     const int scrollBar = 24;
-    const int most = MostLetters * fontMetrics().averageCharWidth();
-    return {qMin(NaturalWidth(), most) + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
+    return {LeastWidth() + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
 }

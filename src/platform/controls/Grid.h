@@ -101,6 +101,7 @@ protected:
 
 private:
     int NaturalWidth() const;
+    int LeastWidth() const;
     void ShareWidth();
     void ShareHeight();
     GridModel *m_model;

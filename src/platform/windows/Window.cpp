@@ -47,7 +47,7 @@ void WindowBase::Trap(const std::function<void()> &steps)
 void WindowBase::ShowText(const QString &text, int helpContext) const
 {
     const bool help = m_look.TheButtons == Buttons::OkHelp;
-    ShowMessage(text, m_look.Title, m_look.TheIcon, m_look.TheButtons,
+    ShowMessage(text, m_look.Title.isEmpty() ? windowTitle() : m_look.Title, m_look.TheIcon, m_look.TheButtons,
                 help ? (helpContext ? helpContext : m_look.HelpContext) : 0);
 }
 

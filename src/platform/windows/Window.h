@@ -11,7 +11,7 @@ class QAbstractButton;
 
 /// How the messages of a window look, and where its help opens on F1 and from their help button.
 struct MessageLook {
-    QString Title;
+    QString Title; ///< empty: the one that the window has at the time
     Icon TheIcon = Icon::Stop;
     Buttons TheButtons = Buttons::Ok;
     int HelpContext = 0;
