@@ -23,21 +23,26 @@ void PrintRule(const PageColumns &columns)
     ThePrinter.NewLine();
 }
 
-void PrintCentred(const QString &text)
+} // namespace
+
+void BeginReport(const QString &documentName)
 {
-    ThePrinter.CentredLine(text);
+    ApplyPrintSettings();
+    ThePrinter.DocumentName = documentName;
+    PrintHeading(ReportTitle);
+}
+
+void PrintHeading(const QString &heading)
+{
+    ThePrinter.CentredLine(heading);
     ThePrinter.NewLine();
 }
 
-} // namespace
-
 void PrintStatement(const Statement &statement, const PageColumns &columns)
 {
-    ApplyPrintSettings();
-    ThePrinter.DocumentName = statement.Name;
-    PrintCentred(ReportTitle);
+    BeginReport(statement.Name);
     if (!statement.Opening.Texts.isEmpty()) {
-        PrintCentred(statement.Heading);
+        PrintHeading(statement.Heading);
         PrintRow(statement.Opening, columns);
         PrintRule(columns);
     }

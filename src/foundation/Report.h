@@ -12,6 +12,12 @@ struct PageColumns {
 inline const PageColumns AmountPage{{15}, {65}, 50};
 inline const PageColumns TablePage{{5, 38, 62}, {47, 75}, 70};
 
+/// Opens a document of that name: applies the print settings and prints the title.
+void BeginReport(const QString &documentName);
+
+/// Prints a heading below the title, in the middle of the page, and an empty line.
+void PrintHeading(const QString &heading);
+
 /// Applies the print settings and prints the title, the statement's heading and opening if it has them, and its rows.
 /// The document stays open.
 void PrintStatement(const Statement &statement, const PageColumns &columns);
