@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QSet>
 
 class TutorRequests : public QObject
 {
@@ -12,3 +13,7 @@ Q_SIGNALS:
     void PageWanted(int page);
 };
 inline TutorRequests TheTutorRequests;
+
+/// The names of the windows that stopped the tutor's running timer when they were loaded and start it again when they
+/// end.
+inline QSet<QString> RememberedTutorTimer;

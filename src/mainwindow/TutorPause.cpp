@@ -1,5 +1,6 @@
 #include "mainwindow/TutorPause.h"
 
+#include "foundation/Tutor.h"
 #include "foundation/WindowNames.h"
 #include "platform/windows/WindowRegister.h"
 

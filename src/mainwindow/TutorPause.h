@@ -1,7 +1,6 @@
 // While one of certain windows is loaded, the tutor's timer stands still, so that its pages do not jump at the user.
 #pragma once
 
-#include <QSet>
 #include <QTimer>
 
 class TutorPause : public QObject
@@ -15,5 +14,4 @@ private:
     void Resume(const QString &window);
 
     QTimer &m_timer;
-    QSet<QString> RememberedTutorTimer; ///< the windows that stopped a running timer and start it again
 };

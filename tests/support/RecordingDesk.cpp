@@ -43,6 +43,7 @@ void ResetProgram()
     Debt = {};
     Income = {};
     Shopping = {};
+    RememberedTutorTimer.clear();
     // Whoever stands behind a door and outlived its test hears no more of it.
     for (QObject *door :
          std::initializer_list<QObject *>{&TheTutorRequests, &TheBudgetOutlet, &TheForecastOutlet, &ThePayPeriodOutlet,
