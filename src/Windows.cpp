@@ -10,7 +10,10 @@
 #include "commitments/frmRegulars.h"
 #include "commitments/frmViewProject.h"
 #include "debt/frmAmortization.h"
+#include "debt/frmCreditorInfo.h"
+#include "debt/frmInput.h"
 #include "debt/frmInterestRateCalculator.h"
+#include "debt/frmPayOff.h"
 #include "debt/frmPaymentCalculator.h"
 #include "debt/frmSavings.h"
 #include "debt/frmSelectMonth.h"
@@ -54,6 +57,9 @@ void RegisterWindows()
     Register<frmExtras>(WindowName::frmExtras);
     Register<frmProjects>(WindowName::frmProjects);
     Register<frmViewProject>(WindowName::frmViewProject);
+    Register<frmPayOff>(WindowName::frmPayOff);
+    Register<frmInput>(WindowName::frmInput);
+    Register<frmCreditorInfo>(WindowName::frmCreditorInfo);
     Register<frmPaymentCalculator>(WindowName::frmPaymentCalculator);
     Register<frmSelectMonth>(WindowName::frmSelectMonth);
     Register<frmAmortization>(WindowName::frmAmortization);

@@ -2,6 +2,8 @@
 
 #include "GuiDesk.h"
 #include "Palettes.h"
+#include "debt/PayOffPlan.h"
+#include "debt/frmInput.h"
 #include "foundation/Calendar.h"
 
 #include <QApplication>
@@ -76,6 +78,28 @@ void ClickAllOf(const QString &window)
             Click(window, control);
 }
 
+/// Three debts for the pay off plan, as far as the dialogue has named them or taken their figures.
+void EnterDebts(bool withFigures)
+{
+    const QList<PayOffEntry> debts{{u"Department Store"_s, u"300"_s, u"21"_s, u"50"_s, u"1/20/2026"_s},
+                                   {u"Credit Card"_s, u"5000"_s, u"18"_s, u"100"_s, u"1/15/2026"_s},
+                                   {u"Dr. Miller"_s, u"640"_s, u"0"_s, u"80"_s, u"2/1/2026"_s}};
+    RedimPayOffCreditors(QString::number(debts.size()));
+    for (int i = 1; i <= debts.size(); ++i) {
+        Debt.PayOffCreditorNames(i) = debts[i - 1].Name;
+        if (withFigures)
+            StorePayOffCreditor(i, debts[i - 1]);
+    }
+}
+
+void PlanToPayOff()
+{
+    EnterDebts(true);
+    CalculateMonthsToPay();
+    SortPayOffCreditors();
+    BuildPayOffPlan();
+}
+
 QByteArray Contents(const QString &path)
 {
     QFile file(path);
@@ -135,7 +159,17 @@ bool ShowAtWork(const QString &window, Household household)
         FillIn(u"frmPaymentCalculator"_s);
         ClickAllOf(u"frmPaymentCalculator"_s);
     }
+    if (window == u"frmCreditorInfo"_s) // the dialogue before it has taken the names
+        EnterDebts(false);
+    if (window == u"frmInput"_s && household == Household::Filled)
+        frmInput::Prepare(
+            {.Title = InputTitle::CreditorName,
+             .Tip = {},
+             .Prompt = u"In the box below enter the name of the creditor or bill that would be Creditor # 1"_s,
+             .Answer = u"Department Store"_s});
     Show(window);
+    if (window == u"frmPayOff"_s && household == Household::Filled)
+        PlanToPayOff();
     for (const QString &clock : {u"frmMain"_s, u"frmSetCurrentPayPeriod"_s})
         if (Form *form = TheWindows.Loaded(clock))
             QMetaObject::invokeMethod(form->findChild<QTimer *>(u"Timer1"_s), "timeout");

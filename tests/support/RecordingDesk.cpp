@@ -6,7 +6,7 @@
 #include "budget/ScanPayPeriods.h"
 #include "commitments/Extras.h"
 #include "commitments/Projects.h"
-#include "debt/DebtState.h"
+#include "debt/PayOffPlan.h"
 #include "foundation/Tutor.h"
 #include "income/IncomeState.h"
 #include "shopping/ShoppingDoors.h"
@@ -47,7 +47,7 @@ void ResetProgram()
     // Whoever stands behind a door and outlived its test hears no more of it.
     for (QObject *door :
          std::initializer_list<QObject *>{&TheTutorRequests, &TheBudgetOutlet, &TheForecastOutlet, &ThePayPeriodOutlet,
-                                          &TheCompletionDateOutlet, &TheShoppingDoors})
+                                          &TheCompletionDateOutlet, &ThePayOffOutlet, &TheShoppingDoors})
         door->disconnect();
 }
 

@@ -27,6 +27,7 @@ const QMap<QString, RunCase> Areas{
     {QStringLiteral("scan"), RunScanCase},
     {QStringLiteral("commitments"), RunCommitmentsCase},
     {QStringLiteral("projects"), RunProjectsCase},
+    {QStringLiteral("payoff"), RunPayOffCase},
     {QStringLiteral("loans"), RunLoansCase},
     {QStringLiteral("amortization"), RunAmortizationCase},
     {QStringLiteral("rates"), RunRatesCase},

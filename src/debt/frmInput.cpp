@@ -1,0 +1,45 @@
+#include "debt/frmInput.h"
+
+#include "debt/DebtState.h"
+#include "foundation/WindowNames.h"
+#include "platform/windows/WindowRegister.h"
+
+namespace {
+constexpr EntryRule<Ui::frmInput> NumberRules[] = {{&Ui::frmInput::txtInput, Numeric, "Please enter a valid number"}};
+constexpr EntryRule<Ui::frmInput> NameRules[] = {{&Ui::frmInput::txtInput, NotEmpty, "Please enter creditor name"}};
+} // namespace
+
+// Its messages go by the title of the question.
+frmInput::frmInput() : Window({.Title = {}, .TheIcon = Icon::Warning})
+{
+    OnClick(ui.cmdOK, [this] { cmdOK_Click(); });
+    StartAt(ui.txtInput);
+}
+
+void frmInput::Prepare(const Question &question)
+{
+    auto &window = static_cast<frmInput &>(TheWindows.Touch(WindowName::frmInput));
+    Debt.InputPrompt = question.Prompt;
+    window.ui.lblPrompt->setText(Debt.InputPrompt);
+    window.setWindowTitle(question.Title);
+    window.ui.txtInput->setText(question.Answer);
+    window.ui.txtInput->setAccessibleDescription(question.Tip);
+    window.ui.txtInput->setToolTip(question.Tip);
+}
+
+bool frmInput::ValidateInput()
+{
+    if (windowTitle() == InputTitle::NumberOfCreditors)
+        return Accepts(NumberRules);
+    if (windowTitle() == InputTitle::CreditorName)
+        return Accepts(NameRules);
+    return true;
+}
+
+void frmInput::cmdOK_Click()
+{
+    if (!ValidateInput())
+        return;
+    Debt.InputResult = ui.txtInput->text();
+    Close();
+}

@@ -1,0 +1,18 @@
+// The window of the pay off plan: it starts the entry of some debts and shows in which order and when they are paid.
+#pragma once
+
+#include "debt/PayOffPlan.h"
+#include "platform/windows/Window.h"
+#include "ui_frmPayOff.h"
+
+class frmPayOff : public Window<Ui::frmPayOff>
+{
+public:
+    frmPayOff();
+    void Load() override;
+    void Unload() override;
+
+private:
+    void ShowPlan(const std::shared_ptr<const PayOffPlan> &plan);
+    void cmdEnterCreditors_Click();
+};
