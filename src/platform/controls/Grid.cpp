@@ -492,16 +492,21 @@ QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifier
     return m_model->index(action == MoveHome ? 0 : qMax(0, last), qMax(0, currentIndex().column()));
 }
 
-/// The widths of the columns were measured with letters five pixels wide; today's are wider.
-int Grid::NaturalWidth() const
+/// The widths of the columns were measured with letters five pixels wide.
+int Grid::WidthWith(int letter) const
 {
     const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
-    return total * qMax(MeasuredLetter, fontMetrics().averageCharWidth()) / MeasuredLetter / TwipsPerPixel +
-           2 * RowLook::Margin * Columns();
+    return total * letter / MeasuredLetter / TwipsPerPixel + 2 * RowLook::Margin * Columns();
 }
 
-/// The columns of a wide grid share less where the screen has less.
-int Grid::LeastWidth() const
+/// Today's letters are wider.
+int Grid::NaturalWidth() const
+{
+    return WidthWith(qMax(MeasuredLetter, fontMetrics().averageCharWidth()));
+}
+
+/// What a grid claims: a wide one leaves something of a small screen.
+int Grid::ClaimedWidth() const
 {
     return qMin(NaturalWidth(), MostLetters * fontMetrics().averageCharWidth());
 }
@@ -511,7 +516,7 @@ void Grid::ShareWidth()
     const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
     if (total == 0 || m_model->columnCount() != Columns())
         return;
-    const int width = qMax(viewport()->width(), LeastWidth());
+    const int width = qMax(viewport()->width(), qMax(ClaimedWidth(), WidthWith(MeasuredLetter)));
     int used = 0;
     for (int column = 0; column < Columns(); ++column) {
         const bool last = column == Columns() - 1;
@@ -558,5 +563,5 @@ QSize Grid::minimumSizeHint() const
 {
     // A grid of usual width needs no scrolling sideways, also when its columns get their widths late.
     const int scrollBar = 24;
-    return {LeastWidth() + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
+    return {ClaimedWidth() + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
 }

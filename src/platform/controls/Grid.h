@@ -100,8 +100,9 @@ protected:
     QSize minimumSizeHint() const override;
 
 private:
+    int WidthWith(int letter) const;
     int NaturalWidth() const;
-    int LeastWidth() const;
+    int ClaimedWidth() const;
     void ShareWidth();
     void ShareHeight();
     GridModel *m_model;
