@@ -18,7 +18,7 @@ constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
 constexpr int MeasuredLetter = 5; // pixels
 constexpr int RowsAtLeast = 6;
-constexpr int MostLetters = 124;  // that a grid claims the width of
+constexpr int MostLetters = 128;  // that a grid claims the width of
 constexpr int HairlineAlpha = 60; // of 255
 } // namespace
 
