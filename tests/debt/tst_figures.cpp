@@ -5,6 +5,10 @@
 
 #include "debt/Amortization.h"
 #include "debt/Loans.h"
+#include "foundation/State.h"
+#include "income/AverageNet.h"
+#include "income/TotalHours.h"
+#include "income/Wages.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
@@ -27,6 +31,15 @@ void TakeWhenDue(const Figures &figures)
     const QString due = figures[u"Payment Due"_s];
     QVERIFY(due == u"Beginning of Pay Period"_s || due == u"End of Pay Period"_s);
     Debt.LoanPaymentDue = due == u"Beginning of Pay Period"_s ? 1 : 0;
+}
+
+void TakeFrequency(const Figures &figures)
+{
+    static const QHash<QString, qint16> frequencies{
+        {u"Weekly"_s, Weekly}, {u"Biweekly"_s, Biweekly}, {u"Semimonthly"_s, Semimonthly}, {u"Monthly"_s, Monthly}};
+    const QString paid = figures[u"Paid"_s];
+    QVERIFY2(frequencies.contains(paid), qPrintable(paid));
+    State.PayFrequency = frequencies[paid];
 }
 
 QString LabelOf(const StatementRow &row)
@@ -97,6 +110,58 @@ private Q_SLOTS:
         QCOMPARE(FormatCurrency(row->Amounts[0]), figures[u"Payment"_s]);
         QCOMPARE(FormatCurrency(row->Amounts[1]), figures[u"Principal"_s]);
         QCOMPARE(FormatCurrency(row->Amounts[2]), figures[u"Interest"_s]);
+    }
+
+    void WagesAreAsToldThere_data() { TakeExamples(u"Wages"_s); }
+    void WagesAreAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        TakeFrequency(figures);
+        State.AverageNetPercentage = FractionOf(figures[u"Average Net Percentage"_s]);
+        WageBoxes boxes;
+        boxes.HourlyPayRate = figures[u"Hourly Pay Rate"_s];
+        boxes.TotalHoursWorked = figures[u"Total Hours Worked"_s];
+        if (State.PayFrequency == Weekly) {
+            CalculateWeeklyWages(boxes);
+        } else {
+            Income.TotalRegularHours = ToSingle(figures[u"Regular Hours"_s]);
+            Income.TotalOvertimeHours = ToSingle(figures[u"Overtime Hours"_s]);
+            CalculatePeriodWages(boxes);
+        }
+        QCOMPARE(boxes.RegularHours, figures[u"Regular Hours"_s]);
+        QCOMPARE(boxes.OvertimeHours, figures[u"Overtime Hours"_s]);
+        QCOMPARE(boxes.GrossPay, figures[u"Gross Pay"_s]);
+        QCOMPARE(boxes.NetPay, figures[u"Net Pay"_s]);
+        QCOMPARE(boxes.MonthlyGross, figures[u"Monthly Gross"_s]);
+        QCOMPARE(boxes.YearlyGross, figures[u"Yearly Gross"_s]);
+        QCOMPARE(PlainText(State.PaycheckAmount), figures[u"Kept"_s]);
+    }
+
+    void TotalHoursAreAsToldThere_data() { TakeExamples(u"Total hours"_s); }
+    void TotalHoursAreAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        TakeFrequency(figures);
+        WeekTexts weeks;
+        for (std::size_t week = 0; week < weeks.size(); ++week)
+            weeks[week] = figures[u"Week %1"_s.arg(week + 1)];
+        TakeHours(weeks);
+        QCOMPARE(Format(Income.TotalRegularHours, NumberFormat::Fixed), figures[u"Regular Hours"_s]);
+        QCOMPARE(Format(Income.TotalOvertimeHours, NumberFormat::Fixed), figures[u"Overtime Hours"_s]);
+        QCOMPARE(Format(Income.TotalHoursWorked, NumberFormat::Fixed), figures[u"Total Hours Worked"_s]);
+    }
+
+    void AverageNetPercentageIsAsToldThere_data() { TakeExamples(u"Average net percentage"_s); }
+    void AverageNetPercentageIsAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        CalculateAverageNet({figures[u"First Check Gross"_s], figures[u"First Check Net"_s],
+                             figures[u"Second Check Gross"_s], figures[u"Second Check Net"_s]});
+        QCOMPARE(PerCent(State.AverageNetPercentage), figures[u"Shown"_s]);
+        QCOMPARE(PlainText(State.AverageNetPercentage), figures[u"Kept"_s]);
     }
 
     void ThePaymentLeadsBackToItsRate()
