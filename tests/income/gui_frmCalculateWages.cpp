@@ -3,6 +3,10 @@
 #include "IncomeDesk.h"
 #include "TestProgram.h"
 
+#include "platform/values/Locale.h"
+
+#include <QScopeGuard>
+
 using namespace Qt::Literals::StringLiterals;
 using namespace Test;
 
@@ -340,6 +344,26 @@ private Q_SLOTS:
                  u"$10.00 | 40.00 | $400.00 | $15.00 | 1.00 | $15.00 | $415.00 | $373.50 | $1,798.33 | $21,580.00 | "
                  u"$373.50"_s);
         QCOMPARE(TextOf(Wages, Worked), u"41.40"_s);
+    }
+
+    void AnotherLocaleCountsTheSameHoursAndMoney()
+    {
+        GuiDesk desk;
+        const QLocale before = UserLocale();
+        const auto putBack = qScopeGuard([&] { SetUserLocale(before); });
+        SetUserLocale(QLocale(QLocale::German, QLocale::Germany));
+        TakeHousehold(Biweekly);
+        Show(Wages);
+        Click(Wages, Calculate); // what the rate begins with is a number there, too
+        PressEnter(Wages, Worked);
+        EnterHours({u"42,5"_s, u"30"_s});
+        QCOMPARE(TextOf(Wages, Worked), u"72,50"_s);
+        Type(Wages, Rate, u"12,50"_s);
+        Click(Wages, Calculate);
+        QCOMPARE(TextOf(Wages, u"txtRegularHours"_s), u"70,00"_s);
+        QCOMPARE(Income.WageGrossPay, Currency::FromTenThousandths(9218750)); // 875 and 46.875
+        CloseByFrame(Wages);
+        QCOMPARE(Income.TotalHoursWorked, 72.5F);
     }
 
     void WithoutHoursOfTheirWindowAPeriodPaysNothing_data()
