@@ -50,7 +50,7 @@ private:
             left += QStringLiteral("the end of the program");
         if (Unscripted)
             left += QStringLiteral("a question without a scripted answer");
-        if (!Answers.isEmpty() || !FileAnswers.isEmpty())
+        if (!Answers.isEmpty() || !FileAnswers.isEmpty() || !PrinterAnswers.isEmpty() || !FontAnswers.isEmpty())
             left += QStringLiteral("a scripted answer without its question");
         return left;
     }

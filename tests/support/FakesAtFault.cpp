@@ -65,6 +65,26 @@ private Q_SLOTS:
         FakeDesk desk;
         TheDesk.AskFile({});
     }
+    void APrinterDialogWithoutAnAnswer()
+    {
+        FakeDesk desk;
+        TheDesk.AskPrinter();
+    }
+    void AFontDialogWithoutAnAnswer()
+    {
+        FakeDesk desk;
+        TheDesk.AskFont();
+    }
+    void AChosenPrinterWithoutItsDialog()
+    {
+        FakeDesk desk;
+        desk.PrinterAnswers = {true};
+    }
+    void AChosenFontWithoutItsDialog()
+    {
+        FakeDesk desk;
+        desk.FontAnswers = {PrintFont()};
+    }
     void AnAnswerWithoutAQuestion()
     {
         FakeDesk desk;

@@ -57,6 +57,13 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
     TheDesk.ProgramTitle = AppTitle;
     State.ApplicationPath = Folder();
     State.StoresDirectory = Folder() + QStringLiteral("\\stores\\");
+    // The next scripted answer; a question that nobody scripted one for is cancelled.
+    const auto next = [this](auto &answers) {
+        if (!answers.isEmpty())
+            return answers.takeFirst();
+        Unscripted = true;
+        return typename std::decay_t<decltype(answers)>::value_type();
+    };
     TheDesk.ShowMessage = [this](const Message &message) {
         Messages += message;
         if (message.TheButtons != Buttons::YesNo)
@@ -67,14 +74,12 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
         }
         return Answers.takeFirst();
     };
-    TheDesk.AskFile = [this](const FileQuestion &question) {
+    TheDesk.AskFile = [this, next](const FileQuestion &question) {
         FileQuestions += question;
-        if (FileAnswers.isEmpty()) {
-            Unscripted = true;
-            return QString();
-        }
-        return FileAnswers.takeFirst();
+        return next(FileAnswers);
     };
+    TheDesk.AskPrinter = [this, next] { return next(PrinterAnswers); };
+    TheDesk.AskFont = [this, next] { return next(FontAnswers); };
     TheDesk.ShowHelp = [this](const HelpQuestion &question) { HelpQuestions += question; };
     TheDesk.PrintDocument = [this](const PrintJob &job) { Printed += job; };
     TheDesk.Now = [this] { return Now; };

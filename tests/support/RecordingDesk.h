@@ -52,10 +52,12 @@ public:
     bool Ended = false;
 
     // What it is answered
-    QList<Answer> Answers;          ///< for boxes with Yes and No, in order
-    QStringList FileAnswers;        ///< for file dialogs, in order
-    QMap<QString, QString> Options; ///< as the store holds them, keys in lower case
-    QSet<QString> SavedOptions;     ///< keys of those that the program set
+    QList<Answer> Answers;                       ///< for boxes with Yes and No, in order
+    QStringList FileAnswers;                     ///< for file dialogs, in order
+    QList<bool> PrinterAnswers;                  ///< for printer dialogs, in order: whether one is chosen
+    QList<std::optional<PrintFont>> FontAnswers; ///< for font dialogs, in order; nothing: cancelled
+    QMap<QString, QString> Options;              ///< as the store holds them, keys in lower case
+    QSet<QString> SavedOptions;                  ///< keys of those that the program set
     QDateTime Now{QDate(2004, 1, 5), QTime(9, 30)};
     int StartCalculatorError = 0; ///< 0: it starts
     int BringForwardError = 0;

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QString>
 #include <functional>
+#include <optional>
 
 enum class Icon { None, Stop, Question, Warning, Information };
 enum class Buttons { Ok, OkHelp, YesNo };
@@ -45,6 +46,10 @@ struct Desk {
     std::function<QString(const FileQuestion &)> AskFile; ///< empty: cancelled
     std::function<void(const HelpQuestion &)> ShowHelp;
     std::function<void(const PrintJob &)> PrintDocument;
+    /// The printer dialog: whether a printer was chosen, which every later document is printed on. False: cancelled.
+    std::function<bool()> AskPrinter;
+    /// The font dialog, which opens on a font of its own. Nothing: cancelled.
+    std::function<std::optional<PrintFont>()> AskFont;
     std::function<QDateTime()> Now;
     std::function<QString()> ProgramFolder; ///< folder of the executable, where the household lies
     std::function<QString(const QString &key, const QString &fallback)> GetSetting; ///< section "Options"

@@ -4,14 +4,17 @@
 #include "platform/values/Locale.h"
 #include "platform/values/RuntimeError.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -114,24 +117,29 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
     return pages;
 }
 
-QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
+namespace {
+
+/// The default printer, or any where none is the default one; null where none is installed.
+std::unique_ptr<QPrinter> UsualPrinter()
 {
     QPrinterInfo info = QPrinterInfo::defaultPrinter();
-    if (info.isNull()) // printers may be installed without one being the default
+    if (info.isNull())
         info = QPrinterInfo::availablePrinters().value(0);
     if (info.isNull())
-        return PrintToPaperOrPdf(job, folder, nullptr);
-    QPrinter printer(info, QPrinter::HighResolution);
-    printer.setDocName(job.Name);
-    printer.setPageMargins(PageMargins, QPageLayout::Millimeter);
-    return PrintToPaperOrPdf(job, folder, &printer);
+        return nullptr;
+    auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+    printer->setPageMargins(PageMargins, QPageLayout::Millimeter);
+    return printer;
 }
 
-QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPaintDevice *printer)
+QPageLayout UsualLayout()
 {
-    // A printer that fails does not take the pages with it: they become PDF like without one.
-    if (printer && ResumeNext([&] { DrawDocument(job, *printer); }, [](const RuntimeError &) {}))
-        return {};
+    return {QPageSize(PaperOf(UserLocale())), QPageLayout::Portrait, PageMargins, QPageLayout::Millimeter};
+}
+
+/// Prints to a new file of the folder, and tells its path.
+QString PrintToPdf(const PrintJob &job, const QString &folder, const QPageLayout &layout)
+{
     const QString path = FreePdfPath(WritableFolder(folder), job.Name);
     QSaveFile file(path); // a disk that fills up leaves no half document behind
     if (!file.open(QIODevice::WriteOnly))
@@ -140,11 +148,89 @@ QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPain
         QPdfWriter pdf(&file);
         pdf.setCreator(TheDesk.ProgramTitle);
         pdf.setTitle(job.Name);
-        pdf.setPageSize(QPageSize(PaperOf(UserLocale())));
-        pdf.setPageMargins(PageMargins, QPageLayout::Millimeter);
+        pdf.setPageLayout(layout);
         DrawDocument(job, pdf);
     }
     if (!file.commit())
         RaiseError(RuntimeError::DeviceError);
     return path;
+}
+
+bool IsFile(const QPrinter &printer)
+{
+    return printer.outputFormat() == QPrinter::PdfFormat;
+}
+
+/// A printer to be asked about, which stands as `present` does, or null for the usual one.
+std::unique_ptr<QPrinter> CopyOf(const QPrinter *present, const QString &pdfFolder)
+{
+    std::unique_ptr<QPrinter> copy = present ? nullptr : UsualPrinter();
+    if (!copy)
+        copy = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (present && !IsFile(*present))
+        copy->setPrinterName(present->printerName());
+    // A name that is free: the dialog would warn of a file that stands there, but no document replaces one.
+    if (IsFile(present ? *present : *copy))
+        copy->setOutputFileName(FreePdfPath(present ? QFileInfo(present->outputFileName()).path() : pdfFolder, {}));
+    copy->setPageLayout(present ? present->pageLayout() : IsFile(*copy) ? UsualLayout() : copy->pageLayout());
+    if (present)
+        copy->setCopyCount(present->copyCount());
+    return copy;
+}
+
+} // namespace
+
+DocumentPrinter::DocumentPrinter(const QString &pdfFolder) : m_pdfFolder(pdfFolder) {}
+
+DocumentPrinter::~DocumentPrinter() = default;
+
+bool DocumentPrinter::Choose(QWidget *above)
+{
+    const bool made = !QDir(m_pdfFolder).exists();
+    auto asked = CopyOf(m_chosen.get(), WritableFolder(m_pdfFolder));
+    QPrintDialog dialog(asked.get(), above);
+    dialog.setObjectName(QStringLiteral("printerDialog"));
+    dialog.setWindowTitle(QStringLiteral("Printer Select"));
+    // A report is printed whole, and not before its own button is pressed.
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    if (auto *buttons = dialog.findChild<QDialogButtonBox *>(); buttons && buttons->button(QDialogButtonBox::Ok))
+        buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    if (made)
+        QDir().rmdir(m_pdfFolder); // the dialog only wants a folder that is there; printing makes it again
+    if (!accepted)
+        return false;
+    m_chosen = std::move(asked);
+    return true;
+}
+
+void DocumentPrinter::Forget()
+{
+    m_chosen.reset();
+}
+
+PrintedDocument DocumentPrinter::Print(const PrintJob &job)
+{
+    if (!m_chosen)
+        return {PrintToPaperOrPdf(job, m_pdfFolder)};
+    if (IsFile(*m_chosen))
+        return {PrintToPdf(job, QFileInfo(m_chosen->outputFileName()).path(), m_chosen->pageLayout()), true};
+    m_chosen->setDocName(job.Name);
+    return {PrintToPaperOrPdf(job, m_pdfFolder, m_chosen.get())};
+}
+
+QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)
+{
+    const auto printer = UsualPrinter();
+    if (printer)
+        printer->setDocName(job.Name);
+    return PrintToPaperOrPdf(job, folder, printer.get());
+}
+
+QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPaintDevice *printer)
+{
+    // A printer that fails does not take the pages with it: they become PDF like without one.
+    if (printer && ResumeNext([&] { DrawDocument(job, *printer); }, [](const RuntimeError &) {}))
+        return {};
+    return PrintToPdf(job, folder, UsualLayout());
 }

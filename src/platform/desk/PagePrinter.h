@@ -3,8 +3,41 @@
 
 #include "platform/desk/PrintJob.h"
 
+#include <memory>
+
 class QPagedPaintDevice;
 class QPainter;
+class QPageLayout;
+class QPrinter;
+class QWidget;
+
+/// Where a document went.
+struct PrintedDocument {
+    QString PdfPath = {};     ///< empty: it is on paper
+    bool PdfIsChosen = false; ///< the user has asked for a file
+    bool operator==(const PrintedDocument &) const = default;
+};
+
+/// What documents are printed on: the default printer until another one is chosen, for as long as this lives.
+class DocumentPrinter
+{
+public:
+    /// pdfFolder: where documents go as PDF where no printer can be used.
+    explicit DocumentPrinter(const QString &pdfFolder);
+    ~DocumentPrinter();
+
+    /// Shows the printer dialog above a window. A printer or a file that is chosen there, with its paper and its
+    /// copies, holds for every later document; false: cancelled, and nothing has changed.
+    bool Choose(QWidget *above);
+    /// Prints as PrintToPaperOrPdf(), or, where a file was chosen, to a new PDF file beside it.
+    PrintedDocument Print(const PrintJob &job);
+    /// Goes back to the default printer. What was chosen does not outlive the application.
+    void Forget();
+
+private:
+    QString m_pdfFolder;
+    std::unique_ptr<QPrinter> m_chosen; ///< null: none yet
+};
 
 /// Prints to the default printer; on a machine without one, or where it fails, to a new PDF file in `folder`, whose
 /// path is returned. The file is called by the day and the document's name, and is as large as the paper of the user's

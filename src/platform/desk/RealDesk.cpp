@@ -4,6 +4,7 @@
 #include "platform/desk/Desk.h"
 #include "platform/desk/Options.h"
 #include "platform/desk/PagePrinter.h"
+#include "platform/desk/PrinterFont.h"
 #include "platform/files/DataFile.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -128,9 +129,10 @@ public:
         connect(&m_timer, &QTimer::timeout, this, [this] { UserIsBusy() ? m_timer.start(Rest) : Show(); });
     }
 
-    void Add(const QString &path)
+    void Add(const PrintedDocument &document)
     {
-        m_paths += path;
+        m_paths += document.PdfPath;
+        m_allAreChosen = m_allAreChosen && document.PdfIsChosen;
         m_timer.start(Rest);
     }
 
@@ -141,10 +143,11 @@ public:
         if (m_paths.isEmpty())
             return;
         const QStringList paths = std::exchange(m_paths, {});
-        const QString words = paths.size() == 1
-                                  ? QStringLiteral("No printer could be used. The printed pages are in the file\n%1")
-                                  : QStringLiteral("No printer could be used. The printed pages are in the files\n%1");
-        ShowMessage(words.arg(paths.join(QLatin1Char('\n'))), TheDesk.ProgramTitle, Icon::Information);
+        const QString reason =
+            std::exchange(m_allAreChosen, true) ? QString() : QStringLiteral("No printer could be used. ");
+        const QString place = paths.size() == 1 ? QStringLiteral("The printed pages are in the file\n")
+                                                : QStringLiteral("The printed pages are in the files\n");
+        ShowMessage(reason + place + paths.join(QLatin1Char('\n')), TheDesk.ProgramTitle, Icon::Information);
     }
 
 private:
@@ -161,6 +164,7 @@ private:
 
     QTimer m_timer;
     QStringList m_paths;
+    bool m_allAreChosen = true; // the user asked for files, so no word of a printer
 };
 
 } // namespace
@@ -175,10 +179,22 @@ void InstallRealDesk(const QString &programTitle, const QString &printedFolder)
                     Icon::Information);
     };
     const auto notice = std::make_shared<PdfNotice>();
-    TheDesk.PrintDocument = [printedFolder, notice](const PrintJob &job) {
-        const QString pdf = PrintToPaperOrPdf(job, printedFolder);
-        if (!pdf.isEmpty())
-            notice->Add(pdf);
+    const auto printer = std::make_shared<DocumentPrinter>(printedFolder);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, [printer] { printer->Forget(); });
+    TheDesk.PrintDocument = [printer, notice](const PrintJob &job) {
+        const PrintedDocument document = printer->Print(job);
+        if (!document.PdfPath.isEmpty())
+            notice->Add(document);
+    };
+    TheDesk.AskPrinter = [printer] {
+        bool chosen = false;
+        TheWindows.WhileAway([&] { chosen = printer->Choose(DialogParent()); });
+        return chosen;
+    };
+    TheDesk.AskFont = [] {
+        std::optional<PrintFont> font;
+        TheWindows.WhileAway([&] { font = AskPrinterFont(DialogParent()); });
+        return font;
     };
     TheDesk.Now = [] { return QDateTime::currentDateTime(); };
     TheDesk.ProgramFolder = [] { return QCoreApplication::applicationDirPath(); };
