@@ -23,9 +23,11 @@
 #include "income/frmAverageNetPercentage.h"
 #include "income/frmCalculateWages.h"
 #include "income/frmTotalHours.h"
+#include "mainwindow/frmAbout.h"
 #include "mainwindow/frmEnvironmentSettings.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/frmMonthlyPaymentOption.h"
+#include "mainwindow/frmPrinter.h"
 #include "mainwindow/frmSemiMonthlyPayInfo.h"
 #include "mainwindow/frmSetCurrentPayPeriod.h"
 #include "platform/windows/WindowRegister.h"
@@ -48,6 +50,8 @@ void RegisterWindows()
     Register<frmEnvironmentSettings>(WindowName::frmEnvironmentSettings);
     Register<frmSemiMonthlyPayInfo>(WindowName::frmSemiMonthlyPayInfo);
     Register<frmMonthlyPaymentOption>(WindowName::frmMonthlyPaymentOption);
+    Register<frmPrinter>(WindowName::frmPrinter);
+    Register<frmAbout>(WindowName::frmAbout);
     Register<frmBudget>(WindowName::frmBudget);
     Register<frmMonthlyOverhead>(WindowName::frmMonthlyOverhead);
     Register<frmSavingsForecast>(WindowName::frmSavingsForecast);
