@@ -1,0 +1,130 @@
+#include "Reports.h"
+
+#include "GuiDesk.h"
+#include "budget/BudgetGenerator.h"
+#include "commitments/Projects.h"
+#include "platform/values/Format.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Currency Dollars(double amount)
+{
+    return Currency::FromDouble(amount);
+}
+
+/// The cells of a grid, row by row, without the empty ones.
+QStringList CellsOf(const QString &window, const QString &name, int fromColumn = 0)
+{
+    const auto &grid = Find<Grid>(window, name);
+    QStringList cells;
+    for (int row = 0; row < grid.Rows(); ++row)
+        for (int column = fromColumn; column < grid.Columns(); ++column)
+            if (!grid.Text(row, column).isEmpty())
+                cells += grid.Text(row, column);
+    return cells;
+}
+
+PrintedReport Taken(FakeDesk &desk, const QString &window, const QStringList &screen)
+{
+    TheWindows.Unload(window);
+    Settle();
+    return {screen, desk.TakePrinted()};
+}
+
+PrintedReport PrintBudget(FakeDesk &desk)
+{
+    const QString window = u"frmBudget"_s;
+    Show(window);
+    Click(window, u"pbPrintOn"_s);
+    QStringList screen;
+    for (int run = 0; run < 4; ++run) { // two pay periods, each looked ahead from
+        Click(window, u"cmdBudget"_s);
+        screen += QStringList{ReportTitle, TextOf(window, u"lblHeading"_s)} + CellsOf(window, u"grdBudget"_s);
+    }
+    Click(window, u"pbPrintOff"_s);
+    return Taken(desk, window, screen);
+}
+
+PrintedReport PrintTheOverhead(FakeDesk &desk)
+{
+    const QString window = u"frmMonthlyOverhead"_s;
+    Show(window);
+    Click(window, u"cmdPrint"_s);
+    return Taken(desk, window, QStringList{ReportTitle, u"OVERHEAD"_s} + CellsOf(window, u"grdOverhead"_s));
+}
+
+PrintedReport PrintForecast(FakeDesk &desk)
+{
+    const QString window = u"frmSavingsForecast"_s;
+    State.PrintSavingsForecast = true;
+    Show(window);
+    constexpr int withoutNumbers = 1;
+    return Taken(desk, window,
+                 QStringList{ReportTitle, u"SAVINGS FORECAST"_s} +
+                     CellsOf(window, u"grdSavingsForecast"_s, withoutNumbers));
+}
+
+PrintedReport PrintTheProject(FakeDesk &desk)
+{
+    const QString window = u"frmViewProject"_s;
+    Projects.SelectedProject = 1;
+    State.PrintProjectView = true;
+    Show(window);
+    return Taken(desk, window,
+                 QStringList{ReportTitle, TheWindows.Loaded(window)->windowTitle()} +
+                     CellsOf(window, u"grdViewProject"_s));
+}
+
+} // namespace
+
+const QList<Report> Reports{
+    {"Budget", PrintBudget},
+    {"Overhead", PrintTheOverhead},
+    {"Savings Forecast", PrintForecast},
+    {"Boat", PrintTheProject},
+};
+
+void TakeHouseholdForReports()
+{
+    State.CurrentPayPeriod = u"January 1, 2004"_s;
+    State.PaycheckAmount = Dollars(1875.5);
+    State.PayFrequency = Biweekly;
+    State.ForecastPeriods = 26;
+    State.SalesTax = 0.06F;
+    State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    State.Creditors = {
+        {u"Rent"_s, 1, Dollars(850)}, {u"Car loan"_s, 15, Dollars(244.17)}, {u"Dentist"_s, 20, Dollars(7.5)}};
+    State.NumberOfCreditors = 3;
+    State.Regulars = {{u"Food"_s, Dollars(260)}, {u"Gas"_s, Dollars(45.25)}};
+    State.NumberOfRegulars = 2;
+    State.ExtraPayPeriods.Redim(2);
+    State.NumberOfExtraPayPeriods = 2;
+    State.ExtraPayPeriods(1).PayPeriodDate = u"01-01-2004"_s;
+    State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
+    State.ExtraPayPeriods(1).ExtraItems.At(1) = {u"Birthday"_s, Dollars(33.99)};
+    State.ExtraPayPeriods(1).ExtraItems.At(2) = {u"Tax refund"_s, Dollars(-412.08)}; // a credit
+    State.ExtraPayPeriods(2).PayPeriodDate = u"01-15-2004"_s;
+    State.ExtraPayPeriods(2).NumberOfExtraItems = 1;
+    State.ExtraPayPeriods(2).ExtraItems.At(1) = {u"New roof"_s, Dollars(12345.67)}; // a deficit
+    State.NumberOfProjects = 1;
+    State.ProjectNames = {u"Boat"_s};
+    State.ProjectAmounts = {Dollars(1500)};
+    State.ProjectEntryCounts = {3};
+    State.ProjectEntryDates.Redim(1);
+    State.ProjectEntryAmounts.Redim(1);
+    const double installments[] = {1234.56, -20.4, 285.84};
+    for (int i = 1; i <= 3; ++i) {
+        State.ProjectEntryDates(1).At(i) = Format(QDate(2004, 2, 12).addDays(14 * (i - 1)), DateFormat::Dashes);
+        State.ProjectEntryAmounts(1).At(i) = Dollars(installments[i - 1]);
+    }
+}
+
+QStringList TextsOf(const QString &line)
+{
+    static const QRegularExpression gap(u"  +"_s);
+    return line.split(gap, Qt::SkipEmptyParts);
+}
