@@ -11,6 +11,7 @@
 #include "platform/windows/WindowRegister.h"
 
 #include <QScopeGuard>
+#include <QShowEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -83,6 +84,14 @@ void frmCalculateWages::Load()
     RememberedPaycheckAmount = State.PaycheckAmount;
     Income.TotalHoursWorked = 0;
     ui.txtHourlyPayRate->setText(FormatCurrency(Currency::Zero));
+}
+
+/// The settings may have loaded the window unseen, for its title, and have changed the paycheck since.
+void frmCalculateWages::showEvent(QShowEvent *event)
+{
+    Window::showEvent(event);
+    if (!event->spontaneous())
+        RememberedPaycheckAmount = State.PaycheckAmount;
 }
 
 void frmCalculateWages::Activate()

@@ -14,6 +14,7 @@ public:
     void Unload() override;
 
 protected:
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -21,5 +22,5 @@ private:
     void cmdCalculate_Click();
     void cmdExit_Click();
 
-    Currency RememberedPaycheckAmount; ///< as it was when the window was loaded
+    Currency RememberedPaycheckAmount; ///< as it was when the window was shown
 };
