@@ -41,15 +41,15 @@ void frmAmortization::Activate()
 /// Each time the focus comes back, a whole new table is inserted above the rows that stand there.
 void frmAmortization::grdAmortization_GotFocus()
 {
-    Statement table;
-    const bool whole = ResumeNext([&] { Amortize(table); }, [](const RuntimeError &) {});
-    ShowRows(*ui.grdAmortization, table);
+    const auto table = std::make_shared<Statement>();
+    const bool whole = ResumeNext([&] { Amortize(*table); }, [](const RuntimeError &) {});
+    InsertRows(*ui.grdAmortization, table);
     ui.grdAmortization->SetCurrentRow(0);
     if (!whole) { // what was listed before the error stands, and the hourglass stays with it
         ShowUnknownError(windowTitle());
         return;
     }
-    ui.grdAmortization->SetResultRow(int(table.Rows.size()));
+    ui.grdAmortization->SetResultRow(int(table->Rows.size()));
     TheDesk.Hourglass(false);
 }
 

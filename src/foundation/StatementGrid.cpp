@@ -105,6 +105,12 @@ void ShowRows(Grid &grid, const Statement &statement)
     grid.SetResultRow(result);
 }
 
+void InsertRows(Grid &grid, const std::shared_ptr<const Statement> &statement)
+{
+    grid.AddRows(int(statement->Rows.size()), statement->FirstRow,
+                 [statement](int row) { return CellsOf(statement->Rows[std::size_t(row)]); });
+}
+
 void OpenWithRows(QWidget &window, Grid &grid, int rows)
 {
     constexpr int titleAndFrame = 40;
