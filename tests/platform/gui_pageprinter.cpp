@@ -244,6 +244,40 @@ private Q_SLOTS:
         QVERIFY(qAbs(last.Left - third.Left) < 0.5);
     }
 
+    // In letters of different widths the figures of an amount do not fill its columns.
+    void AmountsEndUnderEachOtherInAnyFont_data() { ColumnsStandInAnyFont_data(); }
+    void AmountsEndUnderEachOtherInAnyFont()
+    {
+        QFETCH(QString, font);
+        PrintJob job;
+        job.Font.Name = font;
+        job.Font.Size = 8;
+        const QStringList amounts{"$1,111.11", "($8.00)", "12345", "$1,234,567.89"};
+        for (const QString &amount : amounts)
+            job.Lines += QStringLiteral("Label %1").arg(amount, 40);
+        job.Lines += QString(6, QLatin1Char(' ')) + QString(40, QLatin1Char('_'));
+        const QString path = m_folder.filePath("amounts.pdf");
+        QCOMPARE(WritePdf(job, path), 1);
+        const Place first = PlaceOf(QRegularExpression::escape(amounts[0]), path);
+        QVERIFY(first.Right > 0);
+        for (const QString &amount : amounts)
+            QVERIFY(qAbs(PlaceOf(QRegularExpression::escape(amount), path).Right - first.Right) < 0.5);
+        // The rule spans the columns that its signs are counted for, within half a sign.
+        const Place rule = PlaceOf("_+", path);
+        QVERIFY(rule.Left > 0);
+        QVERIFY(qAbs(rule.Right - first.Right) < 3);
+    }
+
+    void EmptyLinesAtTheEndAreNoPage()
+    {
+        QStringList lines = Numbered(1);
+        for (int line = 0; line < 200; ++line)
+            lines += QString();
+        QCOMPARE(WritePdf({Courier(8), lines}, m_folder.filePath("gap.pdf")), 1);
+        lines += Numbered(1);
+        QVERIFY(WritePdf({Courier(8), lines}, m_folder.filePath("gap.pdf")) > 1);
+    }
+
     void EightyColumnsFit_data()
     {
         QTest::addColumn<QString>("font");

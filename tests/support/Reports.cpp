@@ -3,6 +3,7 @@
 #include "GuiDesk.h"
 #include "budget/BudgetGenerator.h"
 #include "commitments/Projects.h"
+#include "debt/PayOffPlan.h"
 #include "platform/values/Format.h"
 
 #include <QRegularExpression>
@@ -79,13 +80,32 @@ PrintedReport PrintTheProject(FakeDesk &desk)
                      CellsOf(window, u"grdViewProject"_s));
 }
 
+PrintedReport PrintPayOff(FakeDesk &desk)
+{
+    const QString window = u"frmPayOff"_s;
+    Show(window);
+    Click(window, u"pbPrintOn"_s);
+    const PayOffEntry debts[] = {{u"Car"_s, u"5,250"_s, u"6.9"_s, u"260"_s, u"1/15/2004"_s},
+                                 {u"Credit card"_s, u"1,300.50"_s, u"18"_s, u"120"_s, u"1/5/2004"_s}};
+    RedimPayOffCreditors(QString::number(std::size(debts)));
+    for (int i = 0; i < int(std::size(debts)); ++i)
+        StorePayOffCreditor(i + 1, debts[i]);
+    CalculateMonthsToPay();
+    SortPayOffCreditors();
+    BuildPayOffPlan();
+    Click(window, u"pbPrintOff"_s);
+    QStringList screen{ReportTitle, u"Pay Off Plan"_s};
+    for (const QString &line : RowsOf(window, u"lstPayOffInfo"_s))
+        if (!line.startsWith(u"Transfer "_s)) // for the screen alone
+            screen += TextsOf(line);
+    return Taken(desk, window, screen);
+}
+
 } // namespace
 
 const QList<Report> Reports{
-    {"Budget", PrintBudget},
-    {"Overhead", PrintTheOverhead},
-    {"Savings Forecast", PrintForecast},
-    {"Boat", PrintTheProject},
+    {"Budget", PrintBudget},   {"Overhead", PrintTheOverhead}, {"Savings Forecast", PrintForecast},
+    {"Boat", PrintTheProject}, {"Pay Off Plan", PrintPayOff},
 };
 
 void TakeHouseholdForReports()

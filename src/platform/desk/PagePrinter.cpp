@@ -2,6 +2,7 @@
 
 #include "platform/desk/Desk.h"
 #include "platform/values/Locale.h"
+#include "platform/values/Numbers.h"
 #include "platform/values/RuntimeError.h"
 
 #include <QDialogButtonBox>
@@ -79,6 +80,21 @@ QPageSize::PageSizeId PaperOf(const QLocale &locale)
     return locale.measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter : QPageSize::A4;
 }
 
+constexpr QLatin1Char Rule('_');
+
+bool IsRule(const QString &text)
+{
+    return text.count(Rule) == text.size();
+}
+
+/// A report may end with empty lines; they are not worth a page.
+QStringList WithoutLastGap(QStringList lines)
+{
+    while (!lines.isEmpty() && lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
 } // namespace
 
 int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
@@ -98,7 +114,7 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
 
     int pages = 1;
     qreal top = 0;
-    for (const QString &line : job.Lines) {
+    for (const QString &line : WithoutLastGap(job.Lines)) {
         if (top + metrics.height() > height) {
             if (!device.newPage())
                 RaiseError(RuntimeError::DeviceError);
@@ -108,7 +124,13 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
         auto matches = cell.globalMatch(line);
         while (matches.hasNext()) {
             const auto match = matches.next();
-            painter.drawText(QPointF(column * qreal(match.capturedStart()), top + metrics.ascent()), match.captured());
+            QString text = match.captured();
+            qreal left = column * qreal(match.capturedStart());
+            if (IsRule(text)) // as wide as the columns that it stands for
+                text.fill(Rule, qRound(column * qreal(text.size()) / metrics.horizontalAdvance(Rule)));
+            else if (IsNumeric(text)) // amounts end under each other
+                left = column * qreal(match.capturedEnd()) - metrics.horizontalAdvance(text);
+            painter.drawText(QPointF(left, top + metrics.ascent()), text);
         }
         top += metrics.lineSpacing();
     }

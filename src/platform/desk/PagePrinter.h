@@ -47,5 +47,6 @@ QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder);
 QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPaintDevice *printer);
 
 /// Draws a document on a device whose page layout is set, on as many pages as it needs; returns how many.
-/// Column n starts n - 1 digit widths from the left margin, so that columns stand in any font.
+/// Column n starts n - 1 digit widths from the left margin, so that columns stand in any font:
+/// texts start in theirs, amounts end in theirs, and rules are as wide as theirs.
 int DrawDocument(const PrintJob &job, QPagedPaintDevice &device);
