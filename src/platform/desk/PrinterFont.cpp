@@ -56,6 +56,8 @@ public:
         setObjectName(u"fontDialog"_s);
         setWindowTitle(u"Font Select"_s);
         m_fonts.setWindowFlags(Qt::Widget);
+        m_fonts.setSizeGripEnabled(false);
+        m_fonts.layout()->setContentsMargins(0, 0, 0, 0);
         // A page is drawn by outlines; fonts made of dots are for the screen alone.
         m_fonts.setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog | QFontDialog::ScalableFonts);
         m_fonts.setCurrentFont(DesktopFont());
@@ -64,10 +66,10 @@ public:
         connect(&m_fonts, &QDialog::rejected, this, &QDialog::reject);
 
         m_colours.setObjectName(u"inkColour"_s);
-        m_colours.setAccessibleName(u"Colour"_s);
+        m_colours.setAccessibleName(u"Color"_s);
         for (const InkColour &colour : InkColours)
             m_colours.addItem(Swatch(QColor(colour.Rgb)), QLatin1String(colour.Name), QColor(colour.Rgb));
-        auto *label = new QLabel(u"&Colour"_s);
+        auto *label = new QLabel(u"&Color"_s);
         label->setBuddy(&m_colours);
         auto *colours = new QHBoxLayout;
         colours->addWidget(label);
