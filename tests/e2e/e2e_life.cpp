@@ -256,6 +256,24 @@ private Q_SLOTS:
         QTRY_COMPARE(toys["A"].First->text(), "5");
     }
 
+    void AGotFocusThatTakesLongIsNoMove()
+    {
+        ToyBox toys;
+        ShowAtRest("A", Left);
+        ShowAtRest("B", Below);
+        TakeLog();
+        // Its load puts the window in front away, so that the window manager turns to the one behind it meanwhile.
+        WhenHeard[QStringLiteral("C Load")] = [] { TheWindows.Hide(QStringLiteral("B")); };
+        WhenHeard[QStringLiteral("C GotFocus First")] = [] { QTest::qSleep(900); };
+        Show("C");
+        QTRY_COMPARE(QApplication::activeWindow(), &toys["C"]);
+        QTest::qWait(900);
+        const QStringList log = TakeLog();
+        QCOMPARE(log.count(QStringLiteral("C GotFocus First")), 1);
+        QCOMPARE(log.last(), QStringLiteral("C GotFocus First"));
+        QCOMPARE(QApplication::activeWindow(), &toys["C"]);
+    }
+
     void AnotherProgramIsNoMove()
     {
         ToyBox toys;

@@ -62,8 +62,13 @@ void WindowRegister::MakeActive(Form *form, bool byUser)
     // A message box that a handler has shown in between may have left the toolkit on another window.
     if (!byUser || QApplication::activeWindow() != form)
         Expect(form);
-    if (QWidget *control = form->FocusControl())
-        Enter(form, control);
+    QWidget *control = form->FocusControl();
+    if (!control)
+        return;
+    Enter(form, control);
+    // A got-focus that took long has used up the time in which answers to earlier moves were expected.
+    if (!byUser && move == m_moves && life == m_resets && m_active == form)
+        Expect(form);
 }
 
 /// Notifies the active window that the user leaves it.
