@@ -113,6 +113,9 @@ private Q_SLOTS:
         const QRect caller(500, 100, 900, 700);
         Surroundings around{.Screens = {Screen}, .Caller = caller, .OverCaller = true};
         QCOMPARE(Placed({400, 300}, around), QPoint(749, 299));
+        around.Others = {QRect(450, 50, 1000, 800)}; // the window that the caller was called from, behind it
+        QCOMPARE(Placed({400, 300}, around), QPoint(749, 299));
+        around.Others.clear();
         around.Field = {800, 400, 120, 30}; // which it may be asked to fill
         QCOMPARE(Placed({400, 300}, around), QPoint(1400, 100));
     }

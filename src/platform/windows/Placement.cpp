@@ -62,8 +62,10 @@ QPoint Placed(const QSize &window, const Surroundings &around)
         const QRect place(Within(screen, candidate, window), window);
         std::array<qint64, 3> covered{Area(place.intersected(around.Field)),
                                       around.OverCaller ? 0 : Area(place.intersected(around.Caller)), 0};
+        // What its caller covers already is no matter to a window that stands over the caller.
         for (const QRect &other : around.Others)
-            covered[2] += Area(place.intersected(other));
+            covered[2] += Area(place.intersected(other)) -
+                          (around.OverCaller ? Area(place.intersected(other).intersected(around.Caller)) : 0);
         if (covered < least) {
             least = covered;
             best = place.topLeft();
