@@ -371,6 +371,37 @@ private Q_SLOTS:
         QCOMPARE(TakeLog(), QStringList());
     }
 
+    void AWindowThatStandsAlreadyIsOnlyBroughtForward()
+    {
+        ToyBox toys;
+        Show("A");
+        Show("B");
+        Show("A");
+        TakeLog();
+        ShowModal("B"); // and does not wait
+        QCOMPARE(TakeLog(), Goes("A") + Comes("B"));
+        QVERIFY(!toys["B"].isModal());
+        Show("A"); // which it does not block
+        QCOMPARE(TakeLog(), Goes("B") + Comes("A"));
+        QCOMPARE(Active(), "A");
+    }
+
+    void AModalWindowThatIsShownAgainIsWaitedForOnce()
+    {
+        ToyBox toys;
+        Show("A");
+        bool again = false;
+        QTimer::singleShot(0, [&] {
+            ShowModal("B");
+            again = true;
+            Unload("B");
+        });
+        ShowModal("B");
+        QVERIFY(again);
+        QVERIFY(!TheWindows.Loaded(QStringLiteral("B")));
+        QCOMPARE(Active(), "A");
+    }
+
     void AWindowThatEndsInItsLoadIsNotShown()
     {
         ToyBox toys;
@@ -486,8 +517,7 @@ private Q_SLOTS:
         Show("B");
         QVERIFY(!toys["B"].isModal());
         QVERIFY(!QApplication::activeModalWidget());
-        Soon([] { Unload("B"); });
-        ShowModal("B");
+        Unload("B");
         QCOMPARE(Active(), "A");
     }
 

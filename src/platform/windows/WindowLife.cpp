@@ -70,14 +70,17 @@ void WindowRegister::ShowModal(const QString &name)
     Form &form = Touch(name);
     if (Loaded(name) != &form)
         return;
-    if (!form.isVisible()) {
-        // A dialog of the active window: no click on the blocked windows can cover it.
-        form.setWindowFlags((form.windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
-        form.setWindowModality(Qt::ApplicationModal);
-        form.winId();
-        if (const Form *caller = Front())
-            form.windowHandle()->setTransientParent(caller->windowHandle());
+    if (form.isVisible()) { // it cannot begin to block the others now, and who blocks them already is not waited for
+                            // twice
+        Present(form);
+        return;
     }
+    // A dialog of the active window: no click on the blocked windows can cover it.
+    form.setWindowFlags((form.windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
+    form.setWindowModality(Qt::ApplicationModal);
+    form.winId();
+    if (const Form *caller = Front())
+        form.windowHandle()->setTransientParent(caller->windowHandle());
     QEventLoop loop;
     m_modals.append({&form, &loop});
     Present(form);

@@ -48,7 +48,8 @@ public:
 
     /// Shows a window beside the others; one that is visible comes to the front.
     void Show(const QString &name);
-    /// Shows a window and returns when it is closed or hidden; by then its caller is active again.
+    /// Shows a window and returns when it is closed or hidden; by then its caller is active again. One that is visible
+    /// comes to the front as it is, and this returns at once.
     void ShowModal(const QString &name);
     void Hide(const QString &name);
     /// Ends the instance unless its QueryUnload cancels. Returns whether the window is gone.
