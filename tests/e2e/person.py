@@ -134,6 +134,12 @@ class Person:
             return max(abs(x + width / 2 - left - wide / 2), abs(y + height / 2 - top - high / 2))
         self.until(lambda: offset() <= 24, lambda: f"{window} is {offset()} pixels off the middle of {caller}")
 
+    def see_title_bar(self, window):
+        """Waits until there is room for the window's title bar on the screen: its contents begin below the upper edge."""
+        def top():
+            return self.look()["windows"][window]["rect"][1]
+        self.until(lambda: top() > 0, lambda: f"the contents of {window} begin at {top()}")
+
     def see_no(self, window):
         self.until(lambda: window not in self.look()["windows"], f"{window} stays")
 

@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QStyle>
@@ -125,6 +126,11 @@ bool Form::event(QEvent *event)
         GiveFieldsTheirWidth();
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
         GiveLinesTheirHeight();
+    if (event->type() == QEvent::Show && !event->spontaneous()) {
+        if (layout())
+            layout()->activate(); // takes the height of the lines into account at once
+        Q_EMIT Appears();
+    }
     return done;
 }
 

@@ -60,6 +60,8 @@ public:
 Q_SIGNALS:
     /// The user comes to this window, for the first time or again; its Activate follows.
     void Arrives();
+    /// The window is about to go to the screen; its size has settled.
+    void Appears();
 
 protected:
     /// Enter moves from each of these fields to the next one, round and round, and selects its text; the key is

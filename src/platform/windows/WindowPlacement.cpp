@@ -87,6 +87,16 @@ private:
     QTimer m_rest;
 };
 
+/// The size settles only when the window is shown, and a window that the toolkit resizes then has its contents put
+/// where the frame should be. So its place is given once more right before it goes to the screen.
+void PlaceWhenItAppears(Form &form, const Form &caller)
+{
+    QObject::connect(
+        &form, &Form::Appears, &caller,
+        [&form, &caller] { form.windowHandle()->setFramePosition(PlaceOf(form, form.size(), caller)); },
+        Qt::SingleShotConnection);
+}
+
 } // namespace
 
 void PlaceBeside(Form &form, const Form *caller)
@@ -94,6 +104,7 @@ void PlaceBeside(Form &form, const Form *caller)
     if (!caller || caller == &form || !caller->isVisible() || caller->isMinimized() || !form.StandsBesideItsCaller())
         return;
     form.move(PlaceOf(form, SizeWhenShown(form), *caller));
+    PlaceWhenItAppears(form, *caller);
     if (!caller->windowHandle()->isExposed())
         new PlaceFollower(form, *caller);
 }
