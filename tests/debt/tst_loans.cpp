@@ -72,6 +72,8 @@ private Q_SLOTS:
             u"With an APR of -6% and a borrowed amount of $1,200.00 your monthly payment will be $96.78 for 12 months"_s);
         row("a rate of a loan shark", {u"1000"_s, u"1000"_s, u"12"_s}, 0, 8339117,
             u"With an APR of 1000% and a borrowed amount of $1,000.00 your monthly payment will be $833.91 for 12 months"_s);
+        row("the amount is told as it was typed, the payment as it is kept", {u"0.00499999"_s, u"0"_s, u"1"_s}, 0, 50,
+            u"With an APR of 0% and a borrowed amount of $0.00 your monthly payment will be $0.01 for 1 months"_s);
         row("the rate has single precision", {u"200000"_s, u"6.1"_s, u"360"_s}, 0, 12119896,
             u"With an APR of 6.1% and a borrowed amount of $200,000.00 your monthly payment will be $1,211.99 for 360 months"_s);
     }
@@ -201,6 +203,18 @@ private Q_SLOTS:
         QTest::newRow("payments below the amount lose")
             << QStringList{u"1200"_s, u"96.7799"_s, u"12"_s} << 0 << -0.06
             << u"With a borrowed amount of $1,200.00 and monthly payments of $96.78 for 12 months your interest rate is -6.00%"_s;
+        QTest::newRow("the amount is told as it was typed, the payment as it is kept")
+            << QStringList{u"0.00499999"_s, u"0.00499999"_s, u"1"_s} << 0 << 0.0
+            << u"With a borrowed amount of $0.00 and monthly payments of $0.01 for 1 months your interest rate is 0.00%"_s;
+        QTest::newRow("found from a tenth a month, and not from a fifth")
+            << QStringList{u"1000"_s, u"150"_s, u"36"_s} << 0 << 1.787868901
+            << u"With a borrowed amount of $1,000.00 and monthly payments of $150.00 for 36 months your interest rate is 178.79%"_s;
+        QTest::newRow("forty years at 19 per cent")
+            << QStringList{u"359781"_s, u"5699.56"_s, u"480"_s} << 0 << 0.190000005
+            << u"With a borrowed amount of $359,781.00 and monthly payments of $5,699.56 for 480 months your interest rate is 19.00%"_s;
+        QTest::newRow("thirty years at 22 per cent")
+            << QStringList{u"799320"_s, u"14675.39"_s, u"360"_s} << 0 << 0.219999946
+            << u"With a borrowed amount of $799,320.00 and monthly payments of $14,675.39 for 360 months your interest rate is 22.00%"_s;
     }
     void InterestRate()
     {
@@ -240,6 +254,8 @@ private Q_SLOTS:
             << QStringList{u"1000"_s, u"0"_s, u"1"_s} << 5;
         QTest::newRow("nothing is borrowed and something paid") << QStringList{u"0"_s, u"100"_s, u"12"_s} << 5;
         QTest::newRow("both go the same way") << QStringList{u"-1000"_s, u"100"_s, u"12"_s} << 5;
+        QTest::newRow("not found from a tenth a month, though from a fifth")
+            << QStringList{u"10000"_s, u"779"_s, u"60"_s} << 5;
         QTest::newRow("a count beyond 16 bits") << QStringList{u"1000"_s, u"100"_s, u"70000"_s} << 6;
         QTest::newRow("an amount beyond its range") << QStringList{u"1e15"_s, u"100"_s, u"12"_s} << 6;
         QTest::newRow("a payment beyond its range") << QStringList{u"1000"_s, u"1e15"_s, u"12"_s} << 6;
@@ -285,6 +301,9 @@ private Q_SLOTS:
             u"With an APR of 9.375% and a current savings value of $12.00 your savings will be worth $12.09 after 1 monthly deposits of $0.00"_s);
         row("of a count and a half the tie goes to the even number", {u"100"_s, u"4.5"_s, u"2.5"_s, u"0"_s}, 0, 2003750,
             u"With an APR of 4.5% and a current savings value of $0.00 your savings will be worth $200.38 after 2.5 monthly deposits of $100.00"_s);
+        row("amounts are told as they were typed, the value as it is kept",
+            {u"0.00499999"_s, u"0"_s, u"1"_s, u"0.00499999"_s}, 0, 100,
+            u"With an APR of 0% and a current savings value of $0.00 your savings will be worth $0.01 after 1 monthly deposits of $0.00"_s);
         row("what is taken out each month", {u"-50"_s, u"0"_s, u"3"_s, u"100"_s}, 0, -500000,
             u"With an APR of 0% and a current savings value of $100.00 your savings will be worth ($50.00) after 3 monthly deposits of ($50.00)"_s);
     }

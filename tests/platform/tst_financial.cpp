@@ -168,6 +168,13 @@ private Q_SLOTS:
         QTest::newRow("a mortgage of thirty years settles")
             << 360.0 << -804.622616944783 << 100000.0 << 0.0 << 0 << 0.0075;
         QTest::newRow("one payment") << 1.0 << -110.0 << 100.0 << 0.0 << 0 << 0.1;
+        // So dear and long that the rounding of what the loan grows to is far beyond the tolerance.
+        QTest::newRow("forty years at 19 per cent a year")
+            << 480.0 << -5699.56 << 359781.0 << 0.0 << 0 << 0.0158333337888;
+        QTest::newRow("thirty years at 22 per cent a year")
+            << 360.0 << -14675.39 << 799320.0 << 0.0 << 0 << 0.0183333288258;
+        QTest::newRow("a loan shark's") << 264.0 << -24732.19 << 903079.0 << 0.0 << 0 << 0.0273645274680;
+        QTest::newRow("for all of life, at the beginning") << 5211.0 << -8.78 << 265.9 << 0.0 << 1 << 0.0341474797760;
     }
     void RateOfALoan()
     {
@@ -207,6 +214,7 @@ private Q_SLOTS:
         QTest::newRow("nothing is lent, something is paid") << 12.0 << -100.0 << 0.0 << 0.1;
         QTest::newRow("a zero below -100 % is no rate") << 12.0 << -2000.0 << 1000.0 << 0.1;
         QTest::newRow("a growth beyond every number") << 32767.0 << -10.0 << 1000.0 << 0.1;
+        QTest::newRow("steps that come to a standstill far from every rate") << 577.0 << -8176.21 << 3.11 << 0.1;
         QTest::newRow("a guess beyond all reason") << 12.0 << -100.0 << 1200.0 << 1e300;
     }
     void ARateThatDoesNotSettleIsError5()

@@ -3,6 +3,7 @@
 #include "platform/values/RuntimeError.h"
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -77,6 +78,7 @@ double Rate(double periods, double payment, double presentValue, double futureVa
     constexpr int StepLimit = 128;
     constexpr double Tolerance = 1e-7;
     constexpr double Nudge = 1e-5; // parts two points of equal height, whose secant would never meet the axis
+    constexpr double Epsilon = std::numeric_limits<double>::epsilon();
 
     if (!(periods > 0))
         RaiseError(RuntimeError::InvalidProcedureCall);
@@ -99,7 +101,9 @@ double Rate(double periods, double payment, double presentValue, double futureVa
         olderRemainder = newerRemainder;
         newer = next;
         newerRemainder = remainderAt(newer);
-        if (std::abs(newerRemainder) >= Tolerance)
+        // A dear long loan grows so large that rounding alone is beyond the tolerance. Nothing but that is left then.
+        const double rounding = 8 * Epsilon * std::abs(presentValue) * (GrowthLessOne(newer, periods) + 1);
+        if (std::abs(newerRemainder) >= Tolerance && std::abs(newerRemainder) > rounding)
             continue;
         if (newer <= -1) // the formula has zeros there, but no period loses more than everything
             break;

@@ -12,6 +12,7 @@ double PPmt(double rate, double period, double periods, double presentValue, dou
 /// The value of an annuity after its last period.
 double FV(double rate, double periods, double payment, double presentValue = 0, int type = 0);
 
-/// The rate per period, by the secant method from `guess`; error 5 if it does not settle within 128 steps.
+/// The rate per period, by the secant method from `guess`, until less than 1e-7 is left of the annuity or, where its
+/// growth is too large for that, nothing but rounding. Error 5 if it does not settle within 128 steps.
 double Rate(double periods, double payment, double presentValue, double futureValue = 0, int type = 0,
             double guess = 0.1);
