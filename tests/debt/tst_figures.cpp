@@ -5,6 +5,7 @@
 
 #include "debt/Amortization.h"
 #include "debt/Loans.h"
+#include "debt/PayOffPlan.h"
 #include "foundation/State.h"
 #include "income/AverageNet.h"
 #include "income/TotalHours.h"
@@ -40,6 +41,33 @@ void TakeFrequency(const Figures &figures)
     const QString paid = figures[u"Paid"_s];
     QVERIFY2(frequencies.contains(paid), qPrintable(paid));
     State.PayFrequency = frequencies[paid];
+}
+
+/// The plan to pay off the creditors of the page, as it is shown.
+PayOffPlan PlanOfThePage()
+{
+    const QList<Figures> creditors = ExamplesOf(u"Pay off plan"_s);
+    RedimPayOffCreditors(QString::number(creditors.size()));
+    int number = 0;
+    for (const Figures &figures : creditors)
+        StorePayOffCreditor(++number,
+                            {figures[u"Creditor"_s], figures[u"Balance Owed"_s], figures[u"Annual Percentage Rate"_s],
+                             figures[u"Set Monthly Amount"_s], figures[u"Next Due Date"_s]});
+    PayOffPlan shown;
+    const QObject context;
+    QObject::connect(&ThePayOffOutlet, &PayOffOutlet::Ready, &context, [&](const auto &plan) { shown = *plan; });
+    CalculateMonthsToPay();
+    SortPayOffCreditors();
+    BuildPayOffPlan();
+    return shown;
+}
+
+/// Where a creditor stands in the plan, from 1.
+int PlaceOf(const QString &creditor)
+{
+    return int(std::find(Debt.PayOffCreditorNames.begin(), Debt.PayOffCreditorNames.end(), creditor) -
+               Debt.PayOffCreditorNames.begin()) +
+           1;
 }
 
 QString LabelOf(const StatementRow &row)
@@ -110,6 +138,44 @@ private Q_SLOTS:
         QCOMPARE(FormatCurrency(row->Amounts[0]), figures[u"Payment"_s]);
         QCOMPARE(FormatCurrency(row->Amounts[1]), figures[u"Principal"_s]);
         QCOMPARE(FormatCurrency(row->Amounts[2]), figures[u"Interest"_s]);
+    }
+
+    void ThePayOffPlanIsAsToldThere_data() { TakeExamples(u"Pay off plan"_s); }
+    void ThePayOffPlanIsAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        const PayOffPlan plan = PlanOfThePage();
+        const int place = PlaceOf(figures[u"Creditor"_s]);
+        QVERIFY(place <= Debt.NumberOfPayOffCreditors);
+        QCOMPARE(QString::number(Debt.PayOffMonthsToPay(place)), figures[u"Months Alone"_s]);
+        QStringList lines;
+        for (const PayOffLine &line : plan.Lines)
+            lines += line.Text;
+        lines = lines.mid(lines.indexOf(u"Creditor: "_s + figures[u"Creditor"_s]), 9);
+        for (const QString &line : {u"Balance Owed"_s, u"Set Monthly Amount"_s, u"Next Due Date"_s,
+                                    u"Pay This Much a Month"_s, u"Starting"_s, u"Until Paid Off"_s})
+            QVERIFY2(lines.contains(line + u": "_s + figures[line]), qPrintable(lines.join(u'\n')));
+        QCOMPARE(lines.value(8), u"Transfer "_s + figures[u"Transfer"_s]);
+    }
+
+    void TheMonthsOfThePlanAreAsToldThere_data() { TakeExamples(u"Months of the pay off plan"_s); }
+    void TheMonthsOfThePlanAreAsToldThere()
+    {
+        QFETCH(Figures, figures);
+        FakeDesk desk;
+        const PayOffPlan plan = PlanOfThePage();
+        int place = 1; // an empty row follows the last month of each creditor
+        for (const PayOffRow &row : plan.Rows) {
+            place += row.MonthNumber == 0;
+            if (place != PlaceOf(figures[u"Creditor"_s]) || QString::number(row.MonthNumber) != figures[u"#"_s])
+                continue;
+            QCOMPARE(CellsOf(row), (QStringList{figures[u"#"_s], figures[u"Date"_s], figures[u"Previous Balance"_s],
+                                                figures[u"Interest"_s], figures[u"New Balance"_s],
+                                                figures[u"Payment"_s], figures[u"Next Balance"_s]}));
+            return;
+        }
+        QFAIL("the plan has no such month");
     }
 
     void WagesAreAsToldThere_data() { TakeExamples(u"Wages"_s); }
