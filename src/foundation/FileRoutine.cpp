@@ -124,15 +124,15 @@ void ListWriter::Pairs(qint16 count, int, const std::function<void(int)> &fields
         fields(i);
 }
 
-void RunFileSteps(const QString &title, const std::function<void()> &steps)
+bool RunFileSteps(const QString &title, const std::function<void()> &steps)
 {
-    ResumeNext(steps, [&](const RuntimeError &error) { ShowMessage(error.Text(), title, Icon::Stop); });
+    return ResumeNext(steps, [&](const RuntimeError &error) { ShowMessage(error.Text(), title, Icon::Stop); });
 }
 
-void SaveFile(const QString &title, const QString &path, OldFile oldFile,
+bool SaveFile(const QString &title, const QString &path, OldFile oldFile,
               const std::function<void(ListWriter &)> &fields)
 {
-    RunFileSteps(title, [&] {
+    return RunFileSteps(title, [&] {
         OutputFile file;
         file.Collect();
         ListWriter writer(file);

@@ -88,9 +88,10 @@ private:
 };
 
 /// Deletes the old file, makes it anew and fills it. The first error is shown with the writer's title and ends it. The
-/// values are collected before the old file goes, so that an error among them loses nothing.
-void SaveFile(const QString &title, const QString &path, OldFile oldFile,
+/// values are collected before the old file goes, so that an error among them loses nothing. Returns whether all went
+/// well.
+bool SaveFile(const QString &title, const QString &path, OldFile oldFile,
               const std::function<void(ListWriter &)> &fields);
 
-/// Runs steps whose first error is shown with a title and ends them.
-void RunFileSteps(const QString &title, const std::function<void()> &steps);
+/// Runs steps whose first error is shown with a title and ends them. Returns whether there was none.
+bool RunFileSteps(const QString &title, const std::function<void()> &steps);

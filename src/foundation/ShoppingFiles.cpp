@@ -64,7 +64,7 @@ void SaveMasterShoppingList()
     SaveFile(u"Save Master Shopping List"_s, MasterPath(), OldFile::MustExist, MasterFields<ListWriter>);
 }
 
-void SaveCurrentShoppingList()
+bool SaveCurrentShoppingList()
 {
-    SaveFile(u"Save Current Shopping List"_s, CurrentPath(), OldFile::MayBeMissing, CurrentFields<ListWriter>);
+    return SaveFile(u"Save Current Shopping List"_s, CurrentPath(), OldFile::MayBeMissing, CurrentFields<ListWriter>);
 }

@@ -4,4 +4,5 @@
 void InputMasterShoppingList();
 void InputCurrentShoppingList();
 void SaveMasterShoppingList();
-void SaveCurrentShoppingList();
+/// Returns whether the list lies in its file; if not, the user was told why.
+bool SaveCurrentShoppingList();

@@ -23,4 +23,9 @@ inline QLineEdit &StoreFile()
 {
     return TheWindows.ControlOf<QLineEdit>(WindowName::frmEnvironmentSettings, QStringLiteral("txtStoreFile"));
 }
+/// The sales tax there, in per cent.
+inline QLineEdit &SalesTax()
+{
+    return TheWindows.ControlOf<QLineEdit>(WindowName::frmEnvironmentSettings, QStringLiteral("txtSalesTax"));
+}
 } // namespace WindowField

@@ -151,7 +151,7 @@ constexpr LoaderUnderTest Loaders[] = {
     {'x', "extra.txt", InputPayPeriods, SavePayPeriods},
     {'p', "projects.txt", InputProjects, SaveProjects},
     {'m', "mastshop.txt", InputMasterShoppingList, SaveMasterShoppingList},
-    {'l', "stores\\untitled.lst", InputCurrentShoppingList, SaveCurrentShoppingList},
+    {'l', "stores\\untitled.lst", InputCurrentShoppingList, [] { SaveCurrentShoppingList(); }},
     {'e', "environm.ini", InitializeVariables, SaveEnvironmentSettings},
 };
 

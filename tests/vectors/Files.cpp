@@ -21,7 +21,7 @@ const QMap<QString, void (*)()> Routines{
     {QStringLiteral("SavePayPeriods"), SavePayPeriods},
     {QStringLiteral("SaveProjects"), SaveProjects},
     {QStringLiteral("SaveMasterShoppingList"), SaveMasterShoppingList},
-    {QStringLiteral("SaveCurrentShoppingList"), SaveCurrentShoppingList},
+    {QStringLiteral("SaveCurrentShoppingList"), [] { SaveCurrentShoppingList(); }},
     {QStringLiteral("SaveEnvironmentSettings"), SaveEnvironmentSettings},
 };
 
