@@ -31,6 +31,7 @@
 #include "mainwindow/frmSemiMonthlyPayInfo.h"
 #include "mainwindow/frmSetCurrentPayPeriod.h"
 #include "platform/windows/WindowRegister.h"
+#include "shopping/frmCurrentShoppingList.h"
 
 namespace {
 
@@ -72,6 +73,7 @@ void RegisterWindows()
     Register<frmCalculateWages>(WindowName::frmCalculateWages);
     Register<frmTotalHours>(WindowName::frmTotalHours);
     Register<frmAverageNetPercentage>(WindowName::frmAverageNetPercentage);
+    Register<frmCurrentShoppingList>(WindowName::frmCurrentShoppingList);
 }
 
 QString FirstWindow()

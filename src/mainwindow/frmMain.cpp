@@ -11,6 +11,8 @@
 #include "platform/controls/Icons.h"
 #include "platform/controls/Theme.h"
 #include "platform/windows/WindowRegister.h"
+#include "shopping/PrintedList.h"
+#include "shopping/ShoppingDoors.h"
 
 #include <QLineEdit>
 #include <QMenu>
@@ -69,6 +71,7 @@ frmMain::frmMain()
     OnClick(ui.cmdTutor, [this] { Entry(u"mnuTallymereTutor"_s)->trigger(); });
     OnClick(ui.cmdHowDoI, [this] { ActOn(u"mnuHowDoI"_s); });
     OnClick(ui.cmdGettingStarted, [this] { cmdGettingStarted_Click(); });
+    connect(&TheShoppingDoors, &ShoppingDoors::StoreFileNamed, this, &frmMain::ShowCurrentList);
     connect(&Timer1, &QTimer::timeout, this, &frmMain::Timer1_Timer);
     connect(&tmrAutoTutor, &QTimer::timeout, this, &frmMain::tmrAutoTutor_Timer);
 }
@@ -250,9 +253,16 @@ void frmMain::FillBudgetState()
     ReserveSpace();
 }
 
+/// The line of the open store list alone; the others wait for the next activation.
+void frmMain::ShowCurrentList()
+{
+    if (QListWidgetItem *line = ui.lstBudgetState->item(CurrentListLine)) // there is none before the first activation
+        ShowStateLine(*line, BudgetStateLines()[CurrentListLine]);
+}
+
 bool frmMain::IsAvailable(const MenuEntry &entry) const
 {
-    return entry.TheCommand != Command::PrintCurrentList && (entry.Window.isEmpty() || TheWindows.Knows(entry.Window));
+    return entry.Window.isEmpty() || TheWindows.Knows(entry.Window);
 }
 
 void frmMain::ActOn(const QString &entryName)
@@ -287,6 +297,9 @@ void frmMain::Act(const MenuEntry &entry)
     case Command::Tutor: mnuTallymereTutor_Click(); break;
     case Command::Search: mnuHelpSearch_Click(); break;
     case Command::PrintCurrentList:
+        ShowTutorPageIfRunning(entry.TutorPage);
+        PrintShoppingList();
+        break;
     case Command::Submenu:
     case Command::Separator: break;
     }
@@ -342,7 +355,7 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
         State.CurrentStoreFile = name.section(QRegularExpression(u"[\\\\/]"_s), -1);
         if (TheWindows.Knows(WindowName::frmEnvironmentSettings))
             WindowField::StoreFile().setText(State.CurrentStoreFile);
-        ShowStateLine(*ui.lstBudgetState->item(CurrentListLine), BudgetStateLines()[CurrentListLine]);
+        ShowCurrentList();
         InputCurrentShoppingList();
     };
     ResumeNext(open, [](const RuntimeError &error) { ShowMessage(error.Text(), u"Open Store File"_s, Icon::Stop); });

@@ -38,6 +38,7 @@ private:
     void ReserveSpace();
     void ReadOptions();
     void FillBudgetState();
+    void ShowCurrentList();
     /// Whether what the entry opens exists. One whose window does not stays grey.
     bool IsAvailable(const MenuEntry &entry) const;
     void Act(const MenuEntry &entry);

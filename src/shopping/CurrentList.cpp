@@ -1,6 +1,7 @@
 #include "shopping/CurrentList.h"
 
 #include "foundation/Compaction.h"
+#include "foundation/OneMore.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 #include "shopping/ShoppingState.h"
@@ -102,7 +103,7 @@ void AddCurrentItem(const MasterItemRecord &item)
                                  .Taxable = item.Taxable,
                                  .CouponValue = {},
                                  .FullPrice = item.UnitPrice};
-    const qint16 count = ToInteger(State.NumberOfCurrentItems + 1);
+    const qint16 count = OneMore(State.NumberOfCurrentItems);
     CheckBillWith(line, count);
     State.CurrentShoppingList.RedimPreserve(count);
     State.NumberOfCurrentItems = count;

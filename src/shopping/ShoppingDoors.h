@@ -1,4 +1,4 @@
-// How the windows of shopping have each other's lists filled anew.
+// How the windows of shopping have each other's lists, and the main window's line of the open list, filled anew.
 #pragma once
 
 #include <QObject>
@@ -11,5 +11,7 @@ Q_SIGNALS:
     void CurrentListChanged();
     /// The items of the catalogue have changed.
     void ShelfChanged();
+    /// The open list has got a name.
+    void StoreFileNamed();
 };
 inline ShoppingDoors TheShoppingDoors;

@@ -16,8 +16,8 @@ namespace {
 
 constexpr int SamplePeriods = 12;
 
-/// What brings a window's content in the filled household: buttons, or the first rows of lists, clicked one after the
-/// other.
+/// What brings a window's content in the filled household: buttons, or the first rows of lists and grids, clicked one
+/// after the other.
 const QHash<QString, QStringList> &FirstClicks()
 {
     static const QHash<QString, QStringList> clicks{
@@ -26,6 +26,7 @@ const QHash<QString, QStringList> &FirstClicks()
         {u"frmCalculateWages"_s, {u"cmdCalculate"_s}},
         {u"frmCreditors"_s, {u"cmdListCreditors"_s, u"lstCreditors"_s}},
         {u"frmExtras"_s, {u"cmdListPayPeriods"_s, u"lstExtraItems"_s, u"lstExtraItems"_s}}, // a period, then an item
+        {u"frmCurrentShoppingList"_s, {u"grdCurrentShoppingList"_s}},
         {u"frmInterestRateCalculator"_s, {u"cmdCalculate"_s}},
         {u"frmPaymentCalculator"_s, {u"cmdCalculate"_s}},
         {u"frmProjects"_s, {u"cmdListProjects"_s, u"lstProjects"_s}},
@@ -69,11 +70,20 @@ void FillIn(const QString &window)
         Type(window, field, text);
 }
 
+void ClickFirstLine(const QString &window, const QString &name)
+{
+    Grid &grid = Find<Grid>(window, name);
+    const QPoint line = grid.visualRect(grid.model()->index(0, 0)).center();
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, line);
+}
+
 void ClickAllOf(const QString &window)
 {
     for (const QString &control : FirstClicks().value(window))
         if (control.startsWith(u"lst"_s))
             ClickRow(window, control, 0);
+        else if (control.startsWith(u"grd"_s))
+            ClickFirstLine(window, control);
         else
             Click(window, control);
 }

@@ -1052,6 +1052,7 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeMessage().Title, u"Savings Forecast"_s);
         QVERIFY(desk.TakeBeep());
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"forward"_s});
+        QVERIFY(!desk.TakePrinted().Lines.isEmpty()); // the shopping list
     }
 
     void AnEntryChosenTwiceShowsOneWindowAndThePageAgain()
