@@ -32,6 +32,7 @@ QJsonValue RunWagesCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunHoursCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunAverageNetCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunPayOffCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunShoppingCase(const QJsonObject &input, RecordingDesk &desk);
 
 // How results are told
 QJsonValue Told(Currency amount);

@@ -35,6 +35,7 @@ const QMap<QString, RunCase> Areas{
     {QStringLiteral("wages"), RunWagesCase},
     {QStringLiteral("hours"), RunHoursCase},
     {QStringLiteral("averagenet"), RunAverageNetCase},
+    {QStringLiteral("shopping"), RunShoppingCase},
 };
 
 /// The toolkit's plugin without a display tells what it cannot do; nobody needs to know.
