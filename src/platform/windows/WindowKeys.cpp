@@ -80,10 +80,13 @@ bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
     }
     if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
         return false;
-    if (form->HandleEnter(watched) || qobject_cast<QLineEdit *>(watched)) // in a field it never presses a button
-        return true;
     auto *button = qobject_cast<QPushButton *>(watched);
-    if (button && !event.isAutoRepeat()) // a key held down is one click
+    const bool inField = qobject_cast<QLineEdit *>(watched);
+    if (event.isAutoRepeat()) // a key held down counts once
+        return button || inField;
+    if (form->HandleEnter(watched) || inField) // in a field it never presses a button
+        return true;
+    if (button)
         button->click();
     return button;
 }
