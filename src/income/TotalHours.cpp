@@ -2,6 +2,7 @@
 
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
+#include "platform/values/RuntimeError.h"
 
 int WeeksOf(qint16 payFrequency)
 {
@@ -12,6 +13,17 @@ int WeeksOf(qint16 payFrequency)
     case Monthly: return 5;
     default: return 0;
     }
+}
+
+bool IsMoreThanAWeek(const QString &text)
+{
+    bool more = false;
+    // No number can be had of what is beyond the range, only its sign, which is never that of a negative exponent.
+    ResumeNext([&] { more = ToSingle(text) > MostHoursOfWeek; },
+               [&](const RuntimeError &) {
+                   more = !text.contains(u'-') && !text.contains(u'\u2212') && !text.contains(u'(');
+               });
+    return more;
 }
 
 QString ShownHours(int week, bool enabled)

@@ -15,6 +15,10 @@ int WeeksOf(qint16 payFrequency);
 /// The texts of the boxes of all weeks, from week 1 at element 0.
 using WeekTexts = std::array<QString, MostWeeks>;
 
+/// Whether a text, which is numeric, is more than the hours of a week, compared in single precision; what is too large
+/// for that is, too. A negative number of any size is not.
+bool IsMoreThanAWeek(const QString &text);
+
 /// What the boxes show: the hours entered last; those of a week without a box to enter them are 0.
 QString ShownHours(int week, bool enabled);
 

@@ -1,5 +1,6 @@
 #include "income/frmTotalHours.h"
 
+#include "platform/controls/Fields.h"
 #include "platform/values/Numbers.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -34,19 +35,22 @@ void frmTotalHours::Activate()
     Window::Activate();
 }
 
-/// Each bad box is told, disabled ones included; the last one keeps the focus.
+/// Each bad box has its message, disabled ones included; the last one keeps the focus. The focus is there before the
+/// message, or nobody would know which box it is about.
 bool frmTotalHours::ValidateTotalHours()
 {
     bool valid = true;
-    const auto refuse = [&](const QString &text, Buttons buttons, int helpContext, QWidget *field) {
-        ShowMessage(text, Title, Icon::Stop, buttons, helpContext);
+    const auto refuse = [&](const QString &text, Buttons buttons, int helpContext, QLineEdit *field) {
         FocusOn(field);
+        if (field->isEnabled())
+            SelectWhole(field); // also where it has the focus already
+        ShowMessage(text, Title, Icon::Stop, buttons, helpContext);
         valid = false;
     };
     for (const auto &[label, field] : m_weeks)
         if (!IsNumeric(field->text()))
             refuse(u"One or more fields do not contain a valid number"_s, Buttons::OkHelp, Help, field);
-        else if (ToSingle(field->text()) > MostHoursOfWeek)
+        else if (IsMoreThanAWeek(field->text()))
             refuse(u"It is not possible to have more than 168 hours in a week"_s, Buttons::Ok, 0, field);
     return valid;
 }

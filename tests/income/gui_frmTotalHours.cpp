@@ -61,6 +61,8 @@ private Q_SLOTS:
                      "30 minutes; at most 168"_s);
             QVERIFY(Find<QLineEdit>(Hours, box).alignment() & Qt::AlignRight);
         }
+        QCOMPARE(Find(Hours, u"cmdOK"_s).toolTip(),
+                 u"Take the hours over; until then they are lost when you go to another window"_s);
         QCOMPARE(TabOrder(Hours), Boxes + QStringList{u"cmdOK"_s});
     }
 
@@ -177,6 +179,8 @@ private Q_SLOTS:
         QTest::newRow("as good as 168 in single precision") << u"168.000001"_s << QList<Message>() << 168.F;
         QTest::newRow("168.01") << u"168.01"_s << QList{TooMany} << 0.F;
         QTest::newRow("with a separator") << u"1,000"_s << QList{TooMany} << 0.F;
+        QTest::newRow("beyond every number") << u"1e39"_s << QList{TooMany} << 0.F;
+        QTest::newRow("beyond every number by far") << u"1e999"_s << QList{TooMany} << 0.F;
         QTest::newRow("nothing") << QString() << QList{NoNumber} << 0.F;
         QTest::newRow("a word") << u"abc"_s << QList{NoNumber} << 0.F;
         QTest::newRow("a time of day") << u"4:30"_s << QList{NoNumber} << 0.F;
@@ -210,7 +214,7 @@ private Q_SLOTS:
         State.PayFrequency = Monthly;
         Income.WeekHours = {1, 2, 3, 4, 5};
         Show(Hours);
-        const QStringList texts{u"169"_s, u"40"_s, u"abc"_s, u"200"_s, u"8"_s};
+        const QStringList texts{u"1e39"_s, u"-1e39"_s, u"abc"_s, u"200"_s, u"8"_s};
         for (qsizetype week = 0; week < texts.size(); ++week)
             Type(Hours, Boxes[week], texts[week]);
         Accept();
@@ -226,6 +230,36 @@ private Q_SLOTS:
         QCOMPARE(FocusOf(Hours), Boxes[2]);
     }
 
+    // The box of a message may cover what it is about.
+    void ABoxIsMarkedBeforeItsMessage()
+    {
+        GuiDesk desk;
+        State.PayFrequency = Monthly;
+        Show(Hours);
+        const QStringList texts{u"x"_s, u"40"_s, u"y"_s, u"200"_s, u"8"_s};
+        for (qsizetype week = 0; week < texts.size(); ++week)
+            Type(Hours, Boxes[week], texts[week]);
+        QStringList marked;
+        TheDesk.ShowMessage = [&, record = TheDesk.ShowMessage](const Message &message) {
+            marked += FocusOf(Hours) + u": "_s + Selected(Hours, FocusOf(Hours));
+            return record(message);
+        };
+        Accept();
+        QCOMPARE(std::exchange(desk.Messages, {}), (QList<Message>{NoNumber, NoNumber, TooMany}));
+        QCOMPARE(marked, (QStringList{u"txtWeek1: x"_s, u"txtWeek3: y"_s, u"txtWeek4: 200"_s}));
+        QCOMPARE(FocusOf(Hours), Boxes[3]);
+        QCOMPARE(Selected(Hours, Boxes[3]), u"200"_s);
+
+        // A box that has the focus already is marked anew.
+        Type(Hours, Boxes[0], u"1"_s);
+        Type(Hours, Boxes[2], u"1"_s);
+        Type(Hours, Boxes[3], u"300"_s);
+        marked.clear();
+        Find<QAbstractButton>(Hours, u"cmdOK"_s).click();
+        QCOMPARE(desk.TakeMessage(), TooMany);
+        QCOMPARE(marked, QStringList{u"txtWeek4: 300"_s});
+    }
+
     void AGreyBoxIsLookedAtAsWell()
     {
         GuiDesk desk;
@@ -236,6 +270,7 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeMessage(), NoNumber);
         QVERIFY(IsShown(Hours));
         QCOMPARE(FocusOf(Hours), u"cmdOK"_s); // a grey box takes no focus
+        QCOMPARE(Selected(Hours, Boxes[4]), QString());
     }
 
     void HoursBeyondEveryNumberChangeNothing()

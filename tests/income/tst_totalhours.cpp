@@ -104,6 +104,29 @@ private Q_SLOTS:
                  sums);
     }
 
+    void MoreThanAWeek_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("more");
+        QTest::newRow("168") << u"168"_s << false;
+        QTest::newRow("168 in single precision") << u"168.000001"_s << false;
+        QTest::newRow("the next single") << u"168.00002"_s << true;
+        QTest::newRow("the greatest single") << u"3.4e38"_s << true;
+        QTest::newRow("beyond single precision") << u"1e39"_s << true;
+        QTest::newRow("beyond double precision") << u"1e999"_s << true;
+        QTest::newRow("less than nothing") << u"-5"_s << false;
+        QTest::newRow("less than a single holds") << u"-1e39"_s << false;
+        QTest::newRow("with the true minus sign") << u"\u22121e39"_s << false;
+        QTest::newRow("with the sign behind") << u"1e999-"_s << false;
+        QTest::newRow("in parentheses, which is a sign, too") << u"(1e999)"_s << false;
+    }
+    void MoreThanAWeek()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, more);
+        QCOMPARE(IsMoreThanAWeek(text), more);
+    }
+
     void AllBoxesAreTakenOver()
     {
         FakeDesk desk;
