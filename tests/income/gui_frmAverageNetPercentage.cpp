@@ -3,6 +3,11 @@
 #include "IncomeDesk.h"
 #include "TestProgram.h"
 
+#include "platform/values/Format.h"
+#include "platform/values/Locale.h"
+
+#include <QScopeGuard>
+
 using namespace Qt::Literals::StringLiterals;
 using namespace Test;
 
@@ -71,9 +76,11 @@ private Q_SLOTS:
         for (const QString &box : Boxes) {
             const bool gross = box.endsWith(u"Gross"_s);
             QCOMPARE(LabelOf(AverageNet, box), gross ? u"Gross"_s : u"Net"_s);
-            QCOMPARE(Find(AverageNet, box).toolTip(),
-                     gross ? u"Gross amount of this paycheck, before taxes and other deductions"_s
-                           : u"Net amount of the same paycheck: what was paid out"_s);
+            QCOMPARE(
+                Find(AverageNet, box).toolTip(),
+                gross
+                    ? u"Gross amount of this paycheck, before taxes and other deductions; it is lost when you go to another window"_s
+                    : u"Net amount of the same paycheck: what was paid out; it is lost when you go to another window"_s);
             QVERIFY(Find<QLineEdit>(AverageNet, box).alignment() & Qt::AlignRight);
         }
         QVERIFY(Find<QLineEdit>(AverageNet, Result).isReadOnly());
@@ -95,6 +102,29 @@ private Q_SLOTS:
         Show(AverageNet);
         QCOMPARE(Texts(AverageNet, Boxes), u"$0.00 | $0.00 | $0.00 | $0.00"_s);
         QCOMPARE(FocusOf(AverageNet), Boxes[0]);
+    }
+
+    void TheBoxesBeginInTheMoneyOfTheLocale()
+    {
+        GuiDesk desk;
+        const QLocale before = UserLocale();
+        const auto putBack = qScopeGuard([&] { SetUserLocale(before); });
+        SetUserLocale(QLocale(QLocale::German, QLocale::Germany));
+        State.AverageNetPercentage = 0.85F;
+        Show(AverageNet);
+        const QString nothing = FormatCurrency(Currency::Zero);
+        QVERIFY(nothing.startsWith(u"0,00"_s)); // with the euro behind it
+        QCOMPARE(Texts(AverageNet, Boxes), QStringList({nothing, nothing, nothing, nothing}).join(u" | "_s));
+        QCOMPARE(TextOf(AverageNet, Result), u"85,00"_s);
+        Enter({u"1.000,00"_s, u"500"_s, u"10"_s, u"7,5"_s});
+        Calculate();
+        QCOMPARE(TextOf(AverageNet, Result), u"62,50"_s);
+        Show(u"frmEnvironmentSettings"_s);
+        Show(AverageNet);
+        QCOMPARE(Texts(AverageNet, Boxes), QStringList({nothing, nothing, nothing, nothing}).join(u" | "_s));
+        desk.Answers = {Answer::No};
+        Leave(ExitButton);
+        QCOMPARE(desk.TakeMessage(), Question(u" 62.5"_s)); // the plain conversion knows no locale
     }
 
     void EnterGoesRound()
@@ -219,6 +249,30 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(AverageNet));          // whatever the answer
         QCOMPARE(State.AverageNetPercentage, kept);
         QCOMPARE(desk.TakeFiles(), QStringList()); // kept in memory only
+    }
+
+    // What is remembered is the percentage of the load, however often the window becomes active since.
+    void AnotherWindowInBetweenForgetsNothing_data()
+    {
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<float>("kept");
+        QTest::newRow("yes") << Answer::Yes << 0.85F;
+        QTest::newRow("no") << Answer::No << 0.9F;
+    }
+    void AnotherWindowInBetweenForgetsNothing()
+    {
+        QFETCH(Answer, answer);
+        QFETCH(float, kept);
+        GuiDesk desk;
+        State.AverageNetPercentage = 0.9F;
+        CalculateAnew();
+        Show(u"frmEnvironmentSettings"_s);
+        Show(AverageNet);
+        QCOMPARE(TextOf(AverageNet, Result), u"85.00"_s);
+        desk.Answers = {answer};
+        Leave(ExitButton);
+        QCOMPARE(desk.TakeMessage(), Question(u" 85"_s));
+        QCOMPARE(State.AverageNetPercentage, kept);
     }
 
     void CalculatingTwiceAsksOnce()
