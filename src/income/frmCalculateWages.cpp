@@ -6,6 +6,7 @@
 #include "platform/controls/Fields.h"
 #include "platform/desk/UnknownError.h"
 #include "platform/values/Format.h"
+#include "platform/values/Locale.h"
 #include "platform/values/Numbers.h"
 #include "platform/windows/KeyPress.h"
 #include "platform/windows/WindowRegister.h"
@@ -43,10 +44,26 @@ constexpr WageBox WrittenBoxes[] = {
     {&Design::txtYearlyGross, &WageBoxes::YearlyGross},
     {&Design::txtPaycheckAmount, &WageBoxes::PaycheckAmount},
 };
+
+const QString WholeHours = u"A weekly paycheck counts whole hours; 40.4 are 40"_s;
+
+/// What a field says of itself, with a sentence more where it holds.
+QString Described(const QString &description, bool weekly)
+{
+    return weekly ? description + u". "_s + WholeHours : description;
+}
+
+/// A digit, a sign or the decimal point.
+bool BeginsANumber(const QString &typed)
+{
+    return typed.size() == 1 && (u"0123456789+-\u2212"_s.contains(typed) || typed == UserSigns().Point);
+}
 } // namespace
 
 frmCalculateWages::frmCalculateWages()
-    : Window({.Title = RefusalTitle, .TheButtons = Buttons::OkHelp, .HelpContext = 30})
+    : Window({.Title = RefusalTitle, .TheButtons = Buttons::OkHelp, .HelpContext = 30}),
+      m_regularHoursDescription(ui.txtRegularHours->accessibleDescription()),
+      m_hoursWorkedDescription(ui.txtTotalHoursWorked->accessibleDescription())
 {
     ShowOnly(ui.txtAverageNetPercentage);
     for (const WageBox &box : WrittenBoxes)
@@ -56,7 +73,7 @@ frmCalculateWages::frmCalculateWages()
         FocusOn(ui.txtTotalHoursWorked);
         SelectWhole(ui.txtTotalHoursWorked);
     });
-    OnEnter(ui.txtTotalHoursWorked, [] { TheWindows.Show(WindowName::frmTotalHours); });
+    OnEnter(ui.txtTotalHoursWorked, [] { ShowHours(); });
     OnLostFocus(ui.txtTotalHoursWorked, [this] { txtTotalHoursWorked_LostFocus(); });
     ui.txtTotalHoursWorked->installEventFilter(this);
     OnClick(ui.cmdCalculate, [this] { TrapUnknownError(Title, [this] { cmdCalculate_Click(); }); });
@@ -67,16 +84,27 @@ frmCalculateWages::frmCalculateWages()
 bool frmCalculateWages::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == ui.txtTotalHoursWorked) {
-        if (event->type() == QEvent::MouseButtonDblClick) {
+        if (event->type() == QEvent::MouseButtonDblClick &&
+            static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton) {
             TheWindows.ShowModal(WindowName::frmTotalHours);
             return true;
         }
         if (event->type() == QEvent::KeyPress && IsKeyPress(*static_cast<QKeyEvent *>(event))) {
-            TheWindows.Show(WindowName::frmTotalHours);
+            if (const auto &key = *static_cast<QKeyEvent *>(event); !key.isAutoRepeat())
+                ShowHours(key.text());
             return true;
         }
     }
     return Window::eventFilter(watched, event);
+}
+
+/// A number that is begun here goes on there, in the first week: its box is selected when its window becomes active, so
+/// that the first sign replaces what it held. The window system may bring a fast second one here, too; it is appended.
+void frmCalculateWages::ShowHours(const QString &typed)
+{
+    TheWindows.Show(WindowName::frmTotalHours);
+    if (BeginsANumber(typed))
+        TheWindows.ControlOf<QLineEdit>(WindowName::frmTotalHours, u"txtWeek1"_s).insert(typed);
 }
 
 void frmCalculateWages::Load()
@@ -99,6 +127,10 @@ void frmCalculateWages::Activate()
     ui.txtAverageNetPercentage->setText(PerCent(State.AverageNetPercentage));
     ui.txtTotalHoursWorked->setText(Format(Income.TotalHoursWorked, NumberFormat::Fixed));
     ui.txtPaycheckAmount->setText(FormatCurrency(State.PaycheckAmount));
+    const bool weekly = State.PayFrequency == Weekly;
+    ui.txtRegularHours->setToolTip(Described(m_regularHoursDescription, weekly));
+    ui.txtRegularHours->setAccessibleDescription(Described(m_regularHoursDescription, weekly));
+    ui.txtTotalHoursWorked->setAccessibleDescription(Described(m_hoursWorkedDescription, weekly));
     Window::Activate();
     if (const int option = OptionOfPayFrequency(State.PayFrequency); option >= 0)
         setWindowTitle(PayFrequencyOptions()[option].WagesCaption);

@@ -18,9 +18,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    static void ShowHours(const QString &typed = {});
     void txtTotalHoursWorked_LostFocus();
     void cmdCalculate_Click();
     void cmdExit_Click();
 
     Currency RememberedPaycheckAmount; ///< as it was when the window was shown
+    const QString m_regularHoursDescription;
+    const QString m_hoursWorkedDescription;
 };

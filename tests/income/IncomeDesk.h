@@ -4,6 +4,8 @@
 #include "GuiDesk.h"
 #include "income/IncomeState.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QTimer>
 
 namespace Test {
@@ -34,6 +36,14 @@ inline QString Texts(const QString &window, const QStringList &controls)
     for (const QString &control : controls)
         texts += TextOf(window, control);
     return texts.join(QStringLiteral(" | "));
+}
+
+/// A key that is held down reaches a control once more.
+inline void HoldKey(const QString &window, const QString &control, Qt::Key key, const QString &text)
+{
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+    QApplication::sendEvent(&Find(window, control), &held);
+    Settle();
 }
 
 /// The label that names a field.

@@ -110,6 +110,34 @@ private Q_SLOTS:
         QCOMPARE(box.isReadOnly(), field != Rate); // also the hours, which their own window writes
     }
 
+    void AWeeklyPaycheckSaysThatItCountsWholeHours()
+    {
+        const QString wholeHours = u"A weekly paycheck counts whole hours; 40.4 are 40"_s;
+        GuiDesk desk;
+        TakeHousehold(Biweekly);
+        Show(Wages);
+        const auto &regular = Find(Wages, u"txtRegularHours"_s);
+        const auto &worked = Find(Wages, Worked);
+        const QString ofWorked = worked.accessibleDescription();
+        QVERIFY(!ofWorked.contains(wholeHours));
+        QCOMPARE(regular.toolTip(), u"Regular hours of the pay period"_s);
+        for (int time = 0; time < 2; ++time) {
+            Show(u"frmEnvironmentSettings"_s);
+            State.PayFrequency = Weekly;
+            Show(Wages);
+            QCOMPARE(regular.toolTip(), u"Regular hours of the pay period. "_s + wholeHours);
+            QCOMPARE(regular.accessibleDescription(), regular.toolTip());
+            QCOMPARE(worked.accessibleDescription(), ofWorked + u". "_s + wholeHours);
+            QCOMPARE(worked.toolTip(), u"Double-click for Hours Calculator"_s);
+        }
+        Show(u"frmEnvironmentSettings"_s);
+        State.PayFrequency = Monthly;
+        Show(Wages);
+        QCOMPARE(regular.toolTip(), u"Regular hours of the pay period"_s);
+        QCOMPARE(regular.accessibleDescription(), regular.toolTip());
+        QCOMPARE(worked.accessibleDescription(), ofWorked);
+    }
+
     void TheFramesAndButtonsAndTheirOrder()
     {
         GuiDesk desk;
@@ -204,6 +232,93 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Wages, Worked), u"80.00"_s);
         QCOMPARE(FocusOf(Wages), Rate);
         QCOMPARE(Selected(Wages, Rate), u"$0.00"_s);
+    }
+
+    void AnotherButtonOfTheMouseShowsNoHours_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::newRow("right") << int(Qt::RightButton);
+        QTest::newRow("middle") << int(Qt::MiddleButton);
+    }
+    void AnotherButtonOfTheMouseShowsNoHours()
+    {
+        QFETCH(int, button);
+        GuiDesk desk;
+        TakeHousehold(Biweekly);
+        Show(Wages);
+        const bool shown = Meanwhile(
+            Hours, [&] { QTest::mouseDClick(&Find(Wages, Worked), Qt::MouseButton(button)); }, [] {});
+        QVERIFY(!shown);
+        QVERIFY(!TheWindows.Loaded(Hours));
+    }
+
+    void AKeyHeldDownShowsNoHours()
+    {
+        GuiDesk desk;
+        TakeHousehold(Biweekly);
+        Show(Wages);
+        PressEnter(Wages, Rate);
+        HoldKey(Wages, Worked, Qt::Key_Return, u"\r"_s); // of the press that moved the focus here
+        QVERIFY(!TheWindows.Loaded(Hours));
+        HoldKey(Wages, Worked, Qt::Key_Enter, u"\r"_s);
+        HoldKey(Wages, Worked, Qt::Key_4, u"4"_s);
+        HoldKey(Wages, Worked, Qt::Key_Backspace, u"\b"_s);
+        HoldKey(Wages, Worked, Qt::Key_Escape, u"\x1b"_s);
+        QVERIFY(!TheWindows.Loaded(Hours));
+        QCOMPARE(ActiveWindow(), Wages);
+        QCOMPARE(FocusOf(Wages), Worked);
+
+        Find(Wages, Rate).setFocus();
+        HoldKey(Wages, Rate, Qt::Key_Return, u"\r"_s);
+        QCOMPARE(FocusOf(Wages), Rate);
+    }
+
+    void TheNumberThatIsBegunGoesOnInTheFirstWeek_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("week"); ///< after the key, 0 and 5
+        QTest::newRow("a digit") << u"en_US"_s << u"4"_s << u"405"_s;
+        QTest::newRow("a sign") << u"en_US"_s << u"-"_s << u"-05"_s;
+        QTest::newRow("the other sign") << u"en_US"_s << u"+"_s << u"+05"_s;
+        QTest::newRow("the true minus sign") << u"en_US"_s << u"\u2212"_s << u"\u221205"_s;
+        QTest::newRow("the decimal point") << u"en_US"_s << u"."_s << u".05"_s;
+        QTest::newRow("another locale's") << u"de_DE"_s << u","_s << u",05"_s;
+        QTest::newRow("a letter only opens") << u"en_US"_s << u"h"_s << u"05"_s;
+        QTest::newRow("so does a sign of no number") << u"de_DE"_s << u"."_s << u"05"_s;
+        QTest::newRow("and a blank") << u"en_US"_s << u" "_s << u"05"_s;
+    }
+    void TheNumberThatIsBegunGoesOnInTheFirstWeek()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, first);
+        QFETCH(QString, week);
+        GuiDesk desk;
+        const QLocale before = UserLocale();
+        const auto putBack = qScopeGuard([&] { SetUserLocale(before); });
+        SetUserLocale(QLocale(locale));
+        TakeHousehold(Biweekly);
+        Income.WeekHours = {33, 34, 0, 0, 0};
+        Show(Wages);
+        PressEnter(Wages, Rate);
+        QTest::sendKeyEvent(QTest::Click, &Find(Wages, Worked), Qt::Key_unknown, first, Qt::NoModifier);
+        QCOMPARE(ActiveWindow(), Hours);
+        QCOMPARE(FocusOf(Hours), u"txtWeek1"_s);
+        // The window system has not followed yet when the next key comes.
+        QTest::keyClick(&Find(Wages, Worked), Qt::Key_0);
+        QTest::keyClick(&Find(Hours, u"txtWeek1"_s), Qt::Key_5);
+        QCOMPARE(TextOf(Hours, u"txtWeek1"_s), week);
+        QCOMPARE(Texts(Hours, {u"txtWeek2"_s}).left(2), u"34"_s);
+    }
+
+    void EnterLeavesTheHoursMarked()
+    {
+        GuiDesk desk;
+        TakeHousehold(Biweekly);
+        Income.WeekHours[0] = 33;
+        Show(Wages);
+        PressEnter(Wages, Worked);
+        QCOMPARE(Selected(Hours, u"txtWeek1"_s), u"33.00"_s);
     }
 
     void AKeyShowsTheHoursBesideIt_data()
@@ -451,6 +566,29 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(Wages)); // whatever the answer
         QCOMPARE(State.PaycheckAmount, Dollars(paycheck));
         QCOMPARE(desk.TakeFiles(), QStringList()); // kept in memory only
+    }
+
+    // What is remembered is the paycheck before the calculation, however often the window becomes active since.
+    void AnotherWindowInBetweenForgetsNoPaycheck_data()
+    {
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<qint64>("paycheck");
+        QTest::newRow("yes") << Answer::Yes << qint64(360);
+        QTest::newRow("no") << Answer::No << qint64(1000);
+    }
+    void AnotherWindowInBetweenForgetsNoPaycheck()
+    {
+        QFETCH(Answer, answer);
+        QFETCH(qint64, paycheck);
+        GuiDesk desk;
+        TakeHousehold(Weekly);
+        EarnInAWeek();
+        Show(u"frmEnvironmentSettings"_s);
+        Show(Wages);
+        desk.Answers = {answer};
+        Click(Wages, Exit);
+        QCOMPARE(desk.TakeMessage(), Question(u"$360.00"_s));
+        QCOMPARE(State.PaycheckAmount, Dollars(paycheck));
     }
 
     void AnUnchangedPaycheckIsNotAskedAbout()
