@@ -10,20 +10,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-/// Error 6 where the bill would go beyond the range of money with `line` in place `index`, which may be the one after
-/// the last: such a list could be shown and printed no more.
-void CheckBillWith(const CurrentItemRecord &line, int index)
-{
-    Currency bill = ComputeFullPrice(line);
-    for (int i = 1; i <= State.NumberOfCurrentItems; ++i)
-        if (i != index)
-            bill += ComputeFullPrice(State.CurrentShoppingList(i));
-}
-
-} // namespace
-
 Currency ComputeFullPrice(const CurrentItemRecord &line)
 {
     const float taxed = line.Taxable ? 1 : 0;
@@ -31,6 +17,14 @@ Currency ComputeFullPrice(const CurrentItemRecord &line)
     const double price = line.UnitPrice.ToDouble();
     const double tax = price * rate; // of one unit, whatever the quantity
     return Currency::FromDouble(price * double(line.Quantity) + tax) - line.CouponValue;
+}
+
+void CheckBillWith(const CurrentItemRecord &line, int index)
+{
+    Currency bill = ComputeFullPrice(line);
+    for (int i = 1; i <= State.NumberOfCurrentItems; ++i)
+        if (i != index)
+            bill += ComputeFullPrice(State.CurrentShoppingList(i));
 }
 
 double TaxOfWholeQuantity(const CurrentItemRecord &line)

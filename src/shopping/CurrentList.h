@@ -12,6 +12,10 @@
 /// Error 6 beyond the range of money.
 Currency ComputeFullPrice(const CurrentItemRecord &line);
 
+/// Error 6 where the bill would go beyond the range of money with `line` in place `index`, which may be the one after
+/// the last: such a list could be shown and printed no more.
+void CheckBillWith(const CurrentItemRecord &line, int index);
+
 /// What a price is taxed with, times the quantity, in double and not rounded: the tax that the printed list tells.
 double TaxOfWholeQuantity(const CurrentItemRecord &line);
 
