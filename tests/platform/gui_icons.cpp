@@ -44,8 +44,11 @@ constexpr IconRow ToolbarIcons[] = {
 };
 
 constexpr IconRow OtherIcons[] = {
-    {"exit", true, true},       {"help", true, true}, {"tutor", true, true}, {"getting-started", true, true},
+    {"exit", true, true},       {"help", true, true},
+    {"tutor", true, true},      {"getting-started", true, true},
     {"tallymere", false, true}, // the program's own: a filled tile
+    {"cart", true, true},       {"cart-taking", true, true},
+    {"shelf-item", true, true},
 };
 
 QList<IconRow> AllIcons()
