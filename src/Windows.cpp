@@ -31,7 +31,9 @@
 #include "mainwindow/frmSemiMonthlyPayInfo.h"
 #include "mainwindow/frmSetCurrentPayPeriod.h"
 #include "platform/windows/WindowRegister.h"
+#include "shopping/frmAddItem.h"
 #include "shopping/frmCurrentShoppingList.h"
+#include "shopping/frmMasterShoppingList.h"
 
 namespace {
 
@@ -73,6 +75,8 @@ void RegisterWindows()
     Register<frmCalculateWages>(WindowName::frmCalculateWages);
     Register<frmTotalHours>(WindowName::frmTotalHours);
     Register<frmAverageNetPercentage>(WindowName::frmAverageNetPercentage);
+    Register<frmMasterShoppingList>(WindowName::frmMasterShoppingList);
+    Register<frmAddItem>(WindowName::frmAddItem);
     Register<frmCurrentShoppingList>(WindowName::frmCurrentShoppingList);
 }
 

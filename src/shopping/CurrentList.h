@@ -35,8 +35,8 @@ void SortCurrentShoppingList();
 bool SelectCurrentItem(int row);
 
 /// Appends a line of one unit without a coupon. Its full price is its price until the list is priced.
-/// Error 6, with nothing changed, where the count or the whole bill would go beyond its range, error 9 for a count below
-/// 0.
+/// Error 6, with nothing changed, where the count or the whole bill would go beyond its range, error 9 for a count
+/// below 0.
 void AddCurrentItem(const MasterItemRecord &item);
 
 /// The texts of a line's fields.

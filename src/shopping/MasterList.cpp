@@ -189,9 +189,9 @@ bool PutOnCurrentList(const MasterItemRecord &item)
     int place = count;
     while (State.CurrentShoppingList(place) != added)
         --place;
-    SaveCurrentShoppingList();
+    const bool saved = SaveCurrentShoppingList();
     InputCurrentShoppingList();
-    if (State.NumberOfCurrentItems != count)
+    if (!saved)
         return false;
     // It is the line at hand from now on, or the next change to the item would be written into another one.
     Shopping.CurrentItemIndex = qint16(place);

@@ -5,6 +5,7 @@
 #include "debt/PayOffPlan.h"
 #include "debt/frmInput.h"
 #include "foundation/Calendar.h"
+#include "platform/controls/DropDownList.h"
 
 #include <QApplication>
 #include <QDirIterator>
@@ -16,8 +17,8 @@ namespace {
 
 constexpr int SamplePeriods = 12;
 
-/// What brings a window's content in the filled household: buttons, or the first rows of lists and grids, clicked one
-/// after the other.
+/// What brings a window's content in the filled household: buttons, or the first rows of lists, drop-down lists and
+/// grids, clicked one after the other.
 const QHash<QString, QStringList> &FirstClicks()
 {
     static const QHash<QString, QStringList> clicks{
@@ -29,6 +30,7 @@ const QHash<QString, QStringList> &FirstClicks()
         {u"frmCurrentShoppingList"_s, {u"grdCurrentShoppingList"_s}},
         {u"frmInterestRateCalculator"_s, {u"cmdCalculate"_s}},
         {u"frmPaymentCalculator"_s, {u"cmdCalculate"_s}},
+        {u"frmMasterShoppingList"_s, {u"cboStoreList"_s, u"lstMasterShopper"_s}},
         {u"frmProjects"_s, {u"cmdListProjects"_s, u"lstProjects"_s}},
         {u"frmRegulars"_s, {u"cmdListRegularItems"_s, u"lstRegulars"_s}},
         {u"frmSavings"_s, {u"cmdCalculate"_s}},
@@ -84,6 +86,8 @@ void ClickAllOf(const QString &window)
             ClickRow(window, control, 0);
         else if (control.startsWith(u"grd"_s))
             ClickFirstLine(window, control);
+        else if (control.startsWith(u"cbo"_s))
+            Find<DropDownList>(window, control).SetListIndex(0);
         else
             Click(window, control);
 }

@@ -91,7 +91,7 @@ void Form::CurrencyWhenLeft(const QList<QLineEdit *> &fields)
         OnLostFocus(field, [field] { ShowAsCurrency(field); });
 }
 
-void Form::OnEnter(QLineEdit *field, const std::function<void()> &handler)
+void Form::OnEnter(QWidget *field, const std::function<void()> &handler)
 {
     m_enter.insert(field, handler);
 }

@@ -70,7 +70,7 @@ protected:
     /// Each of these fields formats its text as currency when the focus leaves it; one that is no number stays.
     void CurrencyWhenLeft(const QList<QLineEdit *> &fields);
     /// Enter in one field does this instead; the key is swallowed.
-    void OnEnter(QLineEdit *field, const std::function<void()> &handler);
+    void OnEnter(QWidget *field, const std::function<void()> &handler);
     void OnGotFocus(QWidget *control, const std::function<void()> &handler);
     void OnLostFocus(QWidget *control, const std::function<void()> &handler);
     void closeEvent(QCloseEvent *event) final;
