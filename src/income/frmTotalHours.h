@@ -10,6 +10,8 @@ class frmTotalHours : public Window<Ui::frmTotalHours>
 public:
     frmTotalHours();
     void Activate() override;
+    /// The wage calculator shows it modally or not, and it behaves the same.
+    bool ClosesOnEscape() const override { return true; }
 
 private:
     bool ValidateTotalHours();

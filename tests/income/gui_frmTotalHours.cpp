@@ -286,6 +286,41 @@ private Q_SLOTS:
         QCOMPARE(Kept(), u"33 33 33 33 33"_s);
     }
 
+    void EscClosesItInEitherWay_data()
+    {
+        QTest::addColumn<bool>("modally");
+        QTest::newRow("beside the others") << false;
+        QTest::newRow("modally") << true;
+    }
+    void EscClosesItInEitherWay()
+    {
+        QFETCH(bool, modally);
+        GuiDesk desk;
+        State.PayFrequency = Biweekly;
+        Show(u"frmEnvironmentSettings"_s);
+        bool held = false;
+        bool closed = false;
+        const auto press = [&] {
+            Type(Hours, Boxes[0], u"50"_s);
+            HoldKey(Hours, Boxes[0], Qt::Key_Escape, u"\x1b"_s); // of the press that opened it
+            held = IsShown(Hours);
+            QTest::keyClick(&Find(Hours, Boxes[0]), Qt::Key_Escape);
+            closed = !TheWindows.Loaded(Hours);
+        };
+        if (modally) {
+            QVERIFY(Meanwhile(
+                Hours, [] { TheWindows.ShowModal(Hours); }, press));
+        } else {
+            Show(Hours);
+            press();
+        }
+        QVERIFY(held);
+        QVERIFY(closed);
+        Settle();
+        QCOMPARE(ActiveWindow(), u"frmEnvironmentSettings"_s);
+        QCOMPARE(Kept(), u"0 0 0 0 0"_s); // as the close box, it takes nothing
+    }
+
     void TheCloseBoxTakesNothing()
     {
         GuiDesk desk;

@@ -59,7 +59,7 @@ public:
         Closings += mode;
         return true;
     }
-    bool ClosesOnEscape() const override { return Escapes; }
+    bool ClosesOnEscape() const override { return Escapes && Window::ClosesOnEscape(); }
 
     inline static bool Accepted = false;
     inline static bool Escapes = true;

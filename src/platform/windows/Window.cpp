@@ -70,8 +70,9 @@ void WindowBase::Close()
 void WindowBase::keyPressEvent(QKeyEvent *event)
 {
     // The key comes here when no control has a use of its own for it.
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier && ClosesOnEscape() && !isModal())
-        close();
-    else
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier && ClosesOnEscape()) {
+        if (!event->isAutoRepeat()) // a key held down closes one window
+            close();
+    } else
         Form::keyPressEvent(event);
 }

@@ -42,8 +42,8 @@ public:
     /// Derived windows with an Activate of their own call this one where the focus is to be moved.
     void Activate() override;
     int HelpContext() const override { return m_look.HelpContext; }
-    /// Whether Esc closes the window as its close box does. A modal window never closes so.
-    virtual bool ClosesOnEscape() const { return true; }
+    /// Whether Esc closes the window as its close box does. A modal window does not unless it says so.
+    virtual bool ClosesOnEscape() const { return !isModal(); }
 
 protected:
     void OnClick(QAbstractButton *button, const std::function<void()> &handler);
