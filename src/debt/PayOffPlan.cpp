@@ -89,8 +89,8 @@ private:
                 Debt.PayOffPayment = m_rollingAmount + setAmount;
         } while (Debt.PayOffNextBalance > Debt.PayOffPayment);
         ComputeClosingMonth(creditor);
-        m_transferMonth = Debt.PayOffMonthNumber + 1;
-        m_rollingAmount += setAmount; // not what the closing month took
+        m_transferMonth = ToInteger(Debt.PayOffMonthNumber + 1); // after 32,767 months the closing row is never reached
+        m_rollingAmount += setAmount;                            // not what the closing month took
         AddRow(ThisMonth());
         AddRow({});
     }
@@ -129,9 +129,9 @@ private:
 
     PayOffPlan &m_plan;
     qint16 m_gridRow = 0;
-    int m_transferMonth = 0;  // in which the rolled amount reaches the creditor at hand; no month is number 0
-    Currency m_rollingAmount; // the set monthly amounts of all creditors finished so far
-    QDate m_startingDate;     // of the creditor's row with everything rolled into it
+    qint16 m_transferMonth = 0; // in which the rolled amount reaches the creditor at hand; no month is number 0
+    Currency m_rollingAmount;   // the set monthly amounts of all creditors finished so far
+    QDate m_startingDate;       // of the creditor's row with everything rolled into it
     int m_nextDueDay = 0;
 };
 

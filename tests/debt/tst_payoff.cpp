@@ -465,7 +465,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("rows");
         QTest::addColumn<int>("lines");
         QTest::newRow("the last that fits") << QStringList{u"32766"_s} << 0 << 32767 << 10;
-        QTest::newRow("the empty row is one too many") << QStringList{u"32767"_s} << 6 << 32767 << 0;
+        QTest::newRow("the month after the last is none, so that the closing row is missing")
+            << QStringList{u"32767"_s} << 6 << 32766 << 0;
+        QTest::newRow("the empty row is one too many") << QStringList{u"16383"_s, u"16383"_s} << 6 << 32767 << 10;
         QTest::newRow("the second creditor is cut off") << QStringList{u"17000"_s, u"17000"_s} << 6 << 32767 << 10;
     }
     void RowsAreCountedIn16Bits()
