@@ -11,6 +11,10 @@
 #include <QPushButton>
 #include <QShortcutEvent>
 
+namespace {
+bool KeyIsHeld = false; // the key that is being looked up as a shortcut repeats itself
+} // namespace
+
 void WindowRegister::Start()
 {
     qApp->installEventFilter(this);
@@ -42,6 +46,9 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
             m_clicked = nullptr;
         }
         break;
+    case QEvent::ShortcutOverride: // it comes before each shortcut
+        KeyIsHeld = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+        break;
     case QEvent::Shortcut:
         if (AccessKey(watched, *static_cast<QShortcutEvent *>(event)))
             return true;
@@ -55,13 +62,15 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-/// An access key moves the focus before it clicks.
+/// An access key moves the focus before it clicks. One held down is one click.
 bool WindowRegister::AccessKey(QObject *watched, const QShortcutEvent &event)
 {
     const QPointer<QAbstractButton> button = qobject_cast<QAbstractButton *>(watched);
     Form *form = FormOf(button);
     if (!form || !button->isEnabled() || event.isAmbiguous())
         return false;
+    if (KeyIsHeld)
+        return true;
     if (button->focusPolicy() != Qt::NoFocus)
         MoveFocus(form, button);
     if (button)
