@@ -4,6 +4,10 @@
 #include "foundation/WindowNames.h"
 #include "platform/windows/WindowRegister.h"
 
+#include <QKeyEvent>
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 constexpr EntryRule<Ui::frmInput> NumberRules[] = {{&Ui::frmInput::txtInput, Numeric, "Please enter a valid number"}};
 constexpr EntryRule<Ui::frmInput> NameRules[] = {{&Ui::frmInput::txtInput, NotEmpty, "Please enter creditor name"}};
@@ -13,6 +17,7 @@ constexpr EntryRule<Ui::frmInput> NameRules[] = {{&Ui::frmInput::txtInput, NotEm
 frmInput::frmInput() : Window({.Title = {}, .TheIcon = Icon::Warning})
 {
     OnClick(ui.cmdOK, [this] { cmdOK_Click(); });
+    OnEnter(ui.txtInput, [this] { FocusOn(ui.cmdOK); });
     StartAt(ui.txtInput);
 }
 
@@ -23,8 +28,18 @@ void frmInput::Prepare(const Question &question)
     window.ui.lblPrompt->setText(Debt.InputPrompt);
     window.setWindowTitle(question.Title);
     window.ui.txtInput->setText(question.Answer);
-    window.ui.txtInput->setAccessibleDescription(question.Tip);
-    window.ui.txtInput->setToolTip(question.Tip);
+    const QString tip = question.Tip + u". Closing this box takes the last answer again."_s;
+    window.ui.txtInput->setAccessibleDescription(tip);
+    window.ui.txtInput->setToolTip(tip);
+}
+
+/// Esc is the close box. A key held down is one press, or it would answer the questions that follow.
+void frmInput::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier)
+        Window::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        close();
 }
 
 bool frmInput::ValidateInput()

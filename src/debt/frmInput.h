@@ -19,6 +19,9 @@ public:
     /// Loads the dialog unseen and puts the question.
     static void Prepare(const Question &question);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     bool ValidateInput();
     void cmdOK_Click();

@@ -41,7 +41,10 @@ private Q_SLOTS:
         QCOMPARE(Debt.InputPrompt, u"What?"_s);
         QCOMPARE(TextOf(Input, u"lblPrompt"_s), u"What?"_s);
         QCOMPARE(TextOf(Input, u"txtInput"_s), u"1"_s);
-        QCOMPARE(Find(Input, u"txtInput"_s).toolTip(), u"a tip"_s);
+        const QString tip = u"a tip. Closing this box takes the last answer again."_s;
+        QCOMPARE(Find(Input, u"txtInput"_s).toolTip(), tip);
+        QCOMPARE(Find(Input, u"txtInput"_s).accessibleDescription(), tip);
+        QCOMPARE(Find(Input, u"cmdOK"_s).toolTip(), u"Take this answer; closing the box takes the last answer again"_s);
         QCOMPARE(Find<QLineEdit>(Input, u"txtInput"_s).selectedText(), u"1"_s); // typing replaces it
     }
 
@@ -91,9 +94,64 @@ private Q_SLOTS:
         Type(Input, u"txtInput"_s, u"Card"_s);
         PressEnter(Input, u"txtInput"_s); // presses no button
         QVERIFY(IsShown(Input));
+        QCOMPARE(FocusOf(Input), u"cmdOK"_s); // but the next one does
         CloseByFrame(Input);
         QVERIFY(!TheWindows.Loaded(Input));
         QCOMPARE(Debt.InputResult, u"before"_s);
+    }
+
+    void EnterAndEnterAgainIsAnAnswer()
+    {
+        GuiDesk desk;
+        Ask(InputTitle::CreditorName);
+        Type(Input, u"txtInput"_s, u"Card"_s);
+        PressEnter(Input, u"txtInput"_s);
+        PressEnter(Input, FocusOf(Input));
+        QVERIFY(!TheWindows.Loaded(Input));
+        QCOMPARE(Debt.InputResult, u"Card"_s);
+    }
+
+    void EscIsItsCloseBox_data()
+    {
+        QTest::addColumn<bool>("held");
+        QTest::addColumn<QString>("control");
+        QTest::newRow("in the field") << false << u"txtInput"_s;
+        QTest::newRow("on the button") << false << u"cmdOK"_s;
+        QTest::newRow("held down since the question before") << true << u"txtInput"_s;
+    }
+    void EscIsItsCloseBox()
+    {
+        QFETCH(bool, held);
+        QFETCH(QString, control);
+        GuiDesk desk;
+        Debt.InputResult = u"before"_s;
+        frmInput::Prepare({.Title = InputTitle::CreditorName, .Tip = {}, .Prompt = {}, .Answer = u"Card"_s});
+        bool stayed = false;
+        QTimer::singleShot(0, [&] {
+            QWidget &receiver = Find(Input, control);
+            static_cast<Form *>(receiver.window())->FocusOn(&receiver);
+            QTest::simulateEvent(&receiver, true, Qt::Key_Escape, Qt::NoModifier, u"\x1b"_s, held);
+            stayed = IsShown(Input);
+            if (stayed)
+                CloseByFrame(Input);
+        });
+        TheWindows.ShowModal(Input);
+        QCOMPARE(stayed, held);
+        QVERIFY(!TheWindows.Loaded(Input));
+        QCOMPARE(Debt.InputResult, u"before"_s);
+    }
+
+    void EachComingBackStartsInTheField()
+    {
+        GuiDesk desk;
+        Ask(InputTitle::CreditorName, u"Card"_s);
+        static_cast<Form &>(*TheWindows.Loaded(Input)).FocusOn(&Find(Input, u"cmdOK"_s));
+        QCOMPARE(FocusOf(Input), u"cmdOK"_s);
+        Show(u"frmPayOff"_s);
+        Find<QLineEdit>(Input, u"txtInput"_s).deselect();
+        Show(Input);
+        QCOMPARE(FocusOf(Input), u"txtInput"_s);
+        QCOMPARE(Find<QLineEdit>(Input, u"txtInput"_s).selectedText(), u"Card"_s);
     }
 
     void TheNextQuestionFindsAFreshDialogue()

@@ -178,7 +178,7 @@ bool ShowAtWork(const QString &window, Household household)
     if (window == u"frmInput"_s && household == Household::Filled)
         frmInput::Prepare(
             {.Title = InputTitle::CreditorName,
-             .Tip = {},
+             .Tip = u"The name that this debt has in the plan"_s,
              .Prompt = u"In the box below enter the name of the creditor or bill that would be Creditor # 1"_s,
              .Answer = u"Department Store"_s});
     Show(window);
