@@ -14,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int MonthsAYear = 12;
+const QString ReportName = u"Pay Off Plan"_s;
 
 /// One month's interest on a balance: money, rounded to the ten-thousandth, ties to even.
 Currency InterestOn(Currency balance, float monthlyRate)
@@ -137,8 +138,8 @@ private:
 
 void PrintPlan(const PayOffPlan &plan)
 {
-    BeginReport(u"Pay Off Plan"_s);
-    PrintHeading(u"Pay Off Plan"_s);
+    BeginReport(ReportName);
+    PrintHeading(ReportName);
     for (const PayOffLine &line : plan.Lines)
         if (line.IsPrinted)
             ThePrinter.Print(line.Text).NewLine();
@@ -211,6 +212,7 @@ void SortPayOffCreditors()
 
 void BuildPayOffPlan()
 {
+    EndPrintedPlan();
     const auto plan = std::make_shared<PayOffPlan>();
     std::optional<RuntimeError::Code> failure;
     ResumeNext([&] { PlanBuilder(*plan).Build(); }, [&](const RuntimeError &error) { failure = error.Number; });
@@ -220,6 +222,12 @@ void BuildPayOffPlan()
     if (failure)
         RaiseError(*failure); // for the window, whose handler tells it
     if (State.PrintPayOffPlan)
+        ThePrinter.EndDoc();
+}
+
+void EndPrintedPlan()
+{
+    if (ThePrinter.DocumentName == ReportName)
         ThePrinter.EndDoc();
 }
 

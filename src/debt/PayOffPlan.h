@@ -76,8 +76,12 @@ void SortPayOffCreditors();
 /// previous balance before the payment, also in the first month, at one twelfth of the yearly rate whatever the month's
 /// length; it is rounded to the ten-thousandth, ties to even, and everything else is exact. Errors: 6 beyond 32,767
 /// rows or the range of Currency, 5 beyond the year 9999. What was built until then is shown all the same, and what was
-/// printed stays in the open document.
+/// printed stays in the open document until EndPrintedPlan, with which the next plan begins.
 void BuildPayOffPlan();
+
+/// Sends off what a plan that failed has left in the open document, so that it never stands before another print. Pages
+/// of another report are left alone.
+void EndPrintedPlan();
 
 /// A row as the cells of a grid.
 QStringList CellsOf(const PayOffRow &row);

@@ -52,7 +52,7 @@ frmPayOff::frmPayOff() : Window({.Title = u"Pay Off"_s, .TheIcon = Icon::Warning
     ui.printSwitch->Set(State.PrintPayOffPlan);
     connect(&ThePayOffOutlet, &PayOffOutlet::Ready, this,
             [this](const std::shared_ptr<const PayOffPlan> &plan) { ShowPlan(plan); });
-    connect(ui.printSwitch, &PrintSwitch::Click, this, [](bool on) { State.PrintPayOffPlan = on; });
+    connect(ui.printSwitch, &PrintSwitch::Click, this, &frmPayOff::Print_Click);
     OnClickTrapped(ui.cmdEnterCreditors, [this] { cmdEnterCreditors_Click(); });
     UnloadOn(ui.cmdExit);
 }
@@ -65,11 +65,19 @@ void frmPayOff::Load()
 
 void frmPayOff::Unload()
 {
+    EndPrintedPlan();
     if (!State.GuidedSetupActive)
         return;
     State.GuidedSetupActive = false;
     State.GuidedSetupStep = 0;
     TheWindows.Unload(WindowName::frmGettingStarted);
+}
+
+void frmPayOff::Print_Click(bool on)
+{
+    State.PrintPayOffPlan = on;
+    if (!on)
+        EndPrintedPlan();
 }
 
 void frmPayOff::ShowPlan(const std::shared_ptr<const PayOffPlan> &plan)

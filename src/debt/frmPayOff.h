@@ -14,5 +14,6 @@ public:
 
 private:
     void ShowPlan(const std::shared_ptr<const PayOffPlan> &plan);
+    static void Print_Click(bool on);
     void cmdEnterCreditors_Click();
 };

@@ -50,6 +50,7 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"lblPayOffPlan"_s), u"Pay Off Plan"_s);
         QCOMPARE(TextOf(Window, u"cmdEnterCreditors"_s), u"&Enter Creditors"_s);
         QCOMPARE(TextOf(Window, u"Frame1"_s), u"Print"_s);
+        QVERIFY(Find(Window, u"Frame1"_s).toolTip().contains(u"set it before Enter Creditors"_s));
         QCOMPARE(TextOf(Window, u"Label1"_s), u"On"_s);
         QCOMPARE(TextOf(Window, u"Label2"_s), u"Off"_s);
         QCOMPARE(RowsOf(Window, u"lstPayOffInfo"_s), QStringList());

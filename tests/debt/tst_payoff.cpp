@@ -569,6 +569,44 @@ private Q_SLOTS:
         QVERIFY(!ThePrinter.PendingLines().contains(u"Creditor: Second"_s));
         ThePrinter.Reset();
     }
+
+    void WhatAFailedPlanLeftIsSentOffBeforeTheNextOne_data()
+    {
+        QTest::addColumn<bool>("printed");
+        QTest::newRow("the next one is printed") << true;
+        QTest::newRow("the next one is only shown") << false;
+    }
+    void WhatAFailedPlanLeftIsSentOffBeforeTheNextOne()
+    {
+        QFETCH(bool, printed);
+        FakeDesk desk;
+        State.PrintPayOffPlan = true;
+        PlanOf({{u"First"_s, u"17000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s},
+                {u"Second"_s, u"17000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s}});
+        State.PrintPayOffPlan = printed;
+        PlanOf({{u"Only"_s, u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s}});
+        const PrintJob half = desk.TakePrinted();
+        QCOMPARE(half.Name, u"Pay Off Plan"_s);
+        QCOMPARE(half.Lines.size(), 4 + 9);
+        QCOMPARE(half.Lines[4], u"Creditor: First"_s);
+        if (printed)
+            QCOMPARE(desk.TakePrinted().Lines.value(4), u"Creditor: Only"_s);
+        QVERIFY(desk.Printed.isEmpty());
+        QVERIFY(ThePrinter.PendingLines().isEmpty());
+    }
+
+    void OnlyAPlansOwnPagesAreSentOff()
+    {
+        FakeDesk desk;
+        EndPrintedPlan(); // nothing to send
+        QVERIFY(desk.Printed.isEmpty());
+        ThePrinter.DocumentName = u"Budget"_s;
+        ThePrinter.Print(u"Budget"_s).NewLine();
+        EndPrintedPlan();
+        QVERIFY(desk.Printed.isEmpty());
+        QCOMPARE(ThePrinter.PendingLines(), QStringList{u"Budget"_s});
+        ThePrinter.Reset();
+    }
 };
 
 REGISTER_TEST(tst_payoff)
