@@ -46,7 +46,10 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"lblMonthlyPayment"_s), u"Monthly Payment"_s);
         QCOMPARE(TextOf(Window, u"lblDueDate"_s), u"Due Date"_s);
         QCOMPARE(TextOf(Window, u"cmdOK"_s), u"&OK"_s);
-        QVERIFY(Find<QLineEdit>(Window, u"txtCreditor"_s).isReadOnly());
+        const auto &creditor = Find<QLineEdit>(Window, u"txtCreditor"_s);
+        QVERIFY(creditor.isReadOnly());
+        QCOMPARE(creditor.palette().color(QPalette::Base), QColor(Qt::transparent)); // a shown value
+        QCOMPARE(creditor.focusPolicy(), Qt::ClickFocus);                            // the tab key passes it by
         for (const QString &box :
              {u"txtBalanceOwed"_s, u"txtAnnualPercentageRate"_s, u"txtMonthlyPayment"_s, u"txtDueDate"_s}) {
             QVERIFY(!Find<QLineEdit>(Window, box).isReadOnly());
@@ -74,6 +77,10 @@ private Q_SLOTS:
         Show(Window);
         EnterFigures(u"$1,000.00"_s, u"12"_s, u"10.01"_s, u"May 24, 2004"_s);
         QCOMPARE(Debt.LoopIndex, qint16(2));
+        QCOMPARE(
+            Find(Window, u"txtCreditor"_s).toolTip(),
+            u"Store\nCreditor 2 of 2. Going to another window of the program and coming back starts again with the "
+            "first."_s);
         QCOMPARE(Boxes(), (QStringList{u"Pay Off Information For Store"_s, u"Store"_s, u"$0.00"_s, u"0.00"_s,
                                        u"$0.00"_s, u"1/5/04"_s}));
         QCOMPARE(FocusOf(Window), u"cmdOK"_s); // not moved
@@ -84,6 +91,73 @@ private Q_SLOTS:
         QCOMPARE(Debt.PayOffDueDates(1), QDate(2004, 5, 24));
         QCOMPARE(Debt.LoanAnnualRate, 12.0F); // shared with the loan windows
         QVERIFY(!TheWindows.Loaded(u"frmPayOff"_s));
+    }
+
+    void ALongNameCanBeReadAsAWhole()
+    {
+        GuiDesk desk;
+        const QString name = u"The %1 Department Store of the Town Beyond the River "_s.repeated(3);
+        NameCreditors({u"Card"_s, u"Store"_s, name});
+        Show(Window);
+        QCOMPARE(Find(Window, u"txtCreditor"_s).toolTip().section(u'.', 0, 0), u"Card\nCreditor 1 of 3"_s);
+        EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        const auto &field = Find<QLineEdit>(Window, u"txtCreditor"_s);
+        QVERIFY(field.toolTip().startsWith(name + u"\nCreditor 3 of 3. "_s));
+        QCOMPARE(field.accessibleDescription(), field.toolTip());
+        QCOMPARE(field.cursorPosition(), 0);
+    }
+
+    void ADoubleClickOnOkIsOneClick_data()
+    {
+        QTest::addColumn<bool>("byMouse");
+        QTest::newRow("by mouse") << true;
+        QTest::newRow("by its access key") << false;
+    }
+    void ADoubleClickOnOkIsOneClick()
+    {
+        QFETCH(bool, byMouse);
+        GuiDesk desk;
+        NameCreditors({u"Card"_s, u"Store"_s, u"Doctor"_s});
+        Show(Window);
+        const auto again = [&] {
+            if (byMouse)
+                return Click(Window, u"cmdOK"_s);
+            QTest::keyClick(&Find(Window, FocusOf(Window)), Qt::Key_O, Qt::AltModifier);
+            Settle();
+        };
+        EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        again(); // and a third press
+        again();
+        QVERIFY(desk.Messages.isEmpty()); // zeros would be refused
+        QCOMPARE(Debt.LoopIndex, qint16(2));
+        QCOMPARE(Debt.PayOffMonthlyAmounts(2), Currency());
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        again(); // a click of its own
+        QVERIFY(desk.TakeBeep());
+        desk.TakeMessage();
+        EnterFigures(u"200"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        EnterFigures(u"300"_s, u"0"_s, u"50"_s, u"1/1/2004"_s); // somebody types fast
+        desk.TakeHourglass();
+        QVERIFY(!TheWindows.Loaded(Window));
+    }
+
+    void OkHeldDownIsOneClick()
+    {
+        GuiDesk desk;
+        NameCreditors({u"Card"_s, u"Store"_s});
+        Show(Window);
+        EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        QTest::qWait(QApplication::doubleClickInterval() + 50); // a keyboard may wait longer before it repeats
+        for (const auto &[key, modifier] :
+             {std::pair(Qt::Key_O, Qt::AltModifier), std::pair(Qt::Key_Space, Qt::NoModifier),
+              std::pair(Qt::Key_Return, Qt::NoModifier)}) {
+            QTest::simulateEvent(&Find(Window, u"cmdOK"_s), true, key, modifier, QString(), true);
+            QTest::simulateEvent(&Find(Window, u"cmdOK"_s), false, key, modifier, QString(), true);
+        }
+        Settle();
+        QVERIFY(desk.Messages.isEmpty());
+        QCOMPARE(Debt.LoopIndex, qint16(2));
     }
 
     void EnterGoesRoundAndPressesNothing()
@@ -156,7 +230,14 @@ private Q_SLOTS:
         GuiDesk desk;
         NameCreditors({u"Rent %1"_s, u"Store"_s}); // a name is a text like any other
         Show(Window);
+        int beepsBefore = -1;
+        const auto show = TheDesk.ShowMessage;
+        TheDesk.ShowMessage = [&](const Message &message) {
+            beepsBefore = desk.Beeps;
+            return show(message);
+        };
         EnterFigures(figures[0], figures[1], figures[2], u"1/1/2004"_s);
+        QCOMPARE(beepsBefore, 1); // not after the message has been read
         QVERIFY(desk.TakeBeep());
         QCOMPARE(desk.TakeMessage(),
                  (Message{u" The monthly amount of "_s + amount +

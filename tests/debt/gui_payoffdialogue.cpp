@@ -4,6 +4,7 @@
 #include "TestProgram.h"
 
 #include "debt/PayOffPlan.h"
+#include "platform/desk/Printer.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -330,7 +331,7 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Info, u"txtBalanceOwed"_s), u"100"_s);
     }
 
-    void WithThePlansWindowClosedThePlanIsMadeUnseen()
+    void WithThePlansWindowClosedThePlanBringsItBack()
     {
         GuiDesk desk;
         desk.StartProgram();
@@ -339,10 +340,41 @@ private Q_SLOTS:
         Show(Info);
         EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
         desk.TakeHourglass();
-        QVERIFY(TheWindows.Loaded(PayOff));
-        QVERIFY(!IsShown(PayOff));
-        Show(PayOff);
+        QVERIFY(!TheWindows.Loaded(Info));
+        QVERIFY(IsShown(PayOff)); // unseen it would hold the tutor's timer
+        QCOMPARE(ActiveWindow(), PayOff);
         QCOMPARE(PlanLines().value(0), u"Creditor: Card"_s);
+        Click(PayOff, u"cmdExit"_s);
+        QVERIFY(Find<QTimer>(u"frmMain"_s, u"tmrAutoTutor"_s).isActive());
+        QCOMPARE(ActiveWindow(), u"frmMain"_s);
+    }
+
+    void ThePlanLeavesTheUserWhereTheWindowStands()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Begin({u"Card"_s});
+        Show(u"frmSavings"_s);
+        Show(Info);
+        EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        desk.TakeHourglass();
+        QVERIFY(IsShown(PayOff));
+        QCOMPARE(ActiveWindow(), u"frmSavings"_s); // from where the figures were entered
+    }
+
+    void APlanThatFailsInAClosedWindowBringsItBack()
+    {
+        GuiDesk desk;
+        Begin({u"First"_s, u"Second"_s});
+        CloseByFrame(PayOff);
+        Show(Info);
+        EnterFigures(u"17000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s);
+        EnterFigures(u"17000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError(u"Creditor Info"_s));
+        desk.TakeHourglass();
+        QVERIFY(IsShown(PayOff));
+        QVERIFY(IsShown(Info));
+        QCOMPARE(PlanLines().size(), 10);
     }
 
     // Failures inside the plan
@@ -363,6 +395,11 @@ private Q_SLOTS:
         QCOMPARE(Debt.LoopIndex, qint16(0));
         QCOMPARE(PlanRows(), rows); // the plan of before stands
         QCOMPARE(PlanLines(), lines);
+        CloseByFrame(Info);
+        QCOMPARE(desk.TakeHourglass(), QList<bool>{false}); // the program goes on with a free pointer
+        Begin({u"Card"_s});
+        CloseByFrame(Info);
+        QVERIFY(desk.TakeHourglass().isEmpty());
     }
 
     void APlanOfTooManyRowsIsShownAsFarAsItGot()
@@ -381,6 +418,30 @@ private Q_SLOTS:
         QCOMPARE(grid.Text(17001, 0), QString());
         QCOMPARE(grid.Text(32767, 0), u"15766"_s);
         QCOMPARE(grid.Text(32768, 0), QString());
+    }
+
+    void HalfThePagesOfAFailedPlanAreSentOff_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("with the switch") << u"pbPrintOff"_s;
+        QTest::newRow("with the window") << u"cmdExit"_s;
+    }
+    void HalfThePagesOfAFailedPlanAreSentOff()
+    {
+        QFETCH(QString, button);
+        GuiDesk desk;
+        Show(PayOff);
+        Click(PayOff, u"pbPrintOn"_s);
+        Begin({u"First"_s, u"Second"_s});
+        EnterFigures(u"17000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s);
+        EnterFigures(u"17000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError(u"Creditor Info"_s));
+        desk.TakeHourglass();
+        QVERIFY(desk.Printed.isEmpty());
+        Show(PayOff);
+        Click(PayOff, button);
+        QCOMPARE(desk.TakePrinted().Lines.value(4), u"Creditor: First"_s);
+        QVERIFY(ThePrinter.PendingLines().isEmpty());
     }
 
     void OkAfterAFailureFailsUntilTheUserComesBack()
