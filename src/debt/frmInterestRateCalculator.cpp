@@ -18,7 +18,7 @@ constexpr EntryRule<Design> Rules[] = {
 
 frmInterestRateCalculator::frmInterestRateCalculator()
     : Window({.Title = u"Loan Interest Rates"_s, .TheIcon = Icon::Warning}),
-      optPaymentDue(ui.optPaymentDue0, ui.optPaymentDue1)
+      optPaymentDue(ui.optPaymentDue0, ui.optPaymentDue1, ui.lblDueChanged)
 {
     // What cannot be computed is told under another title than what is refused: a habit of this window that is kept.
     OnClick(ui.cmdCalculate, [this] { TrapUnknownError(u"Interest Rates"_s, [this] { cmdCalculate_Click(); }); });
@@ -48,6 +48,8 @@ void frmInterestRateCalculator::cmdCalculate_Click()
         LoanInterestRate({.BorrowedAmount = ui.txtBorrowedAmount->text(),
                           .MonthlyPayments = ui.txtMonthlyPayments->text(),
                           .NumberOfMonthlyPayments = ui.txtNumberOfMonthlyPayments->text()});
-    if (sentence)
-        ui.lblInterestRate->setText(*sentence);
+    if (!sentence)
+        return;
+    ui.lblInterestRate->setText(*sentence);
+    optPaymentDue.HoldsForTheResult();
 }

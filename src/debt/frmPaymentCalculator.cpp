@@ -19,7 +19,7 @@ constexpr EntryRule<Design> Rules[] = {
 
 frmPaymentCalculator::frmPaymentCalculator()
     : Window({.Title = u"Loan Payments"_s, .TheIcon = Icon::Warning}),
-      optPaymentDue(ui.optPaymentDue0, ui.optPaymentDue1)
+      optPaymentDue(ui.optPaymentDue0, ui.optPaymentDue1, ui.lblDueChanged)
 {
     OnClickTrapped(ui.cmdCalculate, [this] { cmdCalculate_Click(); });
     OnClick(ui.cmdAmortizationTable, [] { TheWindows.Show(WindowName::frmSelectMonth); });
@@ -52,5 +52,6 @@ void frmPaymentCalculator::cmdCalculate_Click()
     if (!sentence)
         return;
     ui.lblMonthlyPayment->setText(*sentence);
+    optPaymentDue.HoldsForTheResult();
     ui.cmdAmortizationTable->setEnabled(true); // and it stays so: the table lists the loan that is stored
 }

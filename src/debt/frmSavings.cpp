@@ -18,7 +18,8 @@ constexpr EntryRule<Design> Rules[] = {
 } // namespace
 
 frmSavings::frmSavings()
-    : Window({.Title = u"Savings"_s, .TheIcon = Icon::Warning}), optPaymentDue(ui.optPaymentDue0, ui.optPaymentDue1)
+    : Window({.Title = u"Savings"_s, .TheIcon = Icon::Warning}),
+      optPaymentDue(ui.optPaymentDue0, ui.optPaymentDue1, ui.lblDueChanged)
 {
     OnClickTrapped(ui.cmdCalculate, [this] { cmdCalculate_Click(); });
     UnloadOn(ui.cmdExit);
@@ -45,9 +46,11 @@ void frmSavings::Activate()
 
 void frmSavings::cmdCalculate_Click()
 {
-    if (Accepts(Rules))
-        ui.lblFutureValue->setText(FutureSavings({.MonthlyDeposits = ui.txtMonthlyDeposits->text(),
-                                                  .AnnualPercentageRate = ui.txtAnnualPercentageRate->text(),
-                                                  .NumberOfMonthlyDeposits = ui.txtNumberOfMonthlyDeposits->text(),
-                                                  .CurrentSavingsAmount = ui.txtCurrentSavingsAmount->text()}));
+    if (!Accepts(Rules))
+        return;
+    ui.lblFutureValue->setText(FutureSavings({.MonthlyDeposits = ui.txtMonthlyDeposits->text(),
+                                              .AnnualPercentageRate = ui.txtAnnualPercentageRate->text(),
+                                              .NumberOfMonthlyDeposits = ui.txtNumberOfMonthlyDeposits->text(),
+                                              .CurrentSavingsAmount = ui.txtCurrentSavingsAmount->text()}));
+    optPaymentDue.HoldsForTheResult();
 }

@@ -4,6 +4,7 @@
 #include "../commitments/CommitmentsDesk.h"
 #include "debt/DebtState.h"
 
+#include <QAccessible>
 #include <QRadioButton>
 
 const inline QString Beginning = QStringLiteral("optPaymentDue0");
@@ -67,4 +68,53 @@ inline void SeeThatOptionsAndSharedValueAgree(const QString &window)
     Click(window, End);
     QCOMPARE(Debt.LoanPaymentDue, qint16(0));
     QCOMPARE(DueShown(window), 0);
+}
+
+/// The line that tells that the options have changed while the user was elsewhere.
+inline QString DueLine(const QString &window)
+{
+    return TextOf(window, QStringLiteral("lblDueChanged"));
+}
+
+/// The line comes when the options that the window has shown change, stays through refusals, and goes with the result.
+/// The window has been calculated with what its fields hold, payments being due at the end.
+inline void SeeThatAChangeFromElsewhereIsTold(const QString &window, const QString &result, const QString &count)
+{
+    const QString line = QStringLiteral("Another calculator has changed when payments are due. Press Calculate again.");
+    const QString calculate = QStringLiteral("cmdCalculate");
+    QCOMPARE(DueLine(window), QString());
+    LeaveAndComeBack(window);
+    QCOMPARE(DueLine(window), QString()); // nobody has changed anything
+    Click(window, Beginning);
+    Click(window, End);
+    QCOMPARE(DueLine(window), QString()); // the user's own doing
+
+    const QString before = TextOf(window, result);
+    Debt.LoanPaymentDue = 1; // as another calculator would
+    LeaveAndComeBack(window);
+    QCOMPARE(DueLine(window), line);
+    QVERIFY(Find(window, QStringLiteral("lblDueChanged")).isVisible());
+    QCOMPARE(TextOf(window, result), before);
+    LeaveAndComeBack(window);
+    QCOMPARE(DueLine(window), line);
+
+    const QString many = TextOf(window, count);
+    Type(window, count, QStringLiteral("many"));
+    Click(window, calculate); // refused
+    QCOMPARE(DueLine(window), line);
+    Type(window, count, QStringLiteral("70000"));
+    Click(window, calculate); // fails
+    QCOMPARE(DueLine(window), line);
+    QCOMPARE(TextOf(window, result), before);
+    Type(window, count, many);
+    Click(window, calculate);
+    QCOMPARE(DueLine(window), QString());
+    QVERIFY(TextOf(window, result) != before);
+    QCOMPARE(DueShown(window), 1);
+}
+
+/// What is read aloud of a control.
+inline QString NameSpoken(const QString &window, const QString &control)
+{
+    return QAccessible::queryAccessibleInterface(&Find(window, control))->text(QAccessible::Name);
 }

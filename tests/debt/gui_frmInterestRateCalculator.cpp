@@ -203,6 +203,31 @@ private Q_SLOTS:
         QCOMPARE(GridRows(u"frmAmortization"_s, u"grdAmortization"_s).value(1), u"1 | $256.28 | $249.96 | $6.32"_s);
     }
 
+    void AChangeFromElsewhereIsTold()
+    {
+        GuiDesk desk;
+        CalculateTheMortgage();
+        SeeThatAChangeFromElsewhereIsTold(Window, Result, Count);
+        QVERIFY(desk.TakeMessage().Text.contains(u" does not contain a valid numeric amount"_s));
+        QCOMPARE(desk.TakeMessage().Text, UnknownErrorText);
+    }
+
+    void TheResultIsReadAloud()
+    {
+        GuiDesk desk;
+        CalculateTheMortgage();
+        QCOMPARE(NameSpoken(Window, Result), Mortgage);
+    }
+
+    void WhatItOpensWithIsNoChange()
+    {
+        GuiDesk desk;
+        Debt.LoanPaymentDue = 1;
+        Show(Window);
+        QCOMPARE(DueShown(Window), 1);
+        QCOMPARE(DueLine(Window), QString());
+    }
+
     void ExitEndsIt()
     {
         GuiDesk desk;

@@ -214,6 +214,22 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, Result), Mortgage);
     }
 
+    void AChangeFromElsewhereIsTold()
+    {
+        GuiDesk desk;
+        CalculateTheMortgage();
+        SeeThatAChangeFromElsewhereIsTold(Window, Result, Count);
+        QVERIFY(desk.TakeMessage().Text.contains(u" does not contain a valid numeric amount"_s));
+        QCOMPARE(desk.TakeMessage().Text, UnknownErrorText);
+    }
+
+    void TheResultIsReadAloud()
+    {
+        GuiDesk desk;
+        CalculateTheMortgage();
+        QCOMPARE(NameSpoken(Window, Result), Mortgage);
+    }
+
     void ExitEndsIt()
     {
         GuiDesk desk;

@@ -186,6 +186,22 @@ private Q_SLOTS:
         SeeThatOptionsAndSharedValueAgree(Window);
     }
 
+    void AChangeFromElsewhereIsTold()
+    {
+        GuiDesk desk;
+        CalculateTenYears();
+        SeeThatAChangeFromElsewhereIsTold(Window, Result, Count);
+        QVERIFY(desk.TakeMessage().Text.contains(u" does not contain a valid numeric amount"_s));
+        QCOMPARE(desk.TakeMessage().Text, UnknownErrorText);
+    }
+
+    void TheResultIsReadAloud()
+    {
+        GuiDesk desk;
+        CalculateTenYears();
+        QCOMPARE(NameSpoken(Window, Result), TenYears);
+    }
+
     void ExitEndsIt()
     {
         GuiDesk desk;
