@@ -9,4 +9,8 @@ class frmSelectMonth : public Window<Ui::frmSelectMonth>
 public:
     frmSelectMonth();
     void Load() override;
+    void Activate() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 };

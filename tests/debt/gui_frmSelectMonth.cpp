@@ -4,6 +4,8 @@
 
 #include "platform/controls/DropDownList.h"
 
+#include <QAbstractItemView>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -23,6 +25,18 @@ void PickMonth(int row)
     QTest::keyClick(&Months(), Qt::Key_Home);
     for (int i = 0; i < row; ++i)
         QTest::keyClick(&Months(), Qt::Key_Down);
+    Settle();
+}
+
+QString Line()
+{
+    return TextOf(Window, u"lblNextTable"_s);
+}
+
+void PressReturn(Qt::Key key = Qt::Key_Return, bool held = false)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), held);
+    QCoreApplication::sendEvent(&Months(), &press);
     Settle();
 }
 
@@ -118,6 +132,94 @@ private Q_SLOTS:
         Click(Window, u"cmdOK"_s); // without a new choice the table begins in January
         desk.TakeHourglass();
         QCOMPARE(GridRows(TableWindow, u"grdAmortization"_s).value(4), u"Year 1 | $300.00 | $300.00 | $0.00"_s);
+    }
+
+    void TheMonthOfTheNextTableIsTold()
+    {
+        GuiDesk desk;
+        TakeLoan();
+        Show(Window);
+        QCOMPARE(Line(), QString());
+        PickMonth(10);
+        LeaveAndComeBack(Window);
+        QCOMPARE(Line(), QString()); // the list shows it
+        Click(Window, u"cmdOK"_s);
+        CloseByFrame(TableWindow);
+        desk.TakeHourglass();
+        Show(Window);
+        QCOMPARE(Line(), u"The next table begins in January. Pick another month to change that."_s);
+        QVERIFY(Find(Window, u"lblNextTable"_s).isVisible());
+        QCOMPARE(Months().ListIndex(), 10); // neither of them has changed
+        QCOMPARE(Debt.SelectedStartMonth, qint16(0));
+        Q_EMIT Months().activated(10); // the month shown is no choice
+        QVERIFY(!Line().isEmpty());
+        QTest::keyClick(&Months(), Qt::Key_Up);
+        QCOMPARE(Debt.SelectedStartMonth, qint16(9));
+        QCOMPARE(Line(), QString());
+        LeaveAndComeBack(Window);
+        QCOMPARE(Line(), QString());
+    }
+
+    void TheMonthIsTheOneWhereATableHasLeftOff_data()
+    {
+        QTest::addColumn<int>("left");
+        QTest::addColumn<QString>("month");
+        QTest::newRow("February") << 1 << u"February"_s;
+        QTest::newRow("December") << 11 << u"December"_s;
+        QTest::newRow("none, beyond the year") << 12 << QString();
+        QTest::newRow("the one that the list shows") << 4 << QString();
+    }
+    void TheMonthIsTheOneWhereATableHasLeftOff()
+    {
+        QFETCH(int, left);
+        QFETCH(QString, month);
+        GuiDesk desk;
+        Show(Window);
+        PickMonth(4);
+        Debt.SelectedStartMonth = qint16(left); // as a table that has failed leaves it
+        LeaveAndComeBack(Window);
+        QCOMPARE(Line(), month.isEmpty()
+                             ? QString()
+                             : u"The next table begins in %1. Pick another month to change that."_s.arg(month));
+        Debt.SelectedStartMonth = 4;
+        LeaveAndComeBack(Window);
+        QCOMPARE(Line(), QString());
+    }
+
+    void EnterOnTheClosedListIsOk_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Enter") << int(Qt::Key_Enter);
+    }
+    void EnterOnTheClosedListIsOk()
+    {
+        QFETCH(int, key);
+        GuiDesk desk;
+        TakeLoan();
+        Show(Window);
+        PickMonth(10);
+        PressReturn(Qt::Key(key), true); // held down since the window before
+        QCOMPARE(ActiveWindow(), Window);
+        PressReturn(Qt::Key(key));
+        desk.TakeHourglass();
+        QCOMPARE(ActiveWindow(), TableWindow);
+        QCOMPARE(GridRows(TableWindow, u"grdAmortization"_s).value(3), u"Year 1 | $200.00 | $200.00 | $0.00"_s);
+    }
+
+    void EnterInTheOpenListPicksItsRow()
+    {
+        GuiDesk desk;
+        Show(Window);
+        Months().showPopup();
+        Settle();
+        QTest::keyClick(Months().view(), Qt::Key_Down);
+        QTest::keyClick(Months().view(), Qt::Key_Return);
+        Settle();
+        QCOMPARE(Months().ListIndex(), 1);
+        QCOMPARE(Debt.SelectedStartMonth, qint16(1));
+        QCOMPARE(ActiveWindow(), Window);
+        QVERIFY(!TheWindows.Loaded(TableWindow));
     }
 
     void WhileATableStandsTheQuestionStays()
