@@ -31,7 +31,10 @@ struct Totals {
         Principal += Debt.LoanPrincipalPart;
         Interest += Debt.LoanInterestPart;
     }
-    StatementRow Row(const QString &label) const { return {{label}, {Payment, Principal, Interest}}; }
+    StatementRow Row(const QString &label) const
+    {
+        return {{label}, {Payment, Principal, Interest}, StatementRow::Total};
+    }
 };
 
 /// Splits payment number `number` into Debt.LoanPrincipalPart and Debt.LoanInterestPart.

@@ -38,13 +38,14 @@ void frmAmortization::Activate()
     ui.grdAmortization->SetRowsInView(RowsInView);
 }
 
-/// Each time the focus comes back, a whole new table is inserted above the rows that stand there.
+/// Each time the focus comes back, a whole new table is inserted above the rows that stand there, and is what is seen.
 void frmAmortization::grdAmortization_GotFocus()
 {
     const auto table = std::make_shared<Statement>();
     const bool whole = ResumeNext([&] { Amortize(*table); }, [](const RuntimeError &) {});
     InsertRows(*ui.grdAmortization, table);
     ui.grdAmortization->SetCurrentRow(0);
+    ui.grdAmortization->scrollToTop();
     if (!whole) { // what was listed before the error stands, and the hourglass stays with it
         ShowUnknownError(windowTitle());
         return;

@@ -109,6 +109,10 @@ void InsertRows(Grid &grid, const std::shared_ptr<const Statement> &statement)
 {
     grid.AddRows(int(statement->Rows.size()), statement->FirstRow,
                  [statement](int row) { return CellsOf(statement->Rows[std::size_t(row)]); });
+    for (int row = 0; row < int(statement->Rows.size()); ++row)
+        if (statement->Rows[std::size_t(row)].TheKind == StatementRow::Total)
+            for (int column = 0; column < grid.Columns(); ++column)
+                grid.SetBold(statement->FirstRow + row, column, true);
 }
 
 void OpenWithRows(QWidget &window, Grid &grid, int rows)

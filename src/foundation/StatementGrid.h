@@ -14,7 +14,8 @@ void ShowOpening(Grid &grid, const StatementRow &opening, bool numbered = false)
 /// amount in colour the cell takes the text colour, so that the colour does not run on.
 void ShowRows(Grid &grid, const Statement &statement);
 
-/// Inserts the rows of a long statement of plain rows; the texts of each are made when it is looked at.
+/// Inserts the rows of a long statement of plain rows, totals in bold; the texts of the others are made when they are
+/// looked at.
 void InsertRows(Grid &grid, const std::shared_ptr<const Statement> &statement);
 
 /// Makes a window that is about to be shown so tall that this grid of it shows so many rows, where they are more than a

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -101,6 +102,42 @@ private Q_SLOTS:
         QCOMPARE(TheGrid().Rows(), rows + 5);
         QCOMPARE(TheGrid().ResultRow(), 5); // the new table's
         QCOMPARE(desk.TakeHourglass(), (QList<bool>{true, false, true, false}));
+    }
+
+    void EachFillBeginsAtTheTop()
+    {
+        GuiDesk desk;
+        TakeLoan(200);
+        Show(Window);
+        Settle();
+        QScrollBar &bar = *TheGrid().verticalScrollBar();
+        QVERIFY(bar.maximum() > 0);
+        bar.setValue(bar.maximum());
+        LeaveAndComeBack(Window);
+        Settle();
+        QCOMPARE(TheGrid().verticalScrollBar()->value(), 0);
+        desk.TakeHourglass();
+    }
+
+    void YearsAndTotalsAreBoldAndPaymentsAreNot()
+    {
+        GuiDesk desk;
+        TakeLoan(2);
+        TheWindows.Touch(u"frmSelectMonth"_s); // its load picks January
+        Debt.SelectedStartMonth = 11;
+        Show(Window);
+        LeaveAndComeBack(Window);
+        desk.TakeHourglass();
+        const Grid &grid = TheGrid();
+        int bold = 0;
+        for (int row = 1; row < grid.Rows(); ++row) {
+            const QString label = grid.Text(row, 0);
+            const bool sum = label == u"Total"_s || label.startsWith(u"Year "_s);
+            bold += sum;
+            for (int column = 0; column < grid.Columns(); ++column)
+                QVERIFY2(grid.Bold(row, column) == sum, qPrintable(label));
+        }
+        QCOMPARE(bold, 5); // two years and a total, and of the table from January one year and a total
     }
 
     void AMessageBoxInBetweenFillsNothing()
