@@ -271,7 +271,6 @@ private Q_SLOTS:
                                   << QStringList{u"txtProject"_s, u"txtProjectAmount"_s, u"txtProjectCompletionDate"_s};
         QTest::newRow("wages") << u"frmCalculateWages"_s
                                << QStringList{u"txtTotalRegularPay"_s, u"txtTotalOvertimePay"_s, u"txtYearlyGross"_s};
-        QTest::newRow("a project") << u"frmViewProject"_s << QStringList();
         QTest::newRow("loan payments") << u"frmPaymentCalculator"_s << QStringList{u"lblMonthlyPayment"_s};
         QTest::newRow("interest rates") << u"frmInterestRateCalculator"_s << QStringList{u"lblInterestRate"_s};
         QTest::newRow("savings") << u"frmSavings"_s << QStringList{u"lblFutureValue"_s};
@@ -287,8 +286,27 @@ private Q_SLOTS:
         QCOMPARE(ActiveWindow(), window);
         for (const QString &field : fields)
             QVERIFY2(!TextOf(window, field).isEmpty(), qPrintable(field));
-        if (fields.isEmpty())
-            QCOMPARE(GridRows(window, u"grdViewProject"_s).size(), 7); // the heading and six installments
+    }
+
+    void TheFilledHouseholdFillsTheGrids_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("grid");
+        QTest::addColumn<int>("rows"); // below the heading, without the empty ones
+        QTest::newRow("the installments of a project") << u"frmViewProject"_s << u"grdViewProject"_s << 6;
+        QTest::newRow("payments, years and total of a loan")
+            << u"frmAmortization"_s << u"grdAmortization"_s << 360 + 30 + 1;
+    }
+    void TheFilledHouseholdFillsTheGrids()
+    {
+        QFETCH(QString, window);
+        QFETCH(QString, grid);
+        GuiDesk desk;
+        LayHouseholdOf(desk, Household::Filled);
+        QVERIFY(ShowAtWork(window, Household::Filled));
+        desk.TakeAll(); // what the windows do is the matter of their own tests
+        QCOMPARE(ActiveWindow(), window);
+        QTEST(int(GridRows(window, grid, 1).size()), "rows");
     }
 
     // Small screens are set up by the rows of CMakeLists.txt.

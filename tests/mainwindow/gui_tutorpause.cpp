@@ -40,8 +40,9 @@ private Q_SLOTS:
                                    "frmScanPayPeriods",
                                    "frmSetCurrentPayPeriod"})
             QTest::newRow(window) << true;
-        for (const char *window : {"frmSplash", "frmViewProject", "frmSemiMonthlyPayInfo", "frmMonthlyPaymentOption",
-                                   "frmTotalHours", "frmCreditorInfo", "frmAddItem", "frmWelcome", "frmTallymereTutor"})
+        for (const char *window :
+             {"frmSplash", "frmViewProject", "frmSemiMonthlyPayInfo", "frmMonthlyPaymentOption", "frmTotalHours",
+              "frmCreditorInfo", "frmAddItem", "frmAmortization", "frmSelectMonth", "frmWelcome", "frmTallymereTutor"})
             QTest::newRow(window) << false;
     }
     void TheTimerStandsStillWhileAWindowOfTheListIsLoaded()
