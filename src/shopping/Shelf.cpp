@@ -85,6 +85,12 @@ void Shelf::mouseReleaseEvent(QMouseEvent *event)
         ListBox::mouseReleaseEvent(event);
 }
 
+/// Who clicks an item and at once drags it presses twice in a short time.
+void Shelf::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+}
+
 void Shelf::Drag()
 {
     auto *drag = new QDrag(this); // which the toolkit deletes

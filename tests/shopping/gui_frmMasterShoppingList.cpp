@@ -949,6 +949,26 @@ private Q_SLOTS:
         QCOMPARE(Lines(), QStringList()); // it was dropped nowhere
     }
 
+    void AClickAndAQuickDragAreNoDoubleClick()
+    {
+        MasterDesk desk;
+        OpenStore(u"Corner"_s);
+        auto &shelf = Find<Shelf>(Window, List);
+        const QPoint place = shelf.visualItemRect(shelf.item(RowOf(u"Milk"_s))).center();
+        const DragDesk drags(DropOn(CartName));
+        QTest::mouseClick(shelf.viewport(), Qt::LeftButton, {}, place);
+        QMouseEvent second(QEvent::MouseButtonDblClick, place, shelf.viewport()->mapToGlobal(place), Qt::LeftButton,
+                           Qt::LeftButton, {});
+        QCoreApplication::sendEvent(shelf.viewport(), &second);
+        QMouseEvent move(QEvent::MouseMove, place + QPoint(40, 0), shelf.viewport()->mapToGlobal(place), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QCoreApplication::sendEvent(shelf.viewport(), &move);
+        QTest::mouseRelease(shelf.viewport(), Qt::LeftButton, {}, place + QPoint(40, 0));
+        QCOMPARE(drags.Drags, 1);
+        QCOMPARE(desk.TakeMessage(), Added(u"Milk"_s));
+        desk.TakeFiles();
+    }
+
     void TheOtherWaysDoWhatTheDropDoes_data()
     {
         QTest::addColumn<QString>("way");
