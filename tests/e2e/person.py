@@ -195,6 +195,25 @@ class Person:
             self.bring_forward(window)
         self.hit(lambda: (found := place()) and found["hit"] and found, f"{window}.{name} {row or ''}", times)
 
+    def drag(self, window, name, row, target):
+        """Presses on the row of a list that begins with the text `row`, and lets go over the control `target`."""
+        def middle(place):
+            x, y, width, height = place["rect"]
+            return [str(int(x + width / 2)), str(int(y + height / 2))]
+
+        def start():
+            control = self.control(window, name)
+            return control and next((each for each in control["rows"] if each["cells"][0].startswith(row)), None)
+        if not self.until(start, f"{window}.{name} {row} is not there")["hit"]:
+            self.bring_forward(window)
+        x, y = middle(start())
+        there = middle(self.control(window, target))
+        for step in (["mousemove", x, y], ["mousedown", "1"], ["mousemove_relative", "6", "6"],
+                     ["mousemove_relative", "12", "6"], ["mousemove", *there], ["mousemove_relative", "3", "3"],
+                     ["mouseup", "1"]):
+            subprocess.run(["xdotool", *step], check=True)
+            time.sleep(2 * PAUSE)  # each move is an event of its own, as a hand's
+
     @staticmethod
     def read_on():
         """Lets the time of a double-click pass: a click right after another one at the same place would belong to it."""
