@@ -5,6 +5,8 @@
 #include "foundation/Identity.h"
 #include "platform/desk/RealDesk.h"
 
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrinterInfo>
@@ -200,6 +202,41 @@ private Q_SLOTS:
         QFile file(said);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().startsWith("No printer could be used."));
+    }
+
+    void ASavedNameGetsTheEndingOfItsFilter_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("without an ending") << u"party"_s << u"party.lst"_s;
+        QTest::newRow("with it") << u"party.lst"_s << u"party.lst"_s;
+        QTest::newRow("with two") << u"untitled.lst.lst"_s << u"untitled.lst.lst"_s;
+        QTest::newRow("cancelled") << QString() << QString();
+    }
+    void ASavedNameGetsTheEndingOfItsFilter()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, name);
+        ToyBox toys;
+        ShowWindows();
+        QTimer answerer;
+        connect(&answerer, &QTimer::timeout, this, [&] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            answerer.stop();
+            QCOMPARE(dialog->nameFilters(), QStringList{u"Store List Files (*.lst)"_s});
+            QCOMPARE(dialog->directory().path(), QDir(m_folder.path()).path());
+            auto *field = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
+            if (typed.isEmpty())
+                return dialog->reject();
+            QTest::keyClicks(field, typed);
+            QTest::keyClick(field, Qt::Key_Return);
+        });
+        answerer.start(20);
+        const QString chosen = TheDesk.AskFile(
+            {FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s, m_folder.path() + u'/', QString()});
+        QCOMPARE(chosen, name.isEmpty() ? QString() : m_folder.filePath(name));
     }
 };
 

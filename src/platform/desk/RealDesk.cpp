@@ -107,9 +107,16 @@ QString AskFile(const FileQuestion &question)
     const QString start = DialogStart(question);
     QString answer;
     TheWindows.WhileAway([&] {
-        answer = question.TheKind == FileQuestion::Open
-                     ? QFileDialog::getOpenFileName(DialogParent(), QString(), start, DialogFilter(question.Filter))
-                     : QFileDialog::getSaveFileName(DialogParent(), QString(), start, DialogFilter(question.Filter));
+        if (question.TheKind == FileQuestion::Open) {
+            answer = QFileDialog::getOpenFileName(DialogParent(), QString(), start, DialogFilter(question.Filter));
+            return;
+        }
+        QFileDialog dialog(DialogParent(), QString(), start, DialogFilter(question.Filter));
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        // A name without an ending gets the filter's, or the file would be found in no dialog again.
+        dialog.setDefaultSuffix(question.Filter.section(QLatin1Char('.'), -1));
+        if (dialog.exec() == QDialog::Accepted)
+            answer = dialog.selectedFiles().constFirst();
     });
     return answer;
 }
