@@ -101,11 +101,33 @@ PrintedReport PrintPayOff(FakeDesk &desk)
     return Taken(desk, window, screen);
 }
 
+PrintedReport PrintTheShoppingList(FakeDesk &desk)
+{
+    const QString window = u"frmCurrentShoppingList"_s;
+    Show(window);
+    QStringList screen{ReportTitle, u"WEEKLY.LST"_s};
+    // Between its cells, what a line says on the page alone: the quantity in plain digits, and its tax.
+    const QStringList quantities{u"1250"_s, u"2.5"_s, u"1"_s};
+    const QStringList taxes{u" + Tax($52.50)"_s, {}, {}};
+    const auto &grid = Find<Grid>(window, u"grdCurrentShoppingList"_s);
+    enum Column { Item, Unit, UnitPrice, Store, Quantity, Tax, Coupon, FullPrice };
+    for (int row = 1; row <= 3; ++row) {
+        const QString coupon = grid.Text(row, Coupon);
+        screen += u"%1) %2"_s.arg(row).arg(grid.Text(row, Item));
+        screen += quantities[row - 1] + u' ' + grid.Text(row, Unit) + u" @ "_s + grid.Text(row, UnitPrice) +
+                  u" each"_s + taxes[row - 1] + (coupon == u"$0.00"_s ? QString() : u" - Coupon("_s + coupon + u')');
+        screen += grid.Text(row, FullPrice);
+    }
+    screen += QStringList{u"Total Grocery Bill"_s, TextOf(window, u"lblTotalGroceryBill"_s)};
+    Click(window, u"cmdPrint"_s);
+    return Taken(desk, window, screen);
+}
+
 } // namespace
 
 const QList<Report> Reports{
     {"Budget", PrintBudget},   {"Overhead", PrintTheOverhead}, {"Savings Forecast", PrintForecast},
-    {"Boat", PrintTheProject}, {"Pay Off Plan", PrintPayOff},
+    {"Boat", PrintTheProject}, {"Pay Off Plan", PrintPayOff},  {"Shopping List", PrintTheShoppingList},
 };
 
 void TakeHouseholdForReports()
@@ -136,6 +158,12 @@ void TakeHouseholdForReports()
     State.ProjectEntryCounts = {3};
     State.ProjectEntryDates.Redim(1);
     State.ProjectEntryAmounts.Redim(1);
+    State.CurrentStoreFile = u"weekly.lst"_s;
+    State.CurrentShoppingList = {
+        {u"Candles, white"_s, u"box"_s, Dollars(0.7), u"Corner"_s, 1250, true, Dollars(12), {}},
+        {u"Milk"_s, u"gallon"_s, Dollars(3.49), u"Corner"_s, 2.5F, false, {}, {}},
+        {u"Soap"_s, u"piece"_s, Dollars(1.5), u"Corner"_s, 1, false, Dollars(2), {}}}; // less than nothing
+    State.NumberOfCurrentItems = 3;
     const double installments[] = {1234.56, -20.4, 285.84};
     for (int i = 1; i <= 3; ++i) {
         State.ProjectEntryDates(1).At(i) = Format(QDate(2004, 2, 12).addDays(14 * (i - 1)), DateFormat::Dashes);
