@@ -40,7 +40,8 @@ const QList<GridColumn> &GridColumns()
     return columns;
 }
 
-constexpr int RowsAtFirst = 13;
+constexpr int RowsAtFirst = 10;
+constexpr int RowsBeside = 2; // the lines: the heading and the empty row
 const QString TitlePrefix = u"Current Shopping List - "_s;
 const QString Untitled = u"untitled.lst"_s;
 
@@ -55,7 +56,8 @@ frmCurrentShoppingList::frmCurrentShoppingList()
     bold.setBold(true);
     ui.lblTotalGroceryBill->setFont(bold);
     ui.grdCurrentShoppingList->SetFillsOnArrival(true);
-    ui.grdCurrentShoppingList->SetColumns(GridColumns(), 2);
+    ui.grdCurrentShoppingList->SetRowsAtFirst(RowsAtFirst);
+    ui.grdCurrentShoppingList->SetColumns(GridColumns(), RowsBeside);
 
     connect(ui.grdCurrentShoppingList, &Grid::Click, this,
             [this] { Trap([this] { grdCurrentShoppingList_Click(); }); });
@@ -74,7 +76,7 @@ frmCurrentShoppingList::frmCurrentShoppingList()
 
 void frmCurrentShoppingList::Load()
 {
-    OpenWithRows(*this, *ui.grdCurrentShoppingList, RowsAtFirst);
+    OpenWithRows(*this, *ui.grdCurrentShoppingList, RowsBeside + State.NumberOfCurrentItems);
     if (State.GuidedSetupActive)
         TheWindows.Hide(WindowName::frmGettingStarted);
 }
@@ -138,7 +140,7 @@ void frmCurrentShoppingList::FillCurrentShoppingGrid()
             rows.last().last().clear();
     }
     Grid &grid = *ui.grdCurrentShoppingList;
-    grid.SetColumns(GridColumns(), 2); // an empty row stays below the last line
+    grid.SetColumns(GridColumns(), RowsBeside);
     grid.AddRows(rows, 1);
     ui.lblTotalGroceryBill->setText(failure ? QString() : FormatCurrency(Shopping.TotalGroceryBill));
     if (failure)

@@ -357,6 +357,7 @@ private Q_SLOTS:
             {u"frmAverageNetPercentage"_s, {u"txtFirstCheckGross"_s, u"txtSecondCheckNet"_s}},
             {u"frmCalculateWages"_s, {u"txtHourlyPayRate"_s, u"txtOvertimeRate"_s, u"txtYearlyGross"_s}},
             {u"frmCreditors"_s, {u"txtCreditorAmount"_s}},
+            {u"frmCurrentShoppingList"_s, {u"txtUnitPrice"_s, u"txtCouponValue"_s}},
             {u"frmEnvironmentSettings"_s, {u"txtPaycheckAmount"_s}},
             {u"frmExtras"_s, {u"txtExtraItemAmount"_s}},
             {u"frmInterestRateCalculator"_s, {u"txtBorrowedAmount"_s, u"txtMonthlyPayments"_s}},
