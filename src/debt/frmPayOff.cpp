@@ -6,11 +6,15 @@
 #include "foundation/WindowNames.h"
 #include "platform/windows/WindowRegister.h"
 
+#include <QScreen>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int RowsAtFirst = 14;
+constexpr int RowsAtFirst = 13;
+constexpr int LinesAtLeast = 10; // a creditor's
+constexpr int WindowFrame = 40;  // pixels that a window system puts above and below at most
 
 const QList<GridColumn> &Columns()
 {
@@ -24,6 +28,15 @@ const QList<GridColumn> &Columns()
         {u"Next Balance"_s, 1653, Qt::AlignRight},
     };
     return columns;
+}
+
+/// An empty list does not tell, so one like it is asked.
+int HeightOfLine(const QFont &font)
+{
+    ListBox list;
+    list.setFont(font);
+    list.AddItem(u"Creditor"_s);
+    return list.sizeHintForRow(0);
 }
 
 void HideIfKnown(const QString &window)
@@ -55,6 +68,27 @@ frmPayOff::frmPayOff() : Window({.Title = u"Pay Off"_s, .TheIcon = Icon::Warning
     connect(ui.printSwitch, &PrintSwitch::Click, this, &frmPayOff::Print_Click);
     OnClickTrapped(ui.cmdEnterCreditors, [this] { cmdEnterCreditors_Click(); });
     UnloadOn(ui.cmdExit);
+}
+
+bool frmPayOff::event(QEvent *event)
+{
+    const bool done = Window::event(event);
+    if (event->type() == QEvent::Polish || event->type() == QEvent::FontChange)
+        GiveListItsHeight();
+    return done;
+}
+
+/// The list always has room for the lines of a creditor, or for as many as a small screen leaves beside the grid.
+void frmPayOff::GiveListItsHeight()
+{
+    ListBox &list = *ui.lstPayOffInfo;
+    list.ensurePolished();
+    list.setMinimumHeight(0);
+    const int leastOfAll = list.minimumSizeHint().height();
+    const int others = minimumSizeHint().height() - leastOfAll;
+    const int room = screen()->availableSize().height() - WindowFrame - others;
+    const int lines = LinesAtLeast * HeightOfLine(list.font()) + 2 * list.frameWidth();
+    list.setMinimumHeight(qMax(leastOfAll, qMin(lines, room)));
 }
 
 void frmPayOff::Load()

@@ -12,7 +12,11 @@ public:
     void Load() override;
     void Unload() override;
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    void GiveListItsHeight();
     void ShowPlan(const std::shared_ptr<const PayOffPlan> &plan);
     static void Print_Click(bool on);
     void cmdEnterCreditors_Click();

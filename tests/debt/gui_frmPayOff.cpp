@@ -7,6 +7,7 @@
 #include "platform/controls/RowLook.h"
 
 #include <QHeaderView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -84,6 +85,37 @@ private Q_SLOTS:
         QVERIFY2(room >= grid.fontMetrics().horizontalAdvance(u"32767"_s), qPrintable(QString::number(room)));
     }
 
+    void TheListHasRoomForACreditor_data()
+    {
+        QTest::addColumn<int>("pixels"); // of the letters
+        QTest::addColumn<bool>("fits");
+        QTest::newRow("usual letters") << 13 << true;
+        QTest::newRow("letters too large for the screen") << 40 << false;
+    }
+    void TheListHasRoomForACreditor()
+    {
+        QFETCH(int, pixels);
+        QFETCH(bool, fits);
+        GuiDesk desk;
+        Show(Window);
+        Form &form = *TheWindows.Loaded(Window);
+        QFont font = form.font();
+        font.setPixelSize(pixels);
+        form.setFont(font);
+        Settle();
+        Plan({Small});
+        form.resize(form.minimumSizeHint());
+        Settle();
+        const auto &list = Find<ListBox>(Window, u"lstPayOffInfo"_s);
+        QCOMPARE(list.count(), 10);
+        const QRect tenth = list.visualItemRect(list.item(9));
+        QVERIFY2((tenth.bottom() <= list.viewport()->height()) == fits,
+                 qPrintable(u"%1 of %2"_s.arg(tenth.bottom()).arg(list.viewport()->height())));
+        QVERIFY(list.viewport()->rect().contains(list.visualItemRect(list.item(0))));
+        if (fits)
+            QVERIFY(form.height() <= form.screen()->availableSize().height() - 28); // below a title bar
+    }
+
     void APlanFillsListAndGrid()
     {
         GuiDesk desk;
@@ -146,7 +178,7 @@ private Q_SLOTS:
         TheGrid().scrollToBottom();
         Settle();
         const QModelIndex last = TheGrid().model()->index(32765, 6);
-        QVERIFY(TheGrid().viewport()->rect().contains(TheGrid().visualRect(last)));
+        QVERIFY(TheGrid().viewport()->rect().contains(TheGrid().visualRect(last.siblingAtColumn(0))));
         QCOMPARE(last.data().toString(), u"$0.00"_s);
     }
 
