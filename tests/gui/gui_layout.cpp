@@ -31,6 +31,7 @@ constexpr QSize SmallestScreen{1280, 720}; // what a window may cover with lette
 constexpr double ReadableContrast = 4.5;
 constexpr int LongestList = 2000;
 constexpr int TitleBarHeight = 28; // pixels of a usual one
+constexpr int FrameWidth = 32;     // pixels of the widest, on both sides
 
 const QString LongestDate = u"September 30, 2004"_s;
 const QString LongestAmount = u"($99,999.99)"_s;
@@ -158,7 +159,8 @@ private:
             Fault(table, u"its rows are cut from above or below"_s);
         if (!contents)
             return;
-        if (table.horizontalScrollBar()->maximum() > 0)
+        const int screen = m_form.screen()->availableSize().width();
+        if (table.horizontalScrollBar()->maximum() > 0 && m_form.width() < screen - FrameWidth)
             Fault(table, u"it has to be scrolled sideways"_s);
         const QHeaderView &heading = *table.horizontalHeader();
         for (int column = 0; column < table.model()->columnCount(); ++column) {

@@ -6,6 +6,7 @@
 #include "platform/controls/Theme.h"
 
 #include <QHeaderView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -357,7 +358,7 @@ private Q_SLOTS:
         grid.SetColumnWidth(0, 15 * 320);
         grid.SetColumnWidth(1, 15 * 320); // 128 letters as they were measured
         Present(grid);
-        grid.resize(static_cast<QWidget &>(grid).minimumSizeHint());
+        grid.resize(128 * letter + 24, grid.height()); // and a scroll bar
         QCoreApplication::processEvents();
         QCOMPARE(grid.horizontalScrollBar()->maximum(), 0);
         QVERIFY(grid.viewport()->width() >= 128 * letter);
@@ -365,6 +366,25 @@ private Q_SLOTS:
         grid.resize(grid.width() - 50, grid.height());
         QCoreApplication::processEvents();
         QVERIFY(grid.horizontalScrollBar()->maximum() > 0);
+    }
+
+    void NoGridIsWiderThanItsScreen()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        const int screen = grid.screen()->availableSize().width();
+        QFont font = grid.font();
+        font.setPixelSize(screen / 20); // far fewer than 128 letters have room
+        grid.setFont(font);
+        grid.SetColumnWidth(0, 15 * screen / 4);
+        grid.SetColumnWidth(1, 15 * screen / 4);
+        Present(grid);
+        const int least = static_cast<QWidget &>(grid).minimumSizeHint().width();
+        QVERIFY2(least + 2 * 16 <= screen, qPrintable(QString::number(least))); // with the margins of its window
+        QVERIFY(least > screen / 2);                                            // no less than it has to
+        grid.resize(least, grid.height());
+        QCoreApplication::processEvents();
+        QVERIFY(grid.horizontalScrollBar()->maximum() > 0); // its columns keep their widths
     }
 
     void SoManyRowsFillTheHeight()

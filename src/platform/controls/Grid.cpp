@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QPainter>
+#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 #include <memory>
@@ -18,7 +19,9 @@ constexpr int TwipsPerPixel = 15;
 constexpr int RowPadding = 8;
 constexpr int MeasuredLetter = 5; // pixels
 constexpr int RowsAtLeast = 6;
-constexpr int MostLetters = 128;  // that a grid claims the width of
+constexpr int MostLetters = 128; // that a grid claims the width of
+constexpr int ScrollBarWidth = 24;
+constexpr int AroundAGrid = 48;   // pixels of a window's frame and margins
 constexpr int HairlineAlpha = 60; // of 255
 } // namespace
 
@@ -505,7 +508,7 @@ int Grid::NaturalWidth() const
     return WidthWith(qMax(MeasuredLetter, fontMetrics().averageCharWidth()));
 }
 
-/// What a grid claims: a wide one leaves something of a small screen.
+/// What the columns of a grid claim: a wide one leaves something of a small screen.
 int Grid::ClaimedWidth() const
 {
     return qMin(NaturalWidth(), MostLetters * fontMetrics().averageCharWidth());
@@ -554,14 +557,15 @@ void Grid::changeEvent(QEvent *event)
 
 QSize Grid::sizeHint() const
 {
-    const int scrollBar = 24;
     const int headingMore = RowPadding + 2 * frameWidth(); // than a row
-    return {qMax(NaturalWidth(), 240) + scrollBar, m_rowsAtFirst * (fontMetrics().height() + RowPadding) + headingMore};
+    return {qMax(NaturalWidth(), 240) + ScrollBarWidth,
+            m_rowsAtFirst * (fontMetrics().height() + RowPadding) + headingMore};
 }
 
 QSize Grid::minimumSizeHint() const
 {
-    // A grid of usual width needs no scrolling sideways, also when its columns get their widths late.
-    const int scrollBar = 24;
-    return {ClaimedWidth() + scrollBar, RowsAtLeast * (fontMetrics().height() + RowPadding)};
+    // A grid of usual width needs no scrolling sideways, also when its columns get their widths late. No window is
+    // wider than the screen for it, where its columns are scrolled instead.
+    const int room = screen()->availableSize().width() - AroundAGrid;
+    return {qMin(ClaimedWidth() + ScrollBarWidth, room), RowsAtLeast * (fontMetrics().height() + RowPadding)};
 }
