@@ -268,6 +268,78 @@ private Q_SLOTS:
         QVERIFY(qAbs(rule.Right - first.Right) < 3);
     }
 
+    // The seven settings, as they come out on the paper
+
+    void TheLettersAreOfTheChosenFont_data()
+    {
+        QTest::addColumn<PrintFont>("font");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << PrintFont{u"DejaVu Serif"_s, 8} << "DejaVuSerif";
+        QTest::newRow("bold") << PrintFont{u"DejaVu Serif"_s, 8, true} << "DejaVuSerif-Bold";
+        QTest::newRow("italic") << PrintFont{u"DejaVu Serif"_s, 8, false, true} << "DejaVuSerif-Italic";
+        QTest::newRow("both") << PrintFont{u"DejaVu Serif"_s, 8, true, true} << "DejaVuSerif-BoldItalic";
+        QTest::newRow("another family") << PrintFont{u"DejaVu Sans Mono"_s, 8} << "DejaVuSansMono";
+        QTest::newRow("another, bold") << PrintFont{u"DejaVu Sans Mono"_s, 8, true} << "DejaVuSansMono-Bold";
+    }
+    void TheLettersAreOfTheChosenFont()
+    {
+        QFETCH(PrintFont, font);
+        QFETCH(QString, name);
+        const QString path = m_folder.filePath("letters.pdf");
+        WritePdf({font, Numbered(3)}, path);
+        QProcess reader;
+        reader.start(u"pdffonts"_s, {path});
+        QVERIFY2(reader.waitForFinished() && reader.exitCode() == 0, "pdffonts (of the package poppler-utils)");
+        const QStringList rows = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(rows.size(), 3); // two lines of heads, and one font
+        QCOMPARE(rows[2].section(u' ', 0, 0).section(u'+', -1), name);
+    }
+
+    void TheLettersAreOfTheChosenSize()
+    {
+        for (const float size : {6.F, 8.F, 9.5F}) {
+            const QString path = m_folder.filePath("size.pdf");
+            WritePdf({{u"DejaVu Sans Mono"_s, size}, {QString(40, u'8')}}, path);
+            const Place place = PlaceOf(QString(40, u'8'), path);
+            QVERIFY(qAbs(place.Right - place.Left - 40 * 0.602 * size) < 3); // its letters are 0.602 of the size wide
+        }
+    }
+
+    void TheInkIsOfTheChosenColour()
+    {
+        // Red lowest: three bytes that no two of them could be changed for each other.
+        const QImage page = PictureOf({{u"DejaVu Sans Mono"_s, 8, true, false, false, false, 0x30A0F0}, {u"MMMM"_s}});
+        QVERIFY(CountOf(page, QColor(0xF0, 0xA0, 0x30)) > 20);
+        QCOMPARE(CountOf(page, QColor(0x30, 0xA0, 0xF0)), 0);
+        QCOMPARE(CountOf(page, Qt::black), 0);
+    }
+
+    void ALineUnderOrThroughIsDrawn()
+    {
+        const auto font = [](bool under, bool through) {
+            return PrintFont{u"DejaVu Sans Mono"_s, 8, false, false, under, through};
+        };
+        // Letters with white between them: a row of the picture that is black along all of them is a line.
+        const auto linesOf = [&](bool under, bool through) {
+            const QImage page = PictureOf({font(under, through), {u"llllllllll"_s}});
+            const QRect ink = InkOf(page);
+            QList<double> heights; // 0 top of the letters, 1 bottom of all
+            for (int row = ink.top(); row <= ink.bottom(); ++row) {
+                int dark = 0;
+                for (int column = ink.left(); column <= ink.right(); ++column)
+                    dark += qGray(page.pixel(column, row)) < 128;
+                if (dark > ink.width() * 0.95)
+                    heights += double(row - ink.top()) / ink.height();
+            }
+            return heights;
+        };
+        QCOMPARE(linesOf(false, false).size(), 0);
+        const QList<double> under = linesOf(true, false), through = linesOf(false, true), both = linesOf(true, true);
+        QVERIFY(!under.isEmpty() && under.first() > 0.8);
+        QVERIFY(!through.isEmpty() && through.first() > 0.3 && through.last() < 0.9);
+        QVERIFY(both.first() < 0.8 && both.last() > 0.8);
+    }
+
     void EmptyLinesAtTheEndAreNoPage()
     {
         QStringList lines = Numbered(1);
@@ -306,6 +378,92 @@ private Q_SLOTS:
         QVERIFY(end.Right <= end.PageWidth - Margin + 1);
         QVERIFY(all.Right <= all.PageWidth - Margin + 1);
         QVERIFY(qAbs(end.Right - all.Right) < 2);
+    }
+
+    // A page is at least 80 columns wide, and what a document has beyond its edge stands below.
+    void TheEndOfALongLineStandsBelow_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("rows");
+        const auto run = [](QChar sign, int count) { return QString(count, sign); };
+        QTest::newRow("full") << run(u'8', 80) << QStringList{run(u'8', 80)};
+        QTest::newRow("one sign more") << run(u'8', 81) << QStringList{run(u'8', 80), u"8"_s};
+        QTest::newRow("three rows") << run(u'8', 165) << QStringList{run(u'8', 80), run(u'8', 80), run(u'8', 5)};
+        QTest::newRow("at a blank") << run(u'a', 60) + u' ' + run(u'b', 30)
+                                    << QStringList{run(u'a', 60), run(u'b', 30)};
+        QTest::newRow("the blank beyond the edge")
+            << run(u'a', 80) + u' ' + run(u'b', 30) << QStringList{run(u'a', 80), run(u'b', 30)};
+        QTest::newRow("not at one far left")
+            << u"a "_s + run(u'b', 90) << QStringList{u"a "_s + run(u'b', 78), run(u'b', 12)};
+        QTest::newRow("the amount") << run(u'a', 75) + u"    $1,250.00"_s << QStringList{run(u'a', 75), u"$1,250.00"_s};
+    }
+    void TheEndOfALongLineStandsBelow()
+    {
+        QFETCH(QString, line);
+        QFETCH(QStringList, rows);
+        const QString path = m_folder.filePath("long.pdf");
+        QCOMPARE(WritePdf({Courier(24), {line, u"next"_s}}, path), 1); // as large as 80 columns fit
+        QStringList read;
+        for (const QString &row : PagesOf(path).value(0).split(u'\n', Qt::SkipEmptyParts))
+            read += row.trimmed();
+        QCOMPARE(read, rows + QStringList{u"next"_s});
+        for (const QString &row : rows)
+            QVERIFY(PlaceOf(QRegularExpression::escape(row.section(u' ', -1)), path).Right <=
+                    PlaceOf(u"next"_s, path).PageWidth - Margin + 1);
+    }
+
+    void ALongLineTakesTheRoomOfItsRows()
+    {
+        QCOMPARE(WritePdf({Courier(24), QStringList(100, QString(160, u'8'))}, m_folder.filePath("long.pdf")),
+                 WritePdf({Courier(24), QStringList(200, QString(80, u'8'))}, m_folder.filePath("short.pdf")));
+    }
+
+    // Wide letters pass their columns, and are condensed before they reach what stands to the right.
+    void NoCellReachesTheNext_data()
+    {
+        QTest::addColumn<QString>("font");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<int>("amountEnd");
+        for (const char *font : {"Courier", "DejaVu Sans", "DejaVu Serif"}) {
+            const auto name = [&](const char *row) { return QByteArray(font) + ", " + row; };
+            QTest::newRow(name("two blanks between")) << font << QString(38, u'W') << 50;
+            QTest::newRow(name("one blank between")) << font << QString(40, u'W') << 50;
+            QTest::newRow(name("room enough")) << font << QString(5, u'W') << 50;
+            QTest::newRow(name("narrow letters")) << font << QString(40, u'i') << 50;
+        }
+    }
+    void NoCellReachesTheNext()
+    {
+        QFETCH(QString, font);
+        QFETCH(QString, label);
+        QFETCH(int, amountEnd);
+        PrintJob job;
+        job.Font = {font, 8};
+        const QString amount = u"$1,111.11"_s, other = u"$2,222.22"_s;
+        job.Lines = QStringList{label + amount.rightJustified(amountEnd - int(label.size())),
+                                u"Gas"_s + other.rightJustified(amountEnd - 3), u"Title 2 of 7"_s};
+        const QString path = m_folder.filePath("cells.pdf");
+        QCOMPARE(WritePdf(job, path), 1);
+        const Place left = PlaceOf(label, path), right = PlaceOf(QRegularExpression::escape(amount), path);
+        const Place below = PlaceOf(QRegularExpression::escape(other), path);
+        QVERIFY(left.Right > 0 && right.Right > 0 && below.Right > 0);
+        QVERIFY2(left.Right < right.Left, qPrintable(u"%1 %2"_s.arg(left.Right).arg(right.Left)));
+        QVERIFY(qAbs(right.Right - below.Right) < 0.5); // the amount ends where the others do
+        QVERIFY(qAbs(left.Left - Margin) < 1);
+        // A figure in a sentence stays with its word.
+        QVERIFY(PlaceOf(u"7"_s, path).Left - PlaceOf(u"of"_s, path).Right < 6);
+    }
+
+    void WideLettersStayOnTheSheet()
+    {
+        PrintJob job;
+        job.Font = {u"DejaVu Sans"_s, 10};
+        job.Lines = QStringList{QString(80, u'W')};
+        const QString path = m_folder.filePath("sheet.pdf");
+        QCOMPARE(WritePdf(job, path), 1);
+        const Place all = PlaceOf(QString(80, u'W'), path);
+        QVERIFY(all.Left > 0);
+        QVERIFY(all.Right <= all.PageWidth - Margin + 1);
     }
 
     // Where no printer is installed
@@ -446,6 +604,39 @@ private Q_SLOTS:
     }
 
 private:
+    /// The first page as it is seen, at 300 dots to the inch.
+    QImage PictureOf(const PrintJob &job)
+    {
+        const QString path = m_folder.filePath("seen.pdf");
+        WritePdf(job, path);
+        QProcess reader;
+        reader.start(u"pdftoppm"_s, {u"-r"_s, u"300"_s, u"-f"_s, u"1"_s, u"-singlefile"_s, u"-png"_s, path,
+                                     m_folder.filePath("seen")});
+        if (!reader.waitForFinished() || reader.exitCode() != 0)
+            qFatal("pdftoppm (of the package poppler-utils) does not run");
+        return QImage(m_folder.filePath("seen.png")).convertToFormat(QImage::Format_RGB32);
+    }
+
+    static int CountOf(const QImage &page, QColor colour)
+    {
+        int count = 0;
+        for (int row = 0; row < page.height(); ++row)
+            for (int column = 0; column < page.width(); ++column)
+                count += page.pixel(column, row) == colour.rgb();
+        return count;
+    }
+
+    /// The least rectangle around all that is dark.
+    static QRect InkOf(const QImage &page)
+    {
+        QRect ink;
+        for (int row = 0; row < page.height(); ++row)
+            for (int column = 0; column < page.width(); ++column)
+                if (qGray(page.pixel(column, row)) < 128)
+                    ink |= QRect(column, row, 1, 1);
+        return ink;
+    }
+
     QTemporaryDir m_folder;
 };
 

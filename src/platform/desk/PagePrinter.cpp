@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QSet>
 #include <QStandardPaths>
 
 namespace {
@@ -95,6 +96,68 @@ QStringList WithoutLastGap(QStringList lines)
     return lines;
 }
 
+struct Cell {
+    int Start = 0; ///< its first column, from 0
+    QString Text;
+    int End() const { return Start + int(Text.size()); }
+};
+
+/// The words that stand apart by two blanks or more: each run of them starts at its own place.
+QList<Cell> CellsOf(const QString &line)
+{
+    static const QRegularExpression cell(QStringLiteral("\\S+(?: \\S+)*"));
+    QList<Cell> cells;
+    auto matches = cell.globalMatch(line);
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        cells += Cell{int(match.capturedStart()), match.captured()};
+    }
+    return cells;
+}
+
+/// The columns in which the amounts of a document end.
+QSet<int> AmountEndsOf(const QStringList &lines)
+{
+    QSet<int> ends;
+    for (const QString &line : lines)
+        for (const Cell &cell : CellsOf(line))
+            if (IsNumeric(cell.Text))
+                ends += cell.End();
+    return ends;
+}
+
+/// The cells of a line. An amount that follows its label at one blank is a cell of its own, too, where it ends under
+/// other amounts.
+QList<Cell> CellsOf(const QString &line, const QSet<int> &amountEnds)
+{
+    QList<Cell> cells;
+    for (const Cell &cell : CellsOf(line)) {
+        const int blank = int(cell.Text.lastIndexOf(QLatin1Char(' ')));
+        if (blank > 0 && amountEnds.contains(cell.End()) && IsNumeric(cell.Text.mid(blank + 1)))
+            cells << Cell{cell.Start, cell.Text.left(blank)} << Cell{cell.Start + blank + 1, cell.Text.mid(blank + 1)};
+        else
+            cells += cell;
+    }
+    return cells;
+}
+
+/// The lines as the sheet has them: what passes its right edge goes on in a line below, after a blank if there is one
+/// in the second half.
+QStringList SheetLines(const QStringList &lines, int columns)
+{
+    QStringList all;
+    for (QString line : lines) {
+        while (line.size() > columns) {
+            const qsizetype blank = line.lastIndexOf(QLatin1Char(' '), columns);
+            const qsizetype end = blank > columns / 2 ? blank : columns;
+            all += line.left(end);
+            line = line.mid(end).trimmed();
+        }
+        all += line;
+    }
+    return all;
+}
+
 } // namespace
 
 int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
@@ -109,28 +172,36 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
     const QFontMetricsF metrics(font, &device);
     const qreal column = metrics.horizontalAdvance(QLatin1Char('0'));
     const qreal height = device.pageLayout().paintRectPixels(device.logicalDpiY()).height();
-    // Words that stand apart by two blanks or more are columns, and each starts at its own place.
-    static const QRegularExpression cell(QStringLiteral("\\S+(?: \\S+)*"));
+    const qreal width = device.pageLayout().paintRectPixels(device.logicalDpiX()).width();
+    const QStringList lines = WithoutLastGap(job.Lines);
+    const QSet<int> amountEnds = AmountEndsOf(lines);
 
     int pages = 1;
     qreal top = 0;
-    for (const QString &line : WithoutLastGap(job.Lines)) {
+    for (const QString &line : SheetLines(lines, qMax(CharactersWide, int(width / column)))) {
         if (top + metrics.height() > height) {
             if (!device.newPage())
                 RaiseError(RuntimeError::DeviceError);
             ++pages;
             top = 0;
         }
-        auto matches = cell.globalMatch(line);
-        while (matches.hasNext()) {
-            const auto match = matches.next();
-            QString text = match.captured();
-            qreal left = column * qreal(match.capturedStart());
+        qreal right = width; // from the last cell to the first, each as wide as the one on its right leaves room for
+        const QList<Cell> cells = CellsOf(line, amountEnds);
+        for (auto cell = cells.rbegin(); cell != cells.rend(); ++cell) {
+            QString text = cell->Text;
+            qreal left = column * cell->Start;
             if (IsRule(text)) // as wide as the columns that it stands for
                 text.fill(Rule, qRound(column * qreal(text.size()) / metrics.horizontalAdvance(Rule)));
             else if (IsNumeric(text)) // amounts end under each other
-                left = column * qreal(match.capturedEnd()) - metrics.horizontalAdvance(text);
-            painter.drawText(QPointF(left, top + metrics.ascent()), text);
+                left = column * cell->End() - metrics.horizontalAdvance(text);
+            const qreal needed = metrics.horizontalAdvance(text);
+            painter.save();
+            painter.translate(left, top + metrics.ascent());
+            if (left + needed > right && right > left)
+                painter.scale((right - left) / needed, 1);
+            painter.drawText(QPointF(), text);
+            painter.restore();
+            right = left - column / 2;
         }
         top += metrics.lineSpacing();
     }

@@ -48,5 +48,6 @@ QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder, QPagedPain
 
 /// Draws a document on a device whose page layout is set, on as many pages as it needs; returns how many.
 /// Column n starts n - 1 digit widths from the left margin, so that columns stand in any font:
-/// texts start in theirs, amounts end in theirs, and rules are as wide as theirs.
+/// texts start in theirs, amounts end in theirs, and rules are as wide as theirs. Letters too wide for the room before
+/// the next column are condensed, and a line longer than the sheet is wide goes on in the next one.
 int DrawDocument(const PrintJob &job, QPagedPaintDevice &device);
