@@ -5,8 +5,10 @@
 #include "platform/desk/PagePrinter.h"
 #include "platform/desk/RealDesk.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFontDialog>
+#include <QLabel>
 #include <QListView>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -74,6 +76,59 @@ void Press(QDialog &dialog, QDialogButtonBox::StandardButton button)
 QLineEdit &FileOf(QDialog &dialog)
 {
     return Part<QLineEdit>(dialog, u"filename"_s);
+}
+
+/// The list of the font dialog under a caption: "&Font", "Font st&yle".
+QListView &ListOf(QDialog &dialog, const QString &caption)
+{
+    for (QLabel *label : dialog.findChildren<QLabel *>())
+        if (auto *list = qobject_cast<QListView *>(label->buddy()); list && label->text() == caption)
+            return *list;
+    qFatal("the font dialog has no list \"%s\"", qPrintable(caption));
+}
+
+/// The user's click on a line of such a list.
+void ClickLine(QDialog &dialog, const QString &caption, const QString &line)
+{
+    QListView &list = ListOf(dialog, caption);
+    // A family that two makers have is listed with the maker: "Nimbus Sans [urw]".
+    const QRegularExpression wanted(u"^%1( \\[.*)?$"_s.arg(QRegularExpression::escape(line)));
+    const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, wanted, 1,
+                                           Qt::MatchRegularExpression | Qt::MatchWrap);
+    if (found.isEmpty())
+        qFatal("\"%s\" does not list \"%s\"", qPrintable(caption), qPrintable(line));
+    list.scrollTo(found[0]);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(found[0]).center());
+    QCOMPARE(list.currentIndex(), found[0]);
+}
+
+QLineEdit &SizeOf(QDialog &dialog)
+{
+    for (QLabel *label : dialog.findChildren<QLabel *>())
+        if (auto *field = qobject_cast<QLineEdit *>(label->buddy()); field && label->text() == u"&Size"_s)
+            return *field;
+    qFatal("the font dialog has no field of the size");
+}
+
+QPushButton &OkOf(QDialog &dialog)
+{
+    for (QDialogButtonBox *box : dialog.findChildren<QDialogButtonBox *>(Qt::FindDirectChildrenOnly))
+        if (QPushButton *ok = box->button(QDialogButtonBox::Ok))
+            return *ok;
+    qFatal("the dialog has no OK");
+}
+
+/// The user's own steps to a font, of the style by that name.
+void ChooseFont(QDialog &dialog, const PrintFont &font, const QString &style)
+{
+    ClickLine(dialog, u"&Font"_s, font.Name);
+    ClickLine(dialog, u"Font st&yle"_s, style);
+    SizeOf(dialog).selectAll();
+    QTest::keyClicks(&SizeOf(dialog), QString::number(font.Size));
+    for (QCheckBox *box : dialog.findChildren<QCheckBox *>()) {
+        if ((box->text() == u"&Underline"_s && font.Underline) || (box->text() == u"Stri&keout"_s && font.Strikethru))
+            box->click();
+    }
 }
 
 PrintJob Document(const QString &name)
@@ -276,7 +331,7 @@ private Q_SLOTS:
                 QCOMPARE(Part<QComboBox>(dialog, u"inkColour"_s).currentText(), u"Black"_s);
                 QVERIFY(fonts.testOption(QFontDialog::ScalableFonts)); // those that a printer draws
                 QVERIFY(!fonts.testOption(QFontDialog::MonospacedFonts));
-                fonts.setCurrentFont(QFont(u"DejaVu Serif"_s, 20, QFont::Bold, true));
+                ChooseFont(dialog, {u"DejaVu Serif"_s, 20}, u"Bold Italic"_s);
                 Part<QComboBox>(dialog, u"inkColour"_s).setCurrentText(u"Red"_s);
                 Press(dialog, QDialogButtonBox::Ok);
             });
@@ -297,6 +352,7 @@ private Q_SLOTS:
         QTest::newRow("red stands lowest") << PrintFont{serif, 9, false, false, false, false, 0x0000FF} << "Red";
         QTest::newRow("lime in the middle") << PrintFont{serif, 9, false, false, false, false, 0x00FF00} << "Lime";
         QTest::newRow("navy highest") << PrintFont{serif, 9, false, false, false, false, 0x800000} << "Navy";
+        QTest::newRow("half a point") << PrintFont{serif, 10.5F} << "Black";
         QTest::newRow("all") << PrintFont{u"DejaVu Sans Mono"_s, 24, true, true, true, true, 0x800080} << "Purple";
     }
     void AChosenFontIsToldWhole()
@@ -304,12 +360,13 @@ private Q_SLOTS:
         QFETCH(PrintFont, font);
         QFETCH(QString, colour);
         const AtDialog user([&](QDialog &dialog) {
-            QFont wanted(font.Name, int(font.Size), font.Bold ? QFont::Bold : QFont::Normal, font.Italic);
-            if (!font.Bold && !font.Italic)
-                wanted.setStyleName(u"Book"_s); // the dialog goes by the style's own name
-            wanted.setUnderline(font.Underline);
-            wanted.setStrikeOut(font.Strikethru);
-            dialog.findChild<QFontDialog *>()->setCurrentFont(wanted);
+            const QString slanted = font.Name.endsWith(u"Mono"_s) ? u"Oblique"_s : u"Italic"_s;
+            QStringList style;
+            if (font.Bold)
+                style += u"Bold"_s;
+            if (font.Italic)
+                style += slanted;
+            ChooseFont(dialog, font, style.isEmpty() ? u"Book"_s : style.join(u' '));
             auto &colours = Part<QComboBox>(dialog, u"inkColour"_s);
             QVERIFY(colours.findText(colour) >= 0);
             colours.setCurrentText(colour);
@@ -324,6 +381,115 @@ private Q_SLOTS:
         QCOMPARE(chosen->Underline, font.Underline);
         QCOMPARE(chosen->Strikethru, font.Strikethru);
         QCOMPARE(chosen->Color, font.Color);
+    }
+
+    // Only the family is picked: no letters become bold or slanted by that, whatever its styles are called.
+    void AFamilyAloneKeepsTheLook_data()
+    {
+        QTest::addColumn<QStringList>("families");
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<bool>("bold");
+        QTest::addColumn<bool>("italic");
+        const QString sans = u"Nimbus Sans"_s, mono = u"Nimbus Mono PS"_s, bookman = u"URW Bookman"_s;
+        QTest::newRow("Regular") << QStringList{sans} << "" << false << false;
+        QTest::newRow("Regular of another") << QStringList{mono} << "" << false << false;
+        QTest::newRow("Roman") << QStringList{u"C059"_s} << "" << false << false;
+        QTest::newRow("none of normal weight") << QStringList{bookman} << "" << false << false;
+        QTest::newRow("not the narrow one") << QStringList{sans, u"DejaVu Serif"_s} << "" << false << false;
+        QTest::newRow("past a slanted family") << QStringList{u"Z003"_s, mono} << "" << false << false;
+        QTest::newRow("a slanted family") << QStringList{u"Z003"_s} << "" << false << true;
+        QTest::newRow("a bold look stays") << QStringList{sans, bookman} << "Bold" << true << false;
+        QTest::newRow("a slanted look stays") << QStringList{sans, u"DejaVu Sans Mono"_s} << "Italic" << false << true;
+    }
+    void AFamilyAloneKeepsTheLook()
+    {
+        QFETCH(QStringList, families);
+        QFETCH(QString, style);
+        QFETCH(bool, bold);
+        QFETCH(bool, italic);
+        const AtDialog user([&](QDialog &dialog) {
+            for (const QString &family : families) {
+                ClickLine(dialog, u"&Font"_s, family);
+                if (family == families.first() && !style.isEmpty())
+                    ClickLine(dialog, u"Font st&yle"_s, style);
+            }
+            QVERIFY(!ListOf(dialog, u"Font st&yle"_s).currentIndex().data().toString().contains(u"Condensed"_s));
+            Press(dialog, QDialogButtonBox::Ok);
+        });
+        const std::optional<PrintFont> chosen = TheDesk.AskFont();
+        QVERIFY(chosen.has_value());
+        QCOMPARE(chosen->Name.section(u" ["_s, 0, 0), families.last());
+        QCOMPARE(chosen->Bold, bold);
+        QCOMPARE(chosen->Italic, italic);
+    }
+
+    void ASizeIsAtMostOneDecimal_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<float>("size"); // 0: refused
+        QTest::newRow("whole") << "10" << 10.F;
+        QTest::newRow("a half") << "10.5" << 10.5F;
+        QTest::newRow("the comma of other countries") << "10,5" << 10.5F;
+        QTest::newRow("a second decimal is not taken") << "10.57" << 10.5F;
+        QTest::newRow("a third figure is not taken") << "105" << 10.F;
+        QTest::newRow("letters are not taken") << "1x2" << 12.F;
+        QTest::newRow("least") << "1" << 1.F;
+        QTest::newRow("greatest") << "72" << 72.F;
+        QTest::newRow("too small") << "0.9" << 0.F;
+        QTest::newRow("nothing") << "" << 0.F;
+        QTest::newRow("zero") << "0" << 0.F;
+        QTest::newRow("too great") << "72.1" << 0.F;
+    }
+    void ASizeIsAtMostOneDecimal()
+    {
+        QFETCH(QString, typed);
+        QFETCH(float, size);
+        const AtDialog user([&](QDialog &dialog) {
+            SizeOf(dialog).selectAll();
+            QTest::keyClick(&SizeOf(dialog), Qt::Key_Delete);
+            QTest::keyClicks(&SizeOf(dialog), typed);
+            QCOMPARE(OkOf(dialog).isEnabled(), size > 0);
+            if (size > 0) {
+                ClickLine(dialog, u"&Font"_s, u"DejaVu Serif"_s); // another family or style is of that size, too
+                ClickLine(dialog, u"Font st&yle"_s, u"Bold"_s);
+                Press(dialog, QDialogButtonBox::Ok);
+                return;
+            }
+            for (QWidget *part :
+                 {static_cast<QWidget *>(&SizeOf(dialog)), static_cast<QWidget *>(&ListOf(dialog, u"&Font"_s))}) {
+                QTest::keyClick(part, Qt::Key_Return);
+                QVERIFY(part->isVisible());
+            }
+            dialog.reject();
+        });
+        const std::optional<PrintFont> chosen = TheDesk.AskFont();
+        QCOMPARE(chosen.has_value(), size > 0);
+        if (chosen)
+            QCOMPARE(chosen->Size, size);
+    }
+
+    void EnterIsOk_data()
+    {
+        QTest::addColumn<int>("part");
+        QTest::newRow("in the size") << 0;
+        QTest::newRow("in the color") << 1;
+        QTest::newRow("in the families") << 2;
+        QTest::newRow("in the styles") << 3;
+    }
+    void EnterIsOk()
+    {
+        QFETCH(int, part);
+        const AtDialog user([&](QDialog &dialog) {
+            const QList<QWidget *> parts{&SizeOf(dialog), &Part<QComboBox>(dialog, u"inkColour"_s),
+                                         &ListOf(dialog, u"&Font"_s), &ListOf(dialog, u"Font st&yle"_s)};
+            parts[part]->setFocus();
+            QTest::keyClick(parts[part], Qt::Key_Return);
+            if (dialog.isVisible()) {
+                QTest::qFail("Enter does nothing", __FILE__, __LINE__);
+                dialog.reject();
+            }
+        });
+        QVERIFY(TheDesk.AskFont().has_value());
     }
 
     void AFontDialogThatIsCancelledTellsNothing()

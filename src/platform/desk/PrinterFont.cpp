@@ -4,11 +4,17 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListView>
 #include <QPixmap>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -47,6 +53,27 @@ QFont DesktopFont()
     return font;
 }
 
+/// How far a style is from the look that is wanted; the smallest is the nearest. Slanted letters are never taken for
+/// upright ones while there is a choice, and narrow or wide ones only where the family has no others.
+int DistanceOf(const QString &family, const QString &style, int weight, bool italic)
+{
+    static const QRegularExpression width(u"Condensed|Compressed|Narrow|Expanded|Extended|Wide"_s,
+                                          QRegularExpression::CaseInsensitiveOption);
+    constexpr int aboveAllWeights = 1000;
+    return qAbs(QFontDatabase::weight(family, style) - weight) + (style.contains(width) ? aboveAllWeights : 0) +
+           (QFontDatabase::italic(family, style) != italic ? 2 * aboveAllWeights : 0);
+}
+
+/// What stands in the field of the size, in points with one decimal; nothing where that is no size for a page.
+std::optional<float> SizeOf(QString text)
+{
+    bool isNumber = false;
+    const float size = text.replace(u',', u'.').toFloat(&isNumber);
+    if (!isNumber || size < 1 || size > 72)
+        return {};
+    return size;
+}
+
 /// The toolkit's font dialog, which knows no colour, with a list of colours below it.
 class FontDialog : public QDialog
 {
@@ -61,9 +88,8 @@ public:
         // A page is drawn by outlines; fonts made of dots are for the screen alone.
         m_fonts.setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog | QFontDialog::ScalableFonts);
         m_fonts.setCurrentFont(DesktopFont());
-        // Enter and Esc in the part belong to the whole.
-        connect(&m_fonts, &QDialog::accepted, this, &QDialog::accept);
-        connect(&m_fonts, &QDialog::rejected, this, &QDialog::reject);
+        connect(&m_fonts, &QDialog::rejected, this, &QDialog::reject); // Esc in the part belongs to the whole
+        WatchParts();
 
         m_colours.setObjectName(u"inkColour"_s);
         m_colours.setAccessibleName(u"Color"_s);
@@ -77,6 +103,8 @@ public:
         colours->addStretch();
 
         auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+        m_ok = buttons->button(QDialogButtonBox::Ok);
+        m_ok->setDefault(true);
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -90,7 +118,7 @@ public:
     {
         const QFont font = m_fonts.currentFont();
         return {font.family(),
-                float(font.pointSizeF()),
+                SizeOf(m_size->text()).value_or(float(font.pointSizeF())),
                 font.bold(),
                 font.italic(),
                 font.underline(),
@@ -98,9 +126,97 @@ public:
                 InkOf(m_colours.currentData().value<QColor>())};
     }
 
+protected:
+    /// Enter in the toolkit's part is the whole's OK; alone the part would swallow it, or close itself.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent *>(event)->key();
+            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+                m_ok->click();
+                return true;
+            }
+        }
+        return QDialog::eventFilter(watched, event);
+    }
+
 private:
+    void WatchParts()
+    {
+        const auto lists = m_fonts.findChildren<QListView *>(Qt::FindDirectChildrenOnly);
+        const auto fields = m_fonts.findChildren<QLineEdit *>(Qt::FindDirectChildrenOnly);
+        m_families = lists.value(0);
+        m_styles = lists.value(1);
+        m_size = fields.value(2);
+        m_fonts.installEventFilter(this);
+        for (QListView *list : lists)
+            list->installEventFilter(this);
+
+        const QFont start = m_fonts.currentFont();
+        m_weight = start.weight();
+        m_italic = start.italic();
+        m_family = Text(*m_families);
+        connect(m_families->selectionModel(), &QItemSelectionModel::currentChanged, this, &FontDialog::FamilyChanged);
+        connect(m_styles->selectionModel(), &QItemSelectionModel::currentChanged, this, &FontDialog::StyleChanged);
+
+        // The toolkit's field takes whole numbers, and would read "10.5" as 105.
+        m_size->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{1,2}([.,][0-9]?)?"_s), m_size));
+        m_sizeText = m_size->text();
+        connect(m_size, &QLineEdit::textChanged, this, &FontDialog::SizeChanged);
+    }
+
+    static QString Text(const QListView &list) { return list.currentIndex().data().toString(); }
+
+    /// The toolkit goes by the name of the style, and takes the first one of a family that has no such name, which may
+    /// be bold or slanted. What the user asked for is a look, and every family has another name for it.
+    void FamilyChanged()
+    {
+        m_family = Text(*m_families);
+        const QAbstractItemModel &styles = *m_styles->model();
+        int nearest = -1, least = 0;
+        for (int row = 0; row < styles.rowCount(); ++row) {
+            const QString style = styles.index(row, 0).data().toString();
+            const int distance = DistanceOf(m_family, style, m_weight, m_italic);
+            if (nearest < 0 || distance < least) {
+                nearest = row;
+                least = distance;
+            }
+        }
+        const int weight = m_weight;
+        const bool italic = m_italic;
+        if (nearest >= 0)
+            m_styles->setCurrentIndex(styles.index(nearest, 0));
+        m_weight = weight; // a family without that look does not change what is wanted of the next one
+        m_italic = italic;
+        m_size->setText(m_sizeText);
+    }
+
+    void StyleChanged()
+    {
+        const QString style = Text(*m_styles);
+        if (style.isEmpty() || Text(*m_families) != m_family)
+            return; // the list is being filled for another family
+        m_weight = QFontDatabase::weight(m_family, style);
+        m_italic = QFontDatabase::italic(m_family, style);
+        m_size->setText(m_sizeText); // the toolkit has put its whole number there
+    }
+
+    void SizeChanged()
+    {
+        m_sizeText = m_size->text();
+        m_ok->setEnabled(SizeOf(m_sizeText).has_value());
+    }
+
     QFontDialog m_fonts;
     QComboBox m_colours;
+    QPushButton *m_ok = nullptr;
+    QListView *m_families = nullptr; // lists and a field of m_fonts
+    QListView *m_styles = nullptr;
+    QLineEdit *m_size = nullptr;
+    QString m_family; // whose styles are listed
+    int m_weight = 0; // the look that the user wants, of whatever family
+    bool m_italic = false;
+    QString m_sizeText; // as the user has it
 };
 
 } // namespace
