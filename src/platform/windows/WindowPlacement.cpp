@@ -93,7 +93,12 @@ void PlaceWhenItAppears(Form &form, const Form &caller)
 {
     QObject::connect(
         &form, &Form::Appears, &caller,
-        [&form, &caller] { form.windowHandle()->setFramePosition(PlaceOf(form, form.size(), caller)); },
+        [&form, &caller] {
+            QWindow &window = *form.windowHandle();
+            window.setFramePosition(PlaceOf(form, form.size(), caller));
+            if (window.size() != form.size()) // it has not heard yet of a size that has changed just now
+                window.resize(form.size());
+        },
         Qt::SingleShotConnection);
 }
 
