@@ -180,6 +180,7 @@ class Person:
                         "click", "--repeat", str(times), "--delay", "60", "1"], check=True)
 
     def bring_forward(self, window):
+        self.read_on()  # nobody turns to another window as fast as the window system answers the last move
         identity = self.until(lambda: self.look()["windows"].get(window), f"{window} is not there")["id"]
         subprocess.run(["xdotool", "windowactivate", str(identity)], check=True)
         self.see(window)

@@ -2,6 +2,7 @@
 #include "platform/windows/WindowRegister.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <utility>
@@ -65,9 +66,11 @@ void WindowRegister::MakeActive(Form *form, bool byUser)
     QWidget *control = form->FocusControl();
     if (!control)
         return;
+    QElapsedTimer entering;
+    entering.start();
     Enter(form, control);
     // A got-focus that took long has used up the time in which answers to earlier moves were expected.
-    if (!byUser && move == m_moves && life == m_resets && m_active == form)
+    if (!byUser && entering.hasExpired(ActivationRest) && move == m_moves && life == m_resets && m_active == form)
         Expect(form);
 }
 

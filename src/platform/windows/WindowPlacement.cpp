@@ -63,7 +63,7 @@ protected:
         const QEvent::Type type = event->type();
         if (watched == &m_form && type == QEvent::Hide)
             deleteLater();
-        else if (watched == m_caller && (type == QEvent::Move || type == QEvent::Resize))
+        else if ((type == QEvent::Move || type == QEvent::Resize) && watched == m_caller) // which may be ending else
             Follow();
         return false;
     }
