@@ -58,10 +58,10 @@ void InputCurrentShoppingList()
     LoadFile(u"Input Current Shopping List"_s, CurrentPath(), CurrentFields<Loader>);
 }
 
-void SaveMasterShoppingList()
+bool SaveMasterShoppingList()
 {
     // Not asked whether it is there: a missing catalogue is an error, a missing store list is not.
-    SaveFile(u"Save Master Shopping List"_s, MasterPath(), OldFile::MustExist, MasterFields<ListWriter>);
+    return SaveFile(u"Save Master Shopping List"_s, MasterPath(), OldFile::MustExist, MasterFields<ListWriter>);
 }
 
 bool SaveCurrentShoppingList()

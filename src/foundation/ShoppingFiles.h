@@ -3,6 +3,6 @@
 
 void InputMasterShoppingList();
 void InputCurrentShoppingList();
-void SaveMasterShoppingList();
-/// Returns whether the list lies in its file; if not, the user was told why.
+// Both return whether the list lies in its file; if not, the user was told why.
+bool SaveMasterShoppingList();
 bool SaveCurrentShoppingList();

@@ -39,6 +39,47 @@ void CopyToLine(const MasterItemRecord &item, CurrentItemRecord &line)
     line.Taxable = item.Taxable;
 }
 
+/// An edit of a list with its file, from before the list is changed on.
+template <class Record>
+class Edit
+{
+public:
+    Edit(OneBased<Record> &list, qint16 &count, bool (*save)(), void (*readBack)())
+        : m_list(list), m_count(count), m_before(list), m_countBefore(count), m_save(save), m_readBack(readBack)
+    {
+    }
+
+    /// Saves the list and reads it back; one that cannot be saved is as it was. Returns whether it is saved.
+    bool Save()
+    {
+        if (m_save()) {
+            m_readBack();
+            return true;
+        }
+        m_list = m_before;
+        m_count = m_countBefore;
+        return false;
+    }
+
+private:
+    OneBased<Record> &m_list;
+    qint16 &m_count;
+    const OneBased<Record> m_before;
+    const qint16 m_countBefore;
+    bool (*m_save)();
+    void (*m_readBack)();
+};
+
+Edit<MasterItemRecord> CatalogueEdit()
+{
+    return {State.MasterShoppingList, State.NumberOfMasterItems, SaveMasterShoppingList, InputMasterShoppingList};
+}
+
+Edit<CurrentItemRecord> ListEdit()
+{
+    return {State.CurrentShoppingList, State.NumberOfCurrentItems, SaveCurrentShoppingList, InputCurrentShoppingList};
+}
+
 } // namespace
 
 QStringList DistinctStores()
@@ -142,45 +183,46 @@ void DeleteMasterItem()
                  &MasterItemRecord::Item);
 }
 
-void AddItemAndSave(const MasterItemRecord &item)
+bool AddItemAndSave(const MasterItemRecord &item)
 {
+    auto edit = CatalogueEdit();
     AddMasterItem(item);
-    SaveMasterShoppingList();
-    InputMasterShoppingList();
+    return edit.Save();
 }
 
-void ChangeItemAndSave(const MasterItemRecord &item, bool onCurrentList)
+bool ChangeItemAndSave(const MasterItemRecord &item, bool onCurrentList)
 {
+    CurrentItemRecord line;
     if (onCurrentList) {
-        CurrentItemRecord line = State.CurrentShoppingList(Shopping.CurrentItemIndex);
+        line = State.CurrentShoppingList(Shopping.CurrentItemIndex);
         CopyToLine(item, line);
         CheckBillWith(line, Shopping.CurrentItemIndex);
-        ChangeMasterItem(item);
-        State.CurrentShoppingList(Shopping.CurrentItemIndex) = line;
-    } else {
-        ChangeMasterItem(item);
     }
-    SaveMasterShoppingList();
+    auto edit = CatalogueEdit();
+    ChangeMasterItem(item);
+    if (!edit.Save())
+        return false;
     if (onCurrentList) {
+        auto listEdit = ListEdit();
+        State.CurrentShoppingList(Shopping.CurrentItemIndex) = line;
         SortCurrentShoppingList();
-        SaveCurrentShoppingList();
+        listEdit.Save();
     }
-    InputMasterShoppingList();
-    if (onCurrentList)
-        InputCurrentShoppingList();
+    return true;
 }
 
-void DeleteItemAndSave()
+bool DeleteItemAndSave()
 {
+    auto edit = CatalogueEdit();
     DeleteMasterItem();
-    SaveMasterShoppingList();
-    InputMasterShoppingList();
+    return edit.Save();
 }
 
 bool PutOnCurrentList(const MasterItemRecord &item)
 {
     OneMore(State.NumberOfCurrentItems); // a list that is full raises its error before a file is written
     SaveMasterShoppingList();
+    auto edit = ListEdit();
     AddCurrentItem(item);
     const qint16 count = State.NumberOfCurrentItems;
     const CurrentItemRecord added = State.CurrentShoppingList(count);
@@ -189,9 +231,7 @@ bool PutOnCurrentList(const MasterItemRecord &item)
     int place = count;
     while (State.CurrentShoppingList(place) != added)
         --place;
-    const bool saved = SaveCurrentShoppingList();
-    InputCurrentShoppingList();
-    if (!saved)
+    if (!edit.Save())
         return false;
     // It is the line at hand from now on, or the next change to the item would be written into another one.
     Shopping.CurrentItemIndex = qint16(place);

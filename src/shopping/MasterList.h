@@ -44,15 +44,19 @@ void ChangeMasterItem(const MasterItemRecord &item);
 /// where two records or more are there and it is none of them.
 void DeleteMasterItem();
 
-/// The button for a new item: adds the record, saves and reads back.
-void AddItemAndSave(const MasterItemRecord &item);
+// The edits with their files. A list that is saved is read back. One that cannot be saved, which is told, is as it was
+// before the edit and is not read: where its file is missing that would leave blank records in memory, and the next
+// save would write them over the file that has come back meanwhile.
+
+/// The button for a new item. Returns whether the catalogue has it.
+bool AddItemAndSave(const MasterItemRecord &item);
 /// The button for changes: overwrites the record and, for an item on the current list, the like fields of line
-/// Shopping.CurrentItemIndex, whose quantity, coupon and full price stay; saves and reads back what has changed. Error
-/// 9 without such a record or line, and 6 where the bill would go beyond the range of money, with nothing changed.
-void ChangeItemAndSave(const MasterItemRecord &item, bool onCurrentList);
-/// The delete button: removes the record, saves and reads back.
-void DeleteItemAndSave();
+/// Shopping.CurrentItemIndex, whose quantity, coupon and full price stay. Error 9 without such a record or line, and 6
+/// where the bill would go beyond the range of money, with nothing changed. Returns whether the catalogue has the
+/// change; without it the current list is left alone.
+bool ChangeItemAndSave(const MasterItemRecord &item, bool onCurrentList);
+/// The delete button. Returns whether the record is gone.
+bool DeleteItemAndSave();
 /// The cart: saves the catalogue, adds a line to the current list, sorts, saves and reads it back. The line becomes
-/// Shopping.CurrentItemIndex. Returns whether the list has it: where the file could not be written, which is told, the
-/// list is again what the file holds.
+/// Shopping.CurrentItemIndex. Returns whether the list has it.
 bool PutOnCurrentList(const MasterItemRecord &item);

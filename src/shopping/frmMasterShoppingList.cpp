@@ -224,7 +224,9 @@ void frmMasterShoppingList::SaveChanges()
         return;
     }
     const bool onList = ui.lblSelected->text() == OnList;
-    ChangeItemAndSave(RecordOf(entry), onList);
+    // Where it cannot be saved, the window stays as it is, so that the user can try again.
+    if (!ChangeItemAndSave(RecordOf(entry), onList))
+        return;
     FocusOn(ui.lstMasterShopper); // or the toolkit moves it on from the disabled button to the next one
     FillShelf(entry.Store);
     if (!ui.cboStoreList->Items().contains(entry.Store))
@@ -242,7 +244,8 @@ void frmMasterShoppingList::SaveChanges()
 
 void frmMasterShoppingList::DeleteItem()
 {
-    DeleteItemAndSave();
+    if (!DeleteItemAndSave())
+        return;
     const QString store = ui.txtStore->text();
     FillShelf(store);
     if (!HasItemsAt(store))

@@ -150,7 +150,7 @@ constexpr LoaderUnderTest Loaders[] = {
     {'r', "regulars.txt", InputRegulars, SaveRegulars},
     {'x', "extra.txt", InputPayPeriods, SavePayPeriods},
     {'p', "projects.txt", InputProjects, SaveProjects},
-    {'m', "mastshop.txt", InputMasterShoppingList, SaveMasterShoppingList},
+    {'m', "mastshop.txt", InputMasterShoppingList, [] { SaveMasterShoppingList(); }},
     {'l', "stores\\untitled.lst", InputCurrentShoppingList, [] { SaveCurrentShoppingList(); }},
     {'e', "environm.ini", InitializeVariables, SaveEnvironmentSettings},
 };

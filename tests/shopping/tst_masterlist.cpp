@@ -294,7 +294,7 @@ private Q_SLOTS:
     void AnAddedItemIsInTheFile()
     {
         const Household desk;
-        AddItemAndSave(Milk);
+        QVERIFY(AddItemAndSave(Milk));
         QCOMPARE(desk.ReadFile(u"mastshop.txt"_s), "1\r\n\"Milk\"\r\n\"gallon\"\r\n2.99\r\n\"Corner\"\r\n#FALSE#\r\n");
     }
 
@@ -401,6 +401,49 @@ private Q_SLOTS:
         QCOMPARE(int(State.NumberOfCurrentItems), -1);
         QCOMPARE(int(Shopping.CurrentItemIndex), 5);
         desk.TakeFiles();
+    }
+
+    /// And is not read back: what is not there would come as blank records.
+    void AnEditThatCannotBeSavedIsUndone_data()
+    {
+        QTest::addColumn<QString>("edit");
+        for (const QString &edit : {u"add"_s, u"change"_s, u"change on the list"_s, u"delete"_s})
+            QTest::addRow("%s", qPrintable(edit)) << edit;
+    }
+    void AnEditThatCannotBeSavedIsUndone()
+    {
+        QFETCH(QString, edit);
+        Household desk;
+        TakeCatalogue({Milk, Soap});
+        TakeLines({LineOf(Soap), LineOf(DearMilk)}); // not sorted, which a save would do
+        const QStringList before = Catalogue(), linesBefore = Lines();
+        QVERIFY(FindItem(u"Soap"_s, u"Corner"_s).has_value());
+        desk.RemoveFile(u"mastshop.txt"_s);
+        const bool saved = edit == u"add"      ? AddItemAndSave(DearMilk)
+                           : edit == u"delete" ? DeleteItemAndSave()
+                                               : ChangeItemAndSave(DearMilk, edit != u"change");
+        QVERIFY(!saved);
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 53: File not found"_s, u"Save Master Shopping List"_s, Icon::Stop, Buttons::Ok}));
+        QCOMPARE(Catalogue(), before);
+        QCOMPARE(State.MasterShoppingList.Size(), 2);
+        QCOMPARE(Lines(), linesBefore);
+        QCOMPARE(desk.TakeFiles(), QStringList());
+    }
+
+    void AChangeStaysWhereTheListCannotBeWritten()
+    {
+        Household desk;
+        TakeCatalogue({Milk, Soap});
+        TakeLines({LineOf(Soap, 2)});
+        QCOMPARE(FindItem(u"Soap"_s, u"Corner"_s), true);
+        QVERIFY(QDir(desk.Path(u"stores"_s)).removeRecursively());
+        QVERIFY(ChangeItemAndSave(With(Soap, &MasterItemRecord::Unit, u"box"_s), true));
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 76: Path not found"_s, u"Save Current Shopping List"_s, Icon::Stop, Buttons::Ok}));
+        QCOMPARE(Catalogue().last(), u"Soap box 1.5 Corner Y"_s);
+        QCOMPARE(Lines(), QStringList{u"Soap bar 1.5 Corner Y x2 -0 =0"_s});
+        QCOMPARE(desk.TakeFiles(), (QStringList{u"mastshop.txt"_s, u"stores/untitled.lst"_s})); // which is gone
     }
 
     void AListThatCannotBeWrittenDoesNotHaveTheItem()

@@ -20,7 +20,7 @@ const QMap<QString, void (*)()> Routines{
     {QStringLiteral("SaveRegulars"), SaveRegulars},
     {QStringLiteral("SavePayPeriods"), SavePayPeriods},
     {QStringLiteral("SaveProjects"), SaveProjects},
-    {QStringLiteral("SaveMasterShoppingList"), SaveMasterShoppingList},
+    {QStringLiteral("SaveMasterShoppingList"), [] { SaveMasterShoppingList(); }},
     {QStringLiteral("SaveCurrentShoppingList"), [] { SaveCurrentShoppingList(); }},
     {QStringLiteral("SaveEnvironmentSettings"), SaveEnvironmentSettings},
 };
