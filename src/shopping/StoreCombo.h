@@ -2,12 +2,18 @@
 #pragma once
 
 #include "platform/controls/DropDownList.h"
-#include "shopping/MasterList.h"
 
 /// Fills it anew with every store of the catalogue. Nothing is selected then.
-inline void FillStoreCombo(DropDownList &combo)
+void FillStoreCombo(DropDownList &combo);
+
+/// One whose pick moves the focus away. A key that moves in the closed list would pick the first store that it comes
+/// to; here it opens the list and moves the mark there, and Enter is the pick.
+class StoreCombo : public DropDownList
 {
-    combo.Clear();
-    for (const QString &store : DistinctStores())
-        combo.AddItem(store);
-}
+    Q_OBJECT
+public:
+    using DropDownList::DropDownList;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+};
