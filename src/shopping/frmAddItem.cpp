@@ -68,6 +68,14 @@ void frmAddItem::Accept()
         Refuse(refusal->Text, findChild<QWidget *>(refusal->Focus));
         return;
     }
+    // The rules let a number pass that is more than money can be: it is mended here, before the dialog is gone.
+    bool isMoney = false;
+    Trap([&] {
+        RecordOf(entry);
+        isMoney = true;
+    });
+    if (!isMoney)
+        return FocusOn(ui.txtUnitPrice);
     OfMasterList<QLineEdit>(u"txtItem"_s).setText(entry.Item);
     OfMasterList<QLineEdit>(u"txtUnit"_s).setText(entry.Unit);
     OfMasterList<QLineEdit>(u"txtUnitPrice"_s).setText(entry.UnitPrice);

@@ -121,15 +121,21 @@ void frmMasterShoppingList::FollowStore(const QString &store)
     ui.cboStoreList->SetListIndex(ui.cboStoreList->findText(store));
 }
 
-/// Selects an item that the fields show already. Where the shelf has it no more, the fields belong to no item: they
-/// stay, but nothing can be done with them until the user has chosen again.
+/// Selects an item that the fields show already.
 void frmMasterShoppingList::StandOn(const QString &item)
 {
     const QSignalBlocker noClick(ui.lstMasterShopper);
     const qsizetype row = ui.lstMasterShopper->Items().indexOf(item);
     ui.lstMasterShopper->SetListIndex(int(row));
-    if (row >= 0)
-        return;
+    if (row < 0)
+        StandOnNoItem();
+}
+
+/// What the fields show is no item of the shelf: it stays, but nothing can be done with it until the user has chosen
+/// again.
+void frmMasterShoppingList::StandOnNoItem()
+{
+    ui.lstMasterShopper->SetListIndex(-1);
     ui.lblSelected->clear();
     ui.cmdSaveChanges->setEnabled(false);
     EnableCart(false);
@@ -205,9 +211,16 @@ void frmMasterShoppingList::AddItem()
     TheWindows.ShowModal(WindowName::frmAddItem);
     if (!Shopping.AddItemAccepted)
         return;
-    const auto done = qScopeGuard([] { Shopping.AddItemAccepted = false; });
+    bool added = false;
+    const auto done = qScopeGuard([&] {
+        Shopping.AddItemAccepted = false;
+        if (!added) // the user keeps what was typed, apart from the item that was selected, which it must not replace
+            StandOnNoItem();
+    });
+    added = AddItemAndSave(RecordOf(Entry()));
+    if (!added)
+        return;
     const QString store = ui.txtStore->text();
-    AddItemAndSave(RecordOf(Entry()));
     FillShelf(store);
     if (!ui.cboStoreList->Items().contains(store))
         FillStoreCombo(*ui.cboStoreList);

@@ -33,6 +33,7 @@ private:
     void FollowStore(const QString &store);
     void StandOn(const QString &item);
     void NameStore(const QString &store);
+    void StandOnNoItem();
     void EnableCart(bool enabled);
     ItemEntry Entry() const;
 
