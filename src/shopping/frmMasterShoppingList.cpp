@@ -94,12 +94,16 @@ void frmMasterShoppingList::ChooseStore()
     Clear();
 }
 
-/// The title and the heading of the shelf.
+/// The title, and the heading of the shelf, which names no store where the drop-down list shows none: it has gone with
+/// its last item.
 void frmMasterShoppingList::NameStore(const QString &store)
 {
     Shopping.SelectedStoreName = store;
     setWindowTitle(u"%1 (%2)"_s.arg(Title, store));
-    ui.lblStoreItems->setText(u"Items Available at "_s + store);
+    const QString heading = u"Items Available at "_s + (ui.cboStoreList->ListIndex() < 0 ? u"Store"_s : store);
+    ui.lblStoreItems->setText(heading);
+    // The label is no buddy of the shelf, or it would take an & in a store's name for an access key.
+    ui.lstMasterShopper->setAccessibleName(heading);
 }
 
 void frmMasterShoppingList::FillMasterItemList()
@@ -224,12 +228,12 @@ void frmMasterShoppingList::AddItem()
     FillShelf(store);
     if (!ui.cboStoreList->Items().contains(store))
         FillStoreCombo(*ui.cboStoreList);
-    NameStore(store);
     ui.cboStoreList->SetListIndex(ui.cboStoreList->findText(store)); // another store is chosen by that
     Clear();
 }
 
 void frmMasterShoppingList::SaveChanges()
+    NameStore(store);
 {
     const ItemEntry entry = Entry();
     if (const auto refusal = ValidateItem(entry)) {
