@@ -11,6 +11,7 @@ class frmAddItem : public Window<Ui::frmAddItem>
 public:
     frmAddItem();
     void Load() override;
+    bool ClosesOnEscape() const override { return true; } // as its Cancel button does
 
 private:
     ItemEntry Entry() const;
