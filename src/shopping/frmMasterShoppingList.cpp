@@ -36,6 +36,7 @@ frmMasterShoppingList::frmMasterShoppingList() : Window({.Title = Title, .TheIco
         connect(field, &QLineEdit::textChanged, this, &frmMasterShoppingList::Edited);
     connect(ui.chkTaxCode, &QCheckBox::toggled, this, &frmMasterShoppingList::Edited);
     EnterRing({ui.txtItem, ui.txtUnit, ui.txtUnitPrice});
+    OnEnter(ui.txtStore, [this] { FocusOn(ui.txtItem); }); // which goes on with the ring
     CurrencyWhenLeft({ui.txtUnitPrice});
     OnClick(ui.cmdClear, [this] { Clear(); });
     OnClickTrapped(ui.cmdAddToMaster, [this] { AddItem(); });
@@ -60,11 +61,7 @@ frmMasterShoppingList::frmMasterShoppingList() : Window({.Title = Title, .TheIco
 void frmMasterShoppingList::Load()
 {
     FillStoreCombo(*ui.cboStoreList);
-    ui.txtItem->clear();
-    ui.txtUnit->clear();
-    ui.txtStore->clear();
-    ui.txtUnitPrice->setText(FormatCurrency({}));
-    ui.chkTaxCode->setChecked(false);
+    ShowFields({});
     ui.lblSelected->clear();
     ui.cmdDeleteFromMaster->setEnabled(false);
     ui.cmdSaveChanges->setEnabled(false);
@@ -163,12 +160,21 @@ void frmMasterShoppingList::ClickItem()
 
 void frmMasterShoppingList::ShowItem(const MasterItemRecord &item)
 {
-    ui.txtItem->setText(item.Item);
-    ui.txtUnit->setText(item.Unit);
-    ui.txtStore->setText(item.Store);
-    ui.txtUnitPrice->setText(FormatCurrency(item.UnitPrice));
-    ui.chkTaxCode->setChecked(item.Taxable);
+    ShowFields(item);
     Edited(); // also where the fields have shown the same before and do not change
+}
+
+void frmMasterShoppingList::ShowFields(const MasterItemRecord &item)
+{
+    const QList<std::pair<QLineEdit *, QString>> texts{{ui.txtItem, item.Item},
+                                                       {ui.txtUnit, item.Unit},
+                                                       {ui.txtStore, item.Store},
+                                                       {ui.txtUnitPrice, FormatCurrency(item.UnitPrice)}};
+    for (const auto &[field, text] : texts) {
+        field->setText(text);
+        field->setCursorPosition(0); // a long one is seen from its beginning, also where it is the same as before
+    }
+    ui.chkTaxCode->setChecked(item.Taxable);
 }
 
 /// Also while a click on an item fills the fields, and only then can the changes be saved: a selected item is saveable
@@ -190,11 +196,9 @@ void frmMasterShoppingList::EnableCart(bool enabled)
 
 void frmMasterShoppingList::Clear()
 {
-    ui.txtItem->clear();
-    ui.txtUnit->clear();
-    ui.txtUnitPrice->setText(FormatCurrency({}));
-    ui.txtStore->setText(ui.cboStoreList->currentText());
-    ui.chkTaxCode->setChecked(false);
+    MasterItemRecord none;
+    none.Store = ui.cboStoreList->currentText();
+    ShowFields(none);
     ui.lblSelected->clear();
     ui.lstMasterShopper->SetListIndex(-1);
     FocusOn(ui.txtItem); // before the button that may have it is disabled

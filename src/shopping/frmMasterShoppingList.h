@@ -20,6 +20,7 @@ private:
     void ChooseStore();
     void ClickItem();
     void ShowItem(const MasterItemRecord &item);
+    void ShowFields(const MasterItemRecord &item);
     void Edited();
     void Clear();
     void AddItem();
@@ -32,8 +33,8 @@ private:
     void FillShelf(const QString &store);
     void FollowStore(const QString &store);
     void StandOn(const QString &item);
-    void NameStore(const QString &store);
     void StandOnNoItem();
+    void NameStore(const QString &store);
     void EnableCart(bool enabled);
     ItemEntry Entry() const;
 
