@@ -233,11 +233,11 @@ void frmMasterShoppingList::AddItem()
     if (!ui.cboStoreList->Items().contains(store))
         FillStoreCombo(*ui.cboStoreList);
     ui.cboStoreList->SetListIndex(ui.cboStoreList->findText(store)); // another store is chosen by that
+    NameStore(store);
     Clear();
 }
 
 void frmMasterShoppingList::SaveChanges()
-    NameStore(store);
 {
     const ItemEntry entry = Entry();
     if (const auto refusal = ValidateItem(entry)) {
@@ -289,6 +289,8 @@ void frmMasterShoppingList::PutInCart()
         if (FocusControl() == ui.imgCurrentShoppingList)
             FocusOn(ui.lstMasterShopper); // likewise
         EnableCart(false);
+        if (const Form *list = TheWindows.Loaded(WindowName::frmCurrentShoppingList); list && list->isVisible())
+            Q_EMIT TheShoppingDoors.CurrentListChanged(); // whoever has it beside this window sees the new line
         ShowMessage(u"%1 added to Current Shopping List!"_s.arg(ui.lstMasterShopper->SelectedText()), Title,
                     Icon::Information, Buttons::Ok);
     });
