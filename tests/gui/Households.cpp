@@ -66,6 +66,18 @@ const QHash<QString, QList<QPair<QString, QString>>> &FirstEntries()
     return entries;
 }
 
+/// The panels of a window beside the one that it opens with, and how the user gets to one.
+struct Panels {
+    QStringList Names;
+    std::function<void(const QString &panel)> BringToFront;
+};
+
+const QHash<QString, Panels> &FurtherPanels()
+{
+    static const QHash<QString, Panels> panels{};
+    return panels;
+}
+
 void FillIn(const QString &window)
 {
     for (const auto &[field, text] : FirstEntries().value(window))
@@ -157,8 +169,26 @@ void LayHouseholdOf(const RecordingDesk &desk, Household household)
     }
 }
 
-bool ShowAtWork(const QString &window, Household household)
+QStringList Views()
 {
+    QStringList views;
+    for (const QString &window : TheWindows.Names()) {
+        views += window;
+        for (const QString &panel : FurtherPanels().value(window).Names)
+            views += window + u'.' + panel;
+    }
+    return views;
+}
+
+QString WindowOf(const QString &view)
+{
+    return view.section(u'.', 0, 0);
+}
+
+bool ShowAtWork(const QString &view, Household household)
+{
+    const QString window = WindowOf(view);
+    const QString panel = view.section(u'.', 1);
     State.CurrentPayPeriodConfirmed = true; // its window is shown for itself
     if (window != u"frmSplash"_s)
         TheWindows.Show(u"frmMain"_s);
@@ -202,6 +232,8 @@ bool ShowAtWork(const QString &window, Household household)
         FillIn(window);
         ClickAllOf(window);
     }
+    if (!panel.isEmpty())
+        FurtherPanels().value(window).BringToFront(panel);
     Settle();
     return IsShown(window);
 }

@@ -314,27 +314,27 @@ private Q_SLOTS:
     // Small screens are set up by the rows of CMakeLists.txt.
     void EveryWindowFitsTheScreen_data()
     {
-        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("view");
         QTest::addColumn<bool>("filled");
         RegisterWindows();
-        const QStringList windows = TheWindows.Names();
+        const QStringList views = Views();
         TheWindows.Reset();
-        for (const QString &window : windows)
+        for (const QString &view : views)
             for (const bool filled : {false, true})
-                QTest::addRow("%s, %s", qPrintable(window), filled ? "filled" : "empty") << window << filled;
+                QTest::addRow("%s, %s", qPrintable(view), filled ? "filled" : "empty") << view << filled;
     }
     void EveryWindowFitsTheScreen()
     {
-        QFETCH(QString, window);
+        QFETCH(QString, view);
         QFETCH(bool, filled);
         UseDesktop(false, UsualFontSize);
         const Household household = filled ? Household::Filled : Household::Empty;
         GuiDesk desk;
         LayHouseholdOf(desk, household);
-        QVERIFY(ShowAtWork(window, household));
+        QVERIFY(ShowAtWork(view, household));
         desk.TakeAll(); // what the windows do is the matter of their own tests
         desk.Messages.clear();
-        Form &form = *TheWindows.Loaded(window);
+        Form &form = *TheWindows.Loaded(WindowOf(view));
         const QSize room = form.screen()->availableSize() - QSize(0, TitleBarHeight);
         QVERIFY2(!IsSmaller(room, form.size()),
                  qPrintable(u"it opens at %1 and has %2"_s.arg(Size(form.size()), Size(room))));
@@ -343,14 +343,14 @@ private Q_SLOTS:
 
     void EveryDateAndEveryAmountFitsItsField_data()
     {
-        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("view");
         QTest::addColumn<double>("fontSize");
         RegisterWindows();
-        const QStringList windows = TheWindows.Names();
+        const QStringList views = Views();
         TheWindows.Reset();
-        for (const QString &window : windows)
+        for (const QString &view : views)
             for (const double fontSize : {UsualFontSize, 2 * UsualFontSize})
-                QTest::addRow("%s, %g points", qPrintable(window), fontSize) << window << fontSize;
+                QTest::addRow("%s, %g points", qPrintable(view), fontSize) << view << fontSize;
     }
     void EveryDateAndEveryAmountFitsItsField()
     {
@@ -369,15 +369,15 @@ private Q_SLOTS:
             {u"frmSavings"_s, {u"txtMonthlyDeposits"_s, u"txtCurrentSavingsAmount"_s}},
             {u"frmSetCurrentPayPeriod"_s, {u"txtCurrentPayPeriod"_s}},
         };
-        QFETCH(QString, window);
+        QFETCH(QString, view);
         QFETCH(double, fontSize);
         UseDesktop(false, fontSize);
         GuiDesk desk;
         LayHouseholdOf(desk, Household::Filled);
-        QVERIFY(ShowAtWork(window, Household::Filled));
+        QVERIFY(ShowAtWork(view, Household::Filled));
         desk.TakeAll(); // what the windows do is the matter of their own tests
         desk.Messages.clear();
-        Form &form = *TheWindows.Loaded(window);
+        Form &form = *TheWindows.Loaded(WindowOf(view));
         form.resize(form.minimumSizeHint());
         Settle();
         QStringList seen;
@@ -391,7 +391,7 @@ private Q_SLOTS:
             if (need > TextRoom(*field))
                 clipped += u"%1 needs %2 pixels and has %3"_s.arg(field->objectName()).arg(need).arg(TextRoom(*field));
         }
-        for (const QString &field : known.value(window))
+        for (const QString &field : known.value(view))
             QVERIFY2(seen.contains(field), qPrintable(field + u" shows neither a date nor an amount"_s));
         QCOMPARE(clipped.join(u"; "_s), QString());
     }
@@ -418,25 +418,25 @@ private Q_SLOTS:
 
     void EveryWindowHasRoomForWhatItShows_data()
     {
-        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("view");
         QTest::addColumn<bool>("filled");
         QTest::addColumn<bool>("dark");
         QTest::addColumn<double>("fontSize");
         RegisterWindows();
-        const QStringList windows = TheWindows.Names();
+        const QStringList views = Views();
         TheWindows.Reset();
-        QVERIFY(windows.contains(u"frmMain"_s));
-        for (const QString &window : windows)
+        QVERIFY(views.contains(u"frmMain"_s));
+        for (const QString &view : views)
             for (const bool filled : {false, true})
                 for (const bool dark : {false, true})
                     for (const double fontSize : {UsualFontSize, 1.5 * UsualFontSize, 2 * UsualFontSize})
-                        QTest::addRow("%s, %s, %s, %g points", qPrintable(window), filled ? "filled" : "empty",
+                        QTest::addRow("%s, %s, %s, %g points", qPrintable(view), filled ? "filled" : "empty",
                                       dark ? "dark" : "light", fontSize)
-                            << window << filled << dark << fontSize;
+                            << view << filled << dark << fontSize;
     }
     void EveryWindowHasRoomForWhatItShows()
     {
-        QFETCH(QString, window);
+        QFETCH(QString, view);
         QFETCH(bool, filled);
         QFETCH(bool, dark);
         QFETCH(double, fontSize);
@@ -444,9 +444,9 @@ private Q_SLOTS:
         const Household household = filled ? Household::Filled : Household::Empty;
         GuiDesk desk;
         LayHouseholdOf(desk, household);
-        QVERIFY(ShowAtWork(window, household));
+        QVERIFY(ShowAtWork(view, household));
         desk.TakeAll(); // what the windows do is the matter of their own tests
-        Form &form = *TheWindows.Loaded(window);
+        Form &form = *TheWindows.Loaded(WindowOf(view));
         QVERIFY2(!IsSmaller(form.size(), form.minimumSizeHint()), "the window opens too small for its controls");
         // A statement opens as tall as its lines, up to the screen; what is empty fits the smallest one.
         const QSize most = filled ? form.screen()->availableSize() : SmallestScreen;

@@ -48,22 +48,22 @@ QImage SmallPicture(const QPixmap &pixmap)
     return picture;
 }
 
-bool TakePicture(const QString &window, Household household, bool dark, const QString &folder)
+bool TakePicture(const QString &view, Household household, bool dark, const QString &folder)
 {
     RecordingDesk desk;
     desk.Now = TimeOfPictures;
     RegisterWindows();
     desk.Options[u"show tallymere tutor"_s] = u"0"_s;
     LayHouseholdOf(desk, household);
-    if (!ShowAtWork(window, household)) {
-        qWarning("%s does not show itself", qPrintable(window));
+    if (!ShowAtWork(view, household)) {
+        qWarning("%s does not show itself", qPrintable(view));
         TheWindows.Reset();
         return false;
     }
-    Form &form = *TheWindows.Loaded(window);
+    Form &form = *TheWindows.Loaded(WindowOf(view));
     const QPixmap picture = form.grab();
     const QString name =
-        u"%1/%2-%3-%4-%5.png"_s.arg(folder, window, household == Household::Empty ? u"empty"_s : u"filled"_s)
+        u"%1/%2-%3-%4-%5.png"_s.arg(folder, view, household == Household::Empty ? u"empty"_s : u"filled"_s)
             .arg(qRound(picture.devicePixelRatio() * 100))
             .arg(dark ? u"dark"_s : u"light"_s);
     const bool saved = SmallPicture(picture).save(name, "PNG", 0);
@@ -86,14 +86,14 @@ int main(int argc, char **argv)
     QApplication::setStyle(new ClearEdges(u"Fusion"_s));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     RegisterWindows();
-    const QStringList windows = TheWindows.Names();
+    const QStringList views = Views();
     TheWindows.Reset();
     int missing = 0;
     for (const bool dark : {false, true}) {
         UseDesktop(dark, UsualFontSize);
-        for (const QString &window : windows)
+        for (const QString &view : views)
             for (const Household household : {Household::Empty, Household::Filled})
-                missing += !TakePicture(window, household, dark, application.arguments().at(1));
+                missing += !TakePicture(view, household, dark, application.arguments().at(1));
     }
     return missing == 0 ? 0 : 1;
 }
