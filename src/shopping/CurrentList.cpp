@@ -106,16 +106,21 @@ void AddCurrentItem(const MasterItemRecord &item)
 
 void ChangeCurrentItem(const CurrentItemEntry &entry)
 {
+    CurrentItemRecord &atHand = State.CurrentShoppingList(Shopping.CurrentItemIndex);
+    // A text shows fewer decimals than its value may have. One that was not touched stands for the value.
+    const auto amount = [](const QString &text, Currency before) {
+        return text == FormatCurrency(before) ? before : ToCurrency(text);
+    };
+    const bool sameQuantity = entry.Quantity == ShownText(atHand.Quantity);
     CurrentItemRecord line{.Item = entry.Item,
                            .Unit = entry.Unit,
-                           .UnitPrice = ToCurrency(entry.UnitPrice),
+                           .UnitPrice = amount(entry.UnitPrice, atHand.UnitPrice),
                            .Store = entry.Store,
-                           .Quantity = ToSingle(entry.Quantity),
+                           .Quantity = sameQuantity ? atHand.Quantity : ToSingle(entry.Quantity),
                            .Taxable = entry.TaxCode != u"N"_s,
-                           .CouponValue = ToCurrency(entry.CouponValue),
+                           .CouponValue = amount(entry.CouponValue, atHand.CouponValue),
                            .FullPrice = {}};
     line.FullPrice = Currency::FromDouble(line.UnitPrice.ToDouble() * double(line.Quantity)) - line.CouponValue;
-    CurrentItemRecord &atHand = State.CurrentShoppingList(Shopping.CurrentItemIndex);
     CheckBillWith(line, Shopping.CurrentItemIndex);
     atHand = line;
 }

@@ -50,7 +50,8 @@ struct CurrentItemEntry {
     QString CouponValue; ///< money
 };
 
-/// Writes the texts into the line at hand. Its full price is told without tax until the list is priced.
+/// Writes the texts into the line at hand; a price, quantity or coupon that is the line's own text keeps the exact
+/// value that the text was made of. Its full price is told without tax until the list is priced.
 /// Error 13 for a text that is no number, error 6 for one beyond its type or a whole bill beyond the range of money,
 /// error 9 without such a line; nothing is changed then.
 void ChangeCurrentItem(const CurrentItemEntry &entry);

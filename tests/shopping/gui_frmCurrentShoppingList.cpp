@@ -782,6 +782,25 @@ private Q_SLOTS:
         QCOMPARE(ShownRows(), Rows);
     }
 
+    void WhatIsNotTouchedKeepsItsDecimals()
+    {
+        ShoppingDesk desk({Line(u"Milk"_s, 12345, 1.0F / 3, false, 1234)});
+        Show(Window);
+        ClickGridRow(1);
+        Click(Window, u"cmdChange"_s);
+        QVERIFY(desk.ReadFile(ListFile).contains("\r\n1.2345\r\n"));
+        QVERIFY(desk.ReadFile(ListFile).contains("\r\n0.1234\r\n"));
+        QCOMPARE(State.CurrentShoppingList(1).Quantity, 1.0F / 3);
+        QVERIFY(desk.ReadFile(MasterFile).contains("\r\n1.2345\r\n"));
+        ClickGridRow(1);
+        TypeLine(u"2"_s, u"0.5"_s);
+        Click(Window, u"cmdChange"_s);
+        QCOMPARE(State.CurrentShoppingList(1).UnitPrice, Count(12345));
+        QCOMPARE(State.CurrentShoppingList(1).CouponValue, Count(5000));
+        QCOMPARE(State.CurrentShoppingList(1).Quantity, 2.0F);
+        desk.TakeFiles();
+    }
+
     void AmountsOfTheUsersLocaleComeBack()
     {
         ShoppingDesk desk(Lines);
@@ -791,7 +810,7 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"txtQuantity"_s), u"2,5"_s);
         Type(Window, u"txtCouponValue"_s, u"1.000,50"_s);
         Click(Window, u"cmdChange"_s);
-        QCOMPARE(State.CurrentShoppingList(3).UnitPrice, Count(12345700)); // of the two decimals that were shown
+        QCOMPARE(State.CurrentShoppingList(3).UnitPrice, Count(12345678)); // and not the two decimals shown
         QCOMPARE(State.CurrentShoppingList(3).Quantity, 2.5F);
         QCOMPARE(State.CurrentShoppingList(3).CouponValue, Count(10005000));
         desk.TakeFiles();
