@@ -135,6 +135,43 @@ private Q_SLOTS:
         QCOMPARE(TheDesk.ShowMessage({"text", "title", Icon::Question, buttons, 22}), answer);
     }
 
+    // Where either answer costs something, neither may be given by a key that only wants to get away.
+    void AQuestionThatMustBeAnsweredStays_data()
+    {
+        QTest::addColumn<bool>("must");
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("Esc answers a usual question") << false << true;
+        QTest::newRow("so does the close box") << false << false;
+        QTest::newRow("Esc does not answer this one") << true << true;
+        QTest::newRow("nor does the close box") << true << false;
+    }
+    void AQuestionThatMustBeAnsweredStays()
+    {
+        QFETCH(bool, must);
+        QFETCH(bool, byKey);
+        QTimer::singleShot(0, qApp, [=] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            Settle();
+            if (byKey)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            else
+                box->close();
+            Settle();
+            QCOMPARE(box->isVisible(), must);
+            if (must) {
+                box->button(QMessageBox::Yes)->click();
+                QVERIFY(!box->isVisible());
+            }
+        });
+        const Answer answer = TheDesk.ShowMessage({.Text = "text",
+                                                   .Title = "title",
+                                                   .TheIcon = Icon::Question,
+                                                   .TheButtons = Buttons::YesNo,
+                                                   .MustBeAnswered = must});
+        QCOMPARE(answer, must ? Answer::Yes : Answer::No);
+    }
+
     void TheHelpButtonOpensTheHelpAndLeavesTheBox()
     {
         QList<HelpQuestion> asked;

@@ -61,11 +61,12 @@ private:
 // Failed comparisons show what the messages say.
 inline char *toString(const Message &message)
 {
-    return QTest::toString(QStringLiteral("%1 | %2 | icon %3 buttons %4 context %5")
+    return QTest::toString(QStringLiteral("%1 | %2 | icon %3 buttons %4 context %5%6")
                                .arg(message.Text, message.Title)
                                .arg(int(message.TheIcon))
                                .arg(int(message.TheButtons))
-                               .arg(message.HelpContext));
+                               .arg(message.HelpContext)
+                               .arg(QLatin1String(message.MustBeAnswered ? " must be answered" : "")));
 }
 inline char *toString(const Currency &amount)
 {

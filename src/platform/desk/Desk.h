@@ -21,6 +21,7 @@ struct Message {
     Icon TheIcon = Icon::None;
     Buttons TheButtons = Buttons::Ok;
     int HelpContext = 0;
+    bool MustBeAnswered = false; ///< Esc and the close box are no answer to the question
     bool operator==(const Message &) const = default;
 };
 

@@ -9,8 +9,10 @@
 #include "platform/windows/WindowRegister.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -39,9 +41,33 @@ QWidget *DialogParent()
     return front && !front->isMinimized() ? front : nullptr;
 }
 
+/// A box that stays, where the message wants it, until one of its buttons is pressed.
+class Box : public QMessageBox
+{
+public:
+    explicit Box(bool mustBeAnswered) : QMessageBox(DialogParent()), m_mustBeAnswered(mustBeAnswered) {}
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (!m_mustBeAnswered || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent *event) override
+    {
+        if (m_mustBeAnswered)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool m_mustBeAnswered;
+};
+
 Answer ShowBox(const Message &message)
 {
-    QMessageBox box(DialogParent());
+    Box box(message.MustBeAnswered);
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(message.Title);
     box.setTextFormat(Qt::PlainText);
