@@ -204,8 +204,13 @@ void frmCurrentShoppingList::cmdDelete_Click()
 
 void frmCurrentShoppingList::cmdNew_Click()
 {
-    const Answer answer = ShowMessage(u"If you have not already done so, would you like to save the current list?"_s,
-                                      AppTitle, Icon::Question, Buttons::YesNo);
+    // Esc is no answer: as a No it would end the list.
+    const Answer answer =
+        TheDesk.ShowMessage({.Text = u"If you have not already done so, would you like to save the current list?"_s,
+                             .Title = AppTitle,
+                             .TheIcon = Icon::Question,
+                             .TheButtons = Buttons::YesNo,
+                             .MustBeAnswered = true});
     bool saved = true;
     if (answer == Answer::Yes) {
         saved = false;

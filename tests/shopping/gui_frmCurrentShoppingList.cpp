@@ -37,8 +37,11 @@ const Message UnknownError{
     "page. On the main menu click on Help->Search for Help On... or Help->How Do I? or click on any of the help icons "
     "on the bottom right of the main window."_s,
     u"Current Shopping List"_s, Icon::Warning};
-const Message SaveFirst{u"If you have not already done so, would you like to save the current list?"_s, AppTitle,
-                        Icon::Question, Buttons::YesNo};
+const Message SaveFirst{.Text = u"If you have not already done so, would you like to save the current list?"_s,
+                        .Title = AppTitle,
+                        .TheIcon = Icon::Question,
+                        .TheButtons = Buttons::YesNo,
+                        .MustBeAnswered = true};
 const Message NotUntitled{u"The name UNTITLED.LST cannot be used for your new list file because Tallymere uses it for "
                           "new list templates"_s,
                           u"Save Shopping List"_s, Icon::Warning};
