@@ -163,6 +163,15 @@ void frmCurrentShoppingList::grdCurrentShoppingList_Click()
     ui.cmdDelete->setEnabled(true);
 }
 
+/// No line is to be changed or deleted. The focus goes to the lines first, or the disabled button would hand it on to
+/// New, where the next press of Space would end the list.
+void frmCurrentShoppingList::LeaveLine()
+{
+    FocusOn(ui.grdCurrentShoppingList);
+    ui.cmdChange->setEnabled(false);
+    ui.cmdDelete->setEnabled(false);
+}
+
 void frmCurrentShoppingList::cmdChange_Click()
 {
     if (!Accepts(Rules))
@@ -174,8 +183,7 @@ void frmCurrentShoppingList::cmdChange_Click()
                        .Quantity = ui.txtQuantity->text(),
                        .TaxCode = ui.txtTaxCode->text(),
                        .CouponValue = ui.txtCouponValue->text()});
-    ui.cmdChange->setEnabled(false);
-    ui.cmdDelete->setEnabled(false);
+    LeaveLine();
     CopyLineToCatalogue();
     SortCurrentShoppingList();
     SaveCurrentShoppingList();
@@ -198,8 +206,7 @@ void frmCurrentShoppingList::cmdDelete_Click()
         field->clear();
     ui.txtUnitPrice->setText(FormatCurrency({}));
     ui.txtCouponValue->setText(FormatCurrency({}));
-    ui.cmdDelete->setEnabled(false);
-    ui.cmdChange->setEnabled(false);
+    LeaveLine();
 }
 
 void frmCurrentShoppingList::cmdNew_Click()

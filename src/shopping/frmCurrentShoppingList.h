@@ -17,6 +17,7 @@ private:
     void FillCurrentShoppingGrid();
     void Disable();
     void grdCurrentShoppingList_Click();
+    void LeaveLine();
     void cmdChange_Click();
     void cmdDelete_Click();
     void cmdNew_Click();

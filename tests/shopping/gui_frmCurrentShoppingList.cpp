@@ -853,6 +853,24 @@ private Q_SLOTS:
         QCOMPARE(EnabledOf(Offered), QStringList());
     }
 
+    void ChangeAndDeleteLeadBackToTheLines_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("change") << u"cmdChange"_s;
+        QTest::newRow("delete") << u"cmdDelete"_s;
+    }
+    void ChangeAndDeleteLeadBackToTheLines()
+    {
+        QFETCH(QString, button);
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        ClickGridRow(2);
+        static_cast<Form &>(*TheWindows.Loaded(Window)).FocusOn(&Find(Window, button));
+        QTest::keyClick(&Find(Window, button), Qt::Key_Space);
+        QCOMPARE(FocusOf(Window), GridName); // and not New, where Space would end the list
+        desk.TakeFiles();
+    }
+
     // ------------------------------------------------------------ Save
 
     void Saving_data()
