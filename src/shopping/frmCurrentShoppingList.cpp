@@ -108,10 +108,10 @@ void frmCurrentShoppingList::Deactivate()
 /// be used; the fields that only show stay as they are then.
 void frmCurrentShoppingList::Disable()
 {
-    for (QWidget *control :
-         QList<QWidget *>{ui.txtItem, ui.txtUnit, ui.txtStore, ui.txtQuantity, ui.txtCouponValue, ui.txtUnitPrice,
-                          ui.cmdSave, ui.cmdChange, ui.cmdDelete, ui.cmdNew, ui.grdCurrentShoppingList})
+    for (QWidget *control : QList<QWidget *>{ui.txtItem, ui.txtUnit, ui.txtStore, ui.txtQuantity, ui.txtCouponValue,
+                                             ui.txtUnitPrice, ui.cmdSave, ui.cmdNew, ui.grdCurrentShoppingList})
         control->setEnabled(false);
+    OfferLine(false);
 }
 
 void frmCurrentShoppingList::Unload()
@@ -159,8 +159,7 @@ void frmCurrentShoppingList::grdCurrentShoppingList_Click()
     ui.txtCouponValue->setText(FormatCurrency(line.CouponValue));
     ui.txtQuantity->setText(ShownText(line.Quantity));
     ui.txtTaxCode->setText(line.Taxable ? u"Y"_s : u"N"_s);
-    ui.cmdChange->setEnabled(true);
-    ui.cmdDelete->setEnabled(true);
+    OfferLine(true);
 }
 
 /// No line is to be changed or deleted. The focus goes to the lines first, or the disabled button would hand it on to
@@ -168,8 +167,15 @@ void frmCurrentShoppingList::grdCurrentShoppingList_Click()
 void frmCurrentShoppingList::LeaveLine()
 {
     FocusOn(ui.grdCurrentShoppingList);
-    ui.cmdChange->setEnabled(false);
-    ui.cmdDelete->setEnabled(false);
+    OfferLine(false);
+}
+
+/// The fields may show a line that is selected no more; the frame's title tells it from one that is.
+void frmCurrentShoppingList::OfferLine(bool selected)
+{
+    ui.cmdChange->setEnabled(selected);
+    ui.cmdDelete->setEnabled(selected);
+    ui.fraLine->setTitle(selected ? u"Selected Item"_s : u"No Item Selected"_s);
 }
 
 void frmCurrentShoppingList::cmdChange_Click()

@@ -18,6 +18,7 @@ private:
     void Disable();
     void grdCurrentShoppingList_Click();
     void LeaveLine();
+    void OfferLine(bool selected);
     void cmdChange_Click();
     void cmdDelete_Click();
     void cmdNew_Click();

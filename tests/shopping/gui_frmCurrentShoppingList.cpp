@@ -9,6 +9,8 @@
 #include "shopping/ShoppingDoors.h"
 #include "shopping/ShoppingState.h"
 
+#include <QGroupBox>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -868,6 +870,30 @@ private Q_SLOTS:
         static_cast<Form &>(*TheWindows.Loaded(Window)).FocusOn(&Find(Window, button));
         QTest::keyClick(&Find(Window, button), Qt::Key_Space);
         QCOMPARE(FocusOf(Window), GridName); // and not New, where Space would end the list
+        desk.TakeFiles();
+    }
+
+    void TheFrameTellsThatNothingIsSelected()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        auto &frame = Find<QGroupBox>(Window, u"fraLine"_s);
+        QCOMPARE(frame.title(), u"No Item Selected"_s);
+        ClickGridRow(2);
+        QCOMPARE(frame.title(), u"Selected Item"_s);
+        Click(Window, u"cmdChange"_s);
+        QCOMPARE(TextOf(Window, u"txtItem"_s), u"Milk"_s);
+        QCOMPARE(frame.title(), u"No Item Selected"_s);
+        ClickGridRow(2);
+        LeaveAndReturn();
+        QCOMPARE(TextOf(Window, u"txtItem"_s), u"Milk"_s);
+        QCOMPARE(frame.title(), u"No Item Selected"_s);
+        QTest::qWait(Arrival);
+        ClickGridRow(2);
+        desk.Answers = {Answer::No};
+        Click(Window, u"cmdNew"_s);
+        desk.TakeMessage();
+        QCOMPARE(frame.title(), u"No Item Selected"_s);
         desk.TakeFiles();
     }
 
