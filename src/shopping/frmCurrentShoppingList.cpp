@@ -85,17 +85,14 @@ void frmCurrentShoppingList::Activate()
 {
     setWindowTitle(TitlePrefix + State.CurrentStoreFile);
     // A file by hand, or a tax, may take the bill beyond money; that is told, and such a list is not printed.
-    bool priced = false;
-    Trap([&] {
-        FillCurrentShoppingGrid();
-        priced = true;
-    });
+    Trap([this] { FillCurrentShoppingGrid(); });
     ui.lblTaxCode->setText(u"Taxable "_s + WindowField::SalesTax().text() + u'%');
     const bool lines = State.NumberOfCurrentItems != 0;
     for (QWidget *control :
          QList<QWidget *>{ui.txtQuantity, ui.txtCouponValue, ui.cmdSave, ui.cmdNew, ui.grdCurrentShoppingList})
         control->setEnabled(lines);
-    ui.cmdPrint->setEnabled(lines && priced);
+    if (!lines)
+        ui.cmdPrint->setEnabled(false);
     Window::Activate();
 }
 
@@ -142,6 +139,8 @@ void frmCurrentShoppingList::FillCurrentShoppingGrid()
     Grid &grid = *ui.grdCurrentShoppingList;
     grid.SetColumns(GridColumns(), RowsBeside);
     grid.AddRows(rows, 1);
+    if (State.NumberOfCurrentItems != 0)
+        ui.cmdPrint->setEnabled(!failure); // what cannot be added up is not printed
     ui.lblTotalGroceryBill->setText(failure ? QString() : FormatCurrency(Shopping.TotalGroceryBill));
     if (failure)
         RaiseError(*failure);
@@ -207,12 +206,12 @@ void frmCurrentShoppingList::cmdDelete_Click()
 {
     DeleteCurrentItem();
     SaveCurrentShoppingList();
-    FillCurrentShoppingGrid();
+    LeaveLine();
     for (QLineEdit *field : {ui.txtItem, ui.txtUnit, ui.txtStore, ui.txtQuantity, ui.txtTaxCode})
         field->clear();
     ui.txtUnitPrice->setText(FormatCurrency({}));
     ui.txtCouponValue->setText(FormatCurrency({}));
-    LeaveLine();
+    FillCurrentShoppingGrid(); // last, as the lines that are left may not be priced
 }
 
 void frmCurrentShoppingList::cmdNew_Click()

@@ -897,6 +897,26 @@ private Q_SLOTS:
         desk.TakeFiles();
     }
 
+    void ADeletionAmongLinesBeyondMoneyEndsTheSelection()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        ClickGridRow(1);
+        State.CurrentShoppingList(2).CouponValue = Count(std::numeric_limits<qint64>::min());
+        Click(Window, u"cmdDelete"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(Items(), (QStringList{u"Milk"_s, u"Tea"_s}));
+        QCOMPARE(FieldTexts(), (QStringList{{}, {}, u"$0.00"_s, {}, {}, {}, u"$0.00"_s}));
+        QVERIFY(!IsEnabled(Window, u"cmdDelete"_s)); // or the next press would delete another line
+        QVERIFY(!IsEnabled(Window, u"cmdChange"_s));
+        QVERIFY(!IsEnabled(Window, u"cmdPrint"_s));
+        ClickGridRow(1);
+        Click(Window, u"cmdDelete"_s);
+        QCOMPARE(Items(), QStringList{u"Tea"_s});
+        QVERIFY(IsEnabled(Window, u"cmdPrint"_s));
+        desk.TakeFiles();
+    }
+
     // ------------------------------------------------------------ Save
 
     void Saving_data()
