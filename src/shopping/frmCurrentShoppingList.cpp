@@ -5,6 +5,7 @@
 #include "foundation/StatementGrid.h"
 #include "foundation/WindowFields.h"
 #include "platform/controls/Fields.h"
+#include "platform/files/DataFile.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 #include "shopping/CurrentList.h"
@@ -12,6 +13,7 @@
 #include "shopping/ShoppingDoors.h"
 #include "shopping/ShoppingState.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <optional>
 
@@ -44,6 +46,11 @@ constexpr int RowsAtFirst = 10;
 constexpr int RowsBeside = 2; // the lines: the heading and the empty row
 const QString TitlePrefix = u"Current Shopping List - "_s;
 const QString Untitled = u"untitled.lst"_s;
+
+bool IsUntitled(const QString &name)
+{
+    return name.toUpper() == Untitled.toUpper();
+}
 
 } // namespace
 
@@ -249,6 +256,22 @@ bool frmCurrentShoppingList::cmdSave_Click()
     return saved;
 }
 
+/// Whether the user wants to replace another list of that name, which is asked where the file dialog has not: the list
+/// goes to the stores, but the dialog asks about the folder that was chosen and about that letter case.
+bool frmCurrentShoppingList::MayReplace(const QString &name, const QString &chosen) const
+{
+    const auto stored = [](const QString &file) { return QFileInfo(ExistingPath(State.StoresDirectory + file)); };
+    const QFileInfo list = stored(name);
+    if (!list.exists() || list.canonicalFilePath() == stored(State.CurrentStoreFile).canonicalFilePath())
+        return true;
+    const bool dialogHasAsked = chosen == name // in the folder that the dialog opens in
+                                    ? list.fileName() == name
+                                    : list.canonicalFilePath() == QFileInfo(chosen).canonicalFilePath();
+    return dialogHasAsked ||
+           ShowMessage(u"There is a list "_s + list.fileName() + u" already. Would you like to replace it?"_s,
+                       u"Save Shopping List"_s, Icon::Question, Buttons::YesNo) == Answer::Yes;
+}
+
 /// Asks until the name will do. A cancelled dialog leaves the name alone, so that a list without one has no other way
 /// out than a name.
 void frmCurrentShoppingList::AskForName()
@@ -258,10 +281,13 @@ void frmCurrentShoppingList::AskForName()
     static const QRegularExpression separators(u"[\\\\/]"_s);
     for (;;) {
         const QString chosen = TheDesk.AskFile(dlgSaveShoppingList);
-        if (!chosen.isEmpty())
-            State.CurrentStoreFile = chosen;
+        const QString name = chosen.section(separators, -1);
         State.CurrentStoreFile = State.CurrentStoreFile.section(separators, -1);
-        if (State.CurrentStoreFile.toUpper() != Untitled.toUpper())
+        if (!name.isEmpty() && !IsUntitled(name) && !MayReplace(name, chosen))
+            continue;
+        if (!name.isEmpty())
+            State.CurrentStoreFile = name;
+        if (!IsUntitled(State.CurrentStoreFile))
             return;
         ShowMessage(
             u"The name UNTITLED.LST cannot be used for your new list file because Tallymere uses it for new list "

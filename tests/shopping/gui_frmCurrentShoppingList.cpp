@@ -919,6 +919,73 @@ private Q_SLOTS:
 
     // ------------------------------------------------------------ Save
 
+    void AnotherListIsNotReplacedUnasked_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("chosen in another folder") << u"/elsewhere"_s << u"party.lst"_s;
+        QTest::newRow("another letter case") << u"stores"_s << u"PARTY.lst"_s;
+        QTest::newRow("another letter case, a bare name") << QString() << u"PARTY.lst"_s;
+    }
+    void AnotherListIsNotReplacedUnasked()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, name);
+        ShoppingDesk desk(Lines);
+        desk.WriteFile(u"stores\\party.lst"_s, "as it was");
+        const QString chosen = folder.isEmpty()          ? name
+                               : folder.startsWith(u'/') ? folder + u'/' + name
+                                                         : desk.Folder() + u'/' + folder + u'/' + name;
+        Show(Window);
+        const Message replace{u"There is a list party.lst already. Would you like to replace it?"_s,
+                              u"Save Shopping List"_s, Icon::Question, Buttons::YesNo};
+        desk.FileAnswers = {chosen, {}};
+        desk.Answers = {Answer::No};
+        Click(Window, u"cmdSave"_s);
+        QCOMPARE(desk.TakeMessage(), replace);
+        QCOMPARE(desk.FileQuestions.size(), 2); // asked again, and cancelled
+        QCOMPARE(State.CurrentStoreFile, u"weekly.lst"_s);
+        QCOMPARE(desk.ReadFile(u"stores\\party.lst"_s), QByteArray("as it was"));
+        desk.FileAnswers = {chosen};
+        desk.Answers = {Answer::Yes};
+        Click(Window, u"cmdSave"_s);
+        QCOMPARE(desk.TakeMessage(), replace);
+        QCOMPARE(State.CurrentStoreFile, name);
+        QCOMPARE(QDir(desk.Path(u"stores"_s)).entryList({u"party.lst"_s}, QDir::Files), QStringList{name});
+        QVERIFY(desk.ReadFile(u"stores\\"_s + name).startsWith("3\r\n"));
+        QVERIFY(desk.ReadFile(ListFile).startsWith("3\r\n")); // the list of before
+        desk.TakeFiles();
+    }
+
+    void WhatTheDialogHasAskedIsNotAskedAgain_data()
+    {
+        QTest::addColumn<bool>("bare");
+        QTest::newRow("a path") << false;
+        QTest::newRow("a bare name") << true;
+    }
+    void WhatTheDialogHasAskedIsNotAskedAgain()
+    {
+        QFETCH(bool, bare);
+        ShoppingDesk desk(Lines);
+        desk.WriteFile(u"stores\\party.lst"_s, "as it was");
+        Show(Window);
+        desk.FileAnswers = {bare ? u"party.lst"_s : desk.Folder() + u"/stores/party.lst"_s};
+        Click(Window, u"cmdSave"_s);
+        QVERIFY(desk.ReadFile(u"stores\\party.lst"_s).startsWith("3\r\n"));
+        desk.TakeFiles();
+    }
+
+    void TheOpenListIsSavedUnasked()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        desk.FileAnswers = {u"/elsewhere/WEEKLY.lst"_s};
+        Click(Window, u"cmdSave"_s);
+        QCOMPARE(State.CurrentStoreFile, u"WEEKLY.lst"_s);
+        QVERIFY(desk.ReadFile(u"stores\\WEEKLY.lst"_s).startsWith("3\r\n"));
+        desk.TakeFiles();
+    }
+
     void Saving_data()
     {
         QTest::addColumn<QString>("before");
