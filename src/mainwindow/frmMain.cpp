@@ -10,7 +10,9 @@
 #include "mainwindow/StateLineLook.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/Theme.h"
+#include "platform/desk/UnknownError.h"
 #include "platform/windows/WindowRegister.h"
+#include "shopping/CurrentList.h"
 #include "shopping/PrintedList.h"
 #include "shopping/ShoppingDoors.h"
 
@@ -296,10 +298,7 @@ void frmMain::Act(const MenuEntry &entry)
         break;
     case Command::Tutor: mnuTallymereTutor_Click(); break;
     case Command::Search: mnuHelpSearch_Click(); break;
-    case Command::PrintCurrentList:
-        ShowTutorPageIfRunning(entry.TutorPage);
-        PrintShoppingList();
-        break;
+    case Command::PrintCurrentList: mnuShopperPrintCurrentList_Click(entry); break;
     case Command::Submenu:
     case Command::Separator: break;
     }
@@ -359,6 +358,19 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
         InputCurrentShoppingList();
     };
     ResumeNext(open, [](const RuntimeError &error) { ShowMessage(error.Text(), u"Open Store File"_s, Icon::Stop); });
+}
+
+void frmMain::mnuShopperPrintCurrentList_Click(const MenuEntry &entry)
+{
+    ShowTutorPageIfRunning(entry.TutorPage);
+    // A list beyond money is told of and not printed; its own window greys the button. A printer's error is no slip.
+    bool priced = false;
+    TrapUnknownError(u"Current Shopping List"_s, [&] {
+        PriceCurrentList();
+        priced = true;
+    });
+    if (priced)
+        PrintShoppingList();
 }
 
 void frmMain::FlipOption(const QString &entryName, const QString &option, const QString &title, const QString &on,

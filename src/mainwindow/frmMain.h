@@ -48,6 +48,7 @@ private:
     void OpenWindowWithTutor(int tutorPage, const QString &window);
     void mnuBudgetSavingsForecast_Click(const MenuEntry &entry);
     void mnuShopperOpenStoreList_Click(const MenuEntry &entry);
+    void mnuShopperPrintCurrentList_Click(const MenuEntry &entry);
     void mnuFinanceMathCalculator_Click(const MenuEntry &entry);
     void mnuOptionsSetCurrentPayPeriod_Click(const MenuEntry &entry);
     void mnuTallymereTutor_Click();

@@ -1,4 +1,5 @@
 // The current shopping list's window: what it shows, its edits, its names and files, and what it tells the others.
+#include "ErrorOf.h"
 #include "GuiDesk.h"
 #include "TestProgram.h"
 
@@ -1324,6 +1325,27 @@ private Q_SLOTS:
         QCOMPARE(TitleOf(), u"Current Shopping List - party.lst"_s);
         QCOMPARE(ShownRows(), QStringList{u"Eggs | box | $1.00 | Shop | 1.00 | N | $0.00 | $1.00"_s});
         QCOMPARE(EnabledOf(Offered), Offered);
+    }
+
+    void TheMenuTellsOfAListBeyondMoney()
+    {
+        ShoppingDesk desk;
+        desk.StartProgram();
+        AddCurrentItem({u"Milk"_s, u"each"_s, Count(10000), u"Shop"_s, true});
+        State.CurrentShoppingList(1).CouponValue = Count(std::numeric_limits<qint64>::min());
+        Choose(u"mnuShopperPrintCurrentList"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QVERIFY(desk.Printed.isEmpty());
+        QVERIFY(!desk.Ended);
+    }
+
+    void AnErrorOfThePrinterIsNotTrapped()
+    {
+        ShoppingDesk desk;
+        desk.StartProgram();
+        AddCurrentItem({u"Milk"_s, u"each"_s, Count(10000), u"Shop"_s, true});
+        TheDesk.PrintDocument = [](const PrintJob &) { RaiseError(RuntimeError::DeviceError); };
+        QCOMPARE(ErrorOf([] { Choose(u"mnuShopperPrintCurrentList"_s); }), int(RuntimeError::DeviceError));
     }
 
     void TheMenuPrintsTheListWithItsPage()
