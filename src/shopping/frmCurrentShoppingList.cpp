@@ -77,6 +77,7 @@ frmCurrentShoppingList::frmCurrentShoppingList()
     OnClick(ui.cmdPrint, PrintShoppingList);
     UnloadOn(ui.cmdQuit);
     EnterRing({ui.txtQuantity, ui.txtCouponValue});
+    StartAt(ui.grdCurrentShoppingList); // also when the user comes back: nothing is selected then
     OnLostFocus(ui.txtTaxCode, [this] { ui.txtTaxCode->setText(ui.txtTaxCode->text().toUpper()); });
     CurrencyWhenLeft({ui.txtUnitPrice});
 }

@@ -403,6 +403,22 @@ private Q_SLOTS:
         QCOMPARE(TextOf(Window, u"txtItem"_s), u"Milk"_s);
     }
 
+    void TheUserComesBackToTheLines()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        ClickGridRow(2);
+        Type(Window, u"txtQuantity"_s, u"4"_s);
+        LeaveAndReturn();
+        QCOMPARE(FocusOf(Window), GridName);
+        QTest::keyClick(&TheGrid(), Qt::Key_Down);
+        QTest::keyClick(&TheGrid(), Qt::Key_Return);
+        QCOMPARE(TextOf(Window, u"txtItem"_s), u"Milk"_s);
+        State.NumberOfCurrentItems = 0;
+        LeaveAndReturn();
+        QCOMPARE(FocusOf(Window), u"cmdMasterList"_s); // there is no line
+    }
+
     void ThePressThatBringsTheUserBackSelectsNothing()
     {
         ShoppingDesk desk(Lines);
