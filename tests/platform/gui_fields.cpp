@@ -70,6 +70,32 @@ private Q_SLOTS:
         QCOMPARE(entry.First->cursorPosition(), 4);
     }
 
+    void AFieldThatOnlyShowsIsNeverGrey()
+    {
+        const QPalette before = QApplication::palette();
+        QLineEdit field(LongText);
+        ShowOnly(&field);
+        field.setEnabled(false);
+        const auto ink = [&] { return field.palette().color(QPalette::Text); };
+        QVERIFY(field.isReadOnly());
+        QCOMPARE(field.palette().color(QPalette::Base), QColor(Qt::transparent));
+        QCOMPARE(ink(), before.color(QPalette::Active, QPalette::Text));
+        QVERIFY(ink() != before.color(QPalette::Disabled, QPalette::Text));
+        QPalette after = before; // the desktop turns dark
+        after.setColor(QPalette::Text, QColor(0xe0, 0xe0, 0xe0));
+        after.setColor(QPalette::Disabled, QPalette::Text, QColor(0x80, 0x80, 0x80));
+        QApplication::setPalette(after);
+        QEvent told(QEvent::ApplicationPaletteChange); // as widgets hear of it while the program runs
+        QCoreApplication::sendEvent(&field, &told);
+        const QColor dark = ink();
+        field.setEnabled(true);
+        const QColor enabled = ink();
+        QApplication::setPalette(before);
+        QCOMPARE(dark, QColor(0xe0, 0xe0, 0xe0));
+        QCOMPARE(enabled, QColor(0xe0, 0xe0, 0xe0));
+        QCOMPARE(field.palette().color(QPalette::Base), QColor(Qt::transparent));
+    }
+
     void EnterAndTheMouseSelectFromTheEndToTheBeginning()
     {
         GuiDesk desk;

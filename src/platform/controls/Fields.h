@@ -13,5 +13,5 @@ void ShowFromBeginning(QLineEdit *field);
 /// Formats the text as currency; one that is no number stays.
 void ShowAsCurrency(QLineEdit *field);
 
-/// A field that only shows has no ground of its own, so that nobody tries to type into it.
+/// A field that only shows has no ground of its own, so that nobody tries to type into it, and is never grey.
 void ShowOnly(QLineEdit *field);
