@@ -14,6 +14,7 @@
 #include "shopping/ShoppingState.h"
 
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QRegularExpression>
 #include <optional>
 
@@ -65,6 +66,7 @@ frmCurrentShoppingList::frmCurrentShoppingList()
     ui.grdCurrentShoppingList->SetFillsOnArrival(true);
     ui.grdCurrentShoppingList->SetRowsAtFirst(RowsAtFirst);
     ui.grdCurrentShoppingList->SetColumns(GridColumns(), RowsBeside);
+    ui.grdCurrentShoppingList->horizontalHeader()->setSectionsClickable(false); // it is no line
 
     connect(ui.grdCurrentShoppingList, &Grid::Click, this,
             [this] { Trap([this] { grdCurrentShoppingList_Click(); }); });
