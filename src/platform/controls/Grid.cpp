@@ -21,7 +21,7 @@ constexpr int MeasuredLetter = 5; // pixels
 constexpr int RowsAtLeast = 6;
 constexpr int MostLetters = 128; // that a grid claims the width of
 constexpr int ScrollBarWidth = 24;
-constexpr int AroundAGrid = 48;   // pixels of a window's frame and margins
+constexpr int AroundAGrid = 56;   // pixels of a window's frame and margins
 constexpr int HairlineAlpha = 60; // of 255
 } // namespace
 
