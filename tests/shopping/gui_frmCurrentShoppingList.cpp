@@ -917,6 +917,18 @@ private Q_SLOTS:
         desk.TakeFiles();
     }
 
+    void DeletingNeitherSortsNorReloads()
+    {
+        // A reload would end the name at its quote.
+        ShoppingDesk desk({Line(u"Tea \"black\""_s, 10000), Line(u"Bread"_s, 12345), Line(u"Milk"_s, 30000)});
+        Show(Window);
+        ClickGridRow(3);
+        Click(Window, u"cmdDelete"_s);
+        QCOMPARE(Items(), (QStringList{u"Tea \"black\""_s, u"Bread"_s}));
+        QCOMPARE(TheGrid().Text(1, 0), u"Tea \"black\""_s);
+        desk.TakeFiles();
+    }
+
     void ADeletionAmongLinesBeyondMoneyEndsTheSelection()
     {
         ShoppingDesk desk(Lines);
@@ -1137,6 +1149,55 @@ private Q_SLOTS:
         QCOMPARE(EnabledOf(Offered), Offered);
     }
 
+    void SavingRunsUnderAHandler()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        TheDesk.AskFile = [](const FileQuestion &) -> QString { RaiseError(RuntimeError::DeviceError); };
+        Click(Window, u"cmdSave"_s);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(State.CurrentStoreFile, u"weekly.lst"_s);
+        desk.Answers = {Answer::Yes}; // a new list after a save that fails so
+        Click(Window, u"cmdNew"_s);
+        QCOMPARE(desk.TakeMessage(), SaveFirst);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QCOMPARE(int(State.NumberOfCurrentItems), 3);
+        QCOMPARE(desk.TakeFiles(), QStringList());
+        QVERIFY(!desk.Ended);
+    }
+
+    void ANewListRunsUnderAHandler()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        TheWindows.Unload(Settings);
+        TheWindows.Register(Settings, [] { return new Toy; }); // without the field that the name goes to
+        desk.Answers = {Answer::No};
+        Click(Window, u"cmdNew"_s);
+        QCOMPARE(desk.TakeMessage(), SaveFirst);
+        QCOMPARE(desk.TakeMessage(), UnknownError);
+        QVERIFY(!desk.Ended);
+        QCOMPARE(int(State.NumberOfCurrentItems), 0); // what was done up to then
+        QCOMPARE(desk.TakeFiles(), QStringList{u"stores/untitled.lst"_s});
+        QCOMPARE(TitleOf(), u"Current Shopping List - weekly.lst"_s);
+    }
+
+    void AScratchListThatCannotBeWrittenIsTold()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        desk.WriteFile(UntitledFile, "as it was");
+        MakeReadOnly(desk, UntitledFile);
+        desk.Answers = {Answer::No};
+        Click(Window, u"cmdNew"_s);
+        QCOMPARE(desk.TakeMessage(), SaveFirst);
+        QCOMPARE(desk.TakeMessage(), Told("Error 75: Path/File access error", u"Save Current Shopping List"_s));
+        QCOMPARE(desk.ReadFile(UntitledFile), QByteArray("as it was"));
+        QVERIFY(desk.ReadFile(ListFile).startsWith("3\r\n\"Bread\""));
+        QCOMPARE(ShownRows(), QStringList());
+        QCOMPARE(TitleOf(), u"Current Shopping List - UNTITLED.LST"_s);
+    }
+
     // ------------------------------------------------------------ the other buttons
 
     void TheListIsPrinted()
@@ -1204,17 +1265,59 @@ private Q_SLOTS:
         desk.TakeFiles();
     }
 
+    void TheLastSaveWins_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QStringList>("items");
+        QTest::newRow("of a deletion") << u"cmdDelete"_s << QStringList{u"Bread"_s, u"Tea"_s};
+        QTest::newRow("of a change") << u"cmdChange"_s << QStringList{u"Bread"_s, u"Milk"_s, u"Tea"_s};
+    }
     void TheLastSaveWins()
     {
+        QFETCH(QString, button);
+        QFETCH(QStringList, items);
         ShoppingDesk desk(Lines);
         Show(Window);
         desk.WriteFile(ListFile,
                        "1\r\n\"Eggs\"\r\n\"box\"\r\n1\r\n\"Shop\"\r\n1\r\n#FALSE#\r\n0\r\n1\r\n"); // another program
         ClickGridRow(2);
-        Click(Window, u"cmdDelete"_s);
-        QCOMPARE(Items(), (QStringList{u"Bread"_s, u"Tea"_s}));
+        Click(Window, button);
+        QCOMPARE(Items(), items);
         QVERIFY(!desk.ReadFile(ListFile).contains("Eggs"));
+        for (const QString &item : items)
+            QVERIFY(desk.ReadFile(ListFile).contains(u"\"%1\""_s.arg(item).toUtf8()));
         QCOMPARE(QDir(desk.Path(u"stores"_s)).entryList(QDir::Files).size(), 2); // nothing else is there
+        desk.TakeFiles();
+    }
+
+    void WithoutItsFolderAListIsKeptInMemory()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        QVERIFY(QDir(desk.Path(u"stores"_s)).removeRecursively());
+        ClickGridRow(2);
+        Click(Window, u"cmdDelete"_s);
+        QCOMPARE(desk.TakeMessage(), Told("Error 76: Path not found", u"Save Current Shopping List"_s));
+        QCOMPARE(Items(), (QStringList{u"Bread"_s, u"Tea"_s}));
+        QVERIFY(QDir(desk.Folder()).mkdir(u"stores"_s));
+        ClickGridRow(2);
+        Click(Window, u"cmdDelete"_s);
+        QVERIFY(desk.ReadFile(ListFile).startsWith("1\r\n\"Bread\""));
+        desk.TakeFiles();
+    }
+
+    void AFolderInTheListsPlaceIsTold()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        desk.RemoveFile(ListFile);
+        QVERIFY(QDir(desk.Path(u"stores"_s)).mkdir(u"weekly.lst"_s));
+        ClickGridRow(2);
+        Click(Window, u"cmdDelete"_s);
+        QCOMPARE(desk.TakeMessage(), Told("Error 75: Path/File access error", u"Save Current Shopping List"_s));
+        QCOMPARE(Items(), (QStringList{u"Bread"_s, u"Tea"_s}));
+        QVERIFY(QFileInfo(desk.Path(ListFile)).isDir());
+        desk.TakeFiles();
     }
 
     void AReadOnlyListStays()
@@ -1365,6 +1468,27 @@ private Q_SLOTS:
         AddCurrentItem({u"Milk"_s, u"each"_s, Count(10000), u"Shop"_s, true});
         TheDesk.PrintDocument = [](const PrintJob &) { RaiseError(RuntimeError::DeviceError); };
         QCOMPARE(ErrorOf([] { Choose(u"mnuShopperPrintCurrentList"_s); }), int(RuntimeError::DeviceError));
+    }
+
+    // The count of before stands, and every field of its lines is missed. No other list is touched by that.
+    void AMissingListCostsNoOther()
+    {
+        ShoppingDesk desk(Lines);
+        desk.StartProgram();
+        State.CurrentStoreFile = u"weekly.lst"_s;
+        InputCurrentShoppingList();
+        desk.FileAnswers = {u"/elsewhere/party.lst"_s}; // looked for among the household's lists
+        Choose(u"mnuShopperOpenStoreList"_s);
+        const QString title = u"Input Current Shopping List"_s;
+        QCOMPARE(desk.TakeMessage(), Told("Error 53: File not found", title));
+        for (int i = 0; i < 24; ++i) // the count, and 23 of the three times eight fields
+            QCOMPARE(desk.TakeMessage(), Told("Error 52: Bad file name or number", title));
+        QVERIFY(desk.TakeMessage().Text.contains(u'1')); // and one box for the rest
+        QCOMPARE(State.CurrentStoreFile, u"party.lst"_s);
+        QCOMPARE(Items(), (QStringList{{}, {}, {}}));
+        QVERIFY(!desk.Ended);
+        QVERIFY(desk.ReadFile(ListFile).startsWith("3\r\n\"Bread\""));
+        QVERIFY(desk.ReadFile(u"stores\\party.lst"_s).isNull());
     }
 
     void TheMenuPrintsTheListWithItsPage()
