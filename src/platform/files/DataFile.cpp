@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringDecoder>
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
@@ -29,6 +30,8 @@ bool IsLineEnd(char c)
 /// UTF-8; a value that is not is Windows-1252, so that old files load.
 QString Decoded(QByteArrayView bytes)
 {
+    if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return uchar(c) < 0x80; }))
+        return QString::fromLatin1(bytes); // ASCII needs no decoder, which would take most of the time of a load
     // Only the file's own byte-order mark is skipped, not one in a value.
     QStringDecoder utf8(QStringDecoder::Utf8,
                         QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
@@ -378,12 +381,15 @@ void OutputFile::Write(bool value)
 
 void OutputFile::Write(const QString &value)
 {
-    WriteLine(QLatin1Char('"') + value + QLatin1Char('"'));
+    QString quoted(value.size() + 2, QLatin1Char('"'));
+    std::copy(value.begin(), value.end(), quoted.begin() + 1);
+    WriteLine(quoted);
 }
 
 void OutputFile::WriteLine(const QString &value)
 {
-    const QByteArray line = value.toUtf8() + "\r\n";
+    QByteArray line = value.toUtf8();
+    line += "\r\n";
     if (m_collecting) {
         m_collected += line;
         return;
