@@ -1287,15 +1287,28 @@ private Q_SLOTS:
         desk.TakeFiles();
     }
 
-    void APriceThatIsNoNumberAddsNothing()
+    void APriceThatIsNoMoneyAddsNothing_data()
     {
-        MasterDesk desk;
+        QTest::addColumn<QString>("price");
+        QTest::newRow("no number") << u"abc"_s;
+        QTest::newRow("nothing") << QString();
+        QTest::newRow("a date") << u"12/24/97"_s;
+        QTest::newRow("more than money can be") << u"1e15"_s;
+        QTest::newRow("more than the bill can be") << u"922337203685477"_s;
+    }
+    void APriceThatIsNoMoneyAddsNothing()
+    {
+        QFETCH(QString, price);
+        MasterDesk desk(Usual, {LineOf(Soap, 1000)});
+        const QStringList before = Lines();
         OpenStore(u"Corner"_s);
         ClickItem(u"Milk"_s);
-        Type(Window, u"txtUnitPrice"_s, u"abc"_s);
+        Type(Window, u"txtUnitPrice"_s, price);
         DropInCart(u"Milk"_s);
         QCOMPARE(desk.TakeMessage(), UnknownError);
-        QCOMPARE(Lines(), QStringList());
+        QCOMPARE(Lines(), before);
+        QCOMPARE(int(Shopping.CurrentItemIndex), 0);
+        QVERIFY(!desk.TakeFiles().contains(u"stores/untitled.lst"_s));
         QCOMPARE(Selected(), u"N"_s);
         QVERIFY(IsEnabled(Window, CartName));
         Type(Window, u"txtUnitPrice"_s, u"3"_s); // the program goes on
