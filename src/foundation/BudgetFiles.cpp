@@ -9,22 +9,22 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// The order is not the record's.
-void CreditorFields(auto &file)
+void CreditorFields(auto &file, qint16 &count, OneBased<CreditorRecord> &creditors)
 {
-    const auto redim = [] { State.Creditors.Redim(State.NumberOfCreditors); };
-    file.List(State.NumberOfCreditors, redim, [&](int i) {
-        CreditorRecord &creditor = State.Creditors(i);
+    const auto redim = [&] { creditors.Redim(count); };
+    file.List(count, redim, [&](int i) {
+        CreditorRecord &creditor = creditors(i);
         file.ByText(creditor.CreditorDueDate);
         file.Value(creditor.CreditorName);
         file.ByText(creditor.CreditorAmount);
     });
 }
 
-void RegularFields(auto &file)
+void RegularFields(auto &file, qint16 &count, OneBased<RegularRecord> &regulars)
 {
-    const auto redim = [] { State.Regulars.Redim(State.NumberOfRegulars); };
-    file.List(State.NumberOfRegulars, redim, [&](int i) {
-        RegularRecord &regular = State.Regulars(i);
+    const auto redim = [&] { regulars.Redim(count); };
+    file.List(count, redim, [&](int i) {
+        RegularRecord &regular = regulars(i);
         file.Value(regular.RegularItem);
         file.ByText(regular.RegularAmount);
     });
@@ -94,12 +94,14 @@ void Save(const QString &title, const QString &name, const std::function<void(Li
 
 void InputCreditors()
 {
-    Load(u"Input Creditors"_s, u"creditor.txt"_s, CreditorFields<Loader>);
+    Load(u"Input Creditors"_s, u"creditor.txt"_s,
+         [](Loader &file) { CreditorFields(file, State.NumberOfCreditors, State.Creditors); });
 }
 
 void InputRegulars()
 {
-    Load(u"Input Regulars"_s, u"regulars.txt"_s, RegularFields<Loader>);
+    Load(u"Input Regulars"_s, u"regulars.txt"_s,
+         [](Loader &file) { RegularFields(file, State.NumberOfRegulars, State.Regulars); });
 }
 
 void InputPayPeriods()
@@ -114,12 +116,22 @@ void InputProjects()
 
 void SaveCreditors()
 {
-    Save(u"Save Creditors"_s, u"creditor.txt"_s, CreditorFields<ListWriter>);
+    WriteCreditors(State.NumberOfCreditors, State.Creditors);
+}
+
+void WriteCreditors(qint16 count, OneBased<CreditorRecord> creditors)
+{
+    Save(u"Save Creditors"_s, u"creditor.txt"_s, [&](ListWriter &file) { CreditorFields(file, count, creditors); });
 }
 
 void SaveRegulars()
 {
-    Save(u"Save Regulars"_s, u"regulars.txt"_s, RegularFields<ListWriter>);
+    WriteRegulars(State.NumberOfRegulars, State.Regulars);
+}
+
+void WriteRegulars(qint16 count, OneBased<RegularRecord> regulars)
+{
+    Save(u"Save Regulars"_s, u"regulars.txt"_s, [&](ListWriter &file) { RegularFields(file, count, regulars); });
 }
 
 void SavePayPeriods()

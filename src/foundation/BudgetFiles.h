@@ -7,6 +7,7 @@
 #pragma once
 
 #include "foundation/FileRoutine.h"
+#include "foundation/State.h"
 
 void InputCreditors();
 void InputRegulars();
@@ -17,6 +18,10 @@ void SaveCreditors();
 void SaveRegulars();
 void SavePayPeriods();
 void SaveProjects();
+
+/// The same files with entries that are not the household's yet: what is in memory stays as it is.
+void WriteCreditors(qint16 count, OneBased<CreditorRecord> creditors);
+void WriteRegulars(qint16 count, OneBased<RegularRecord> regulars);
 
 /// The nine settings: read by the start, whose handler runs the opening and each read, and written on the way out.
 void ReadEnvironmentSettings(const StatementRunner &run);
