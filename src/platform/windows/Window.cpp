@@ -62,6 +62,12 @@ void WindowBase::Refuse(const QString &text, QWidget *field, int helpContext)
         SelectWhole(refused);
 }
 
+void WindowBase::Replace(QLineEdit *field, const QString &text)
+{
+    field->setText(text);
+    SelectWhole(field);
+}
+
 void WindowBase::Close()
 {
     TheWindows.Unload(objectName());

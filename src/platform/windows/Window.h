@@ -30,6 +30,7 @@ struct EntryRule {
     const char *Text;
     QLineEdit *UiForm::*Focus = nullptr; ///< where the focus goes if not to the field itself
     int HelpContext = 0;                 ///< of the refusal's help button if not the window's
+    const char *Instead = nullptr;       ///< what the field shows after the refusal in place of the refused text
 };
 
 /// What needs no knowledge of the window's design.
@@ -59,6 +60,8 @@ protected:
     void ShowText(const QString &text, int helpContext = 0) const;
     /// Shows why an entry is refused and moves the focus to where it can be mended.
     void Refuse(const QString &text, QWidget *field, int helpContext = 0);
+    /// Puts another text into a field, selected, so that typing replaces it.
+    static void Replace(QLineEdit *field, const QString &text);
     /// Closes the window as its exit button does.
     void Close();
 
@@ -85,6 +88,8 @@ protected:
             if (rule.Holds((ui.*rule.Field)->text()))
                 continue;
             Refuse(QString::fromUtf8(rule.Text), ui.*(rule.Focus ? rule.Focus : rule.Field), rule.HelpContext);
+            if (rule.Instead)
+                Replace(ui.*rule.Field, QString::fromUtf8(rule.Instead));
             return false;
         }
         return true;
