@@ -20,6 +20,7 @@
 #include "foundation/Options.h"
 #include "foundation/WindowNames.h"
 #include "foundation/frmSplash.h"
+#include "guidance/frmGettingStarted.h"
 #include "income/frmAverageNetPercentage.h"
 #include "income/frmCalculateWages.h"
 #include "income/frmTotalHours.h"
@@ -78,6 +79,7 @@ void RegisterWindows()
     Register<frmMasterShoppingList>(WindowName::frmMasterShoppingList);
     Register<frmAddItem>(WindowName::frmAddItem);
     Register<frmCurrentShoppingList>(WindowName::frmCurrentShoppingList);
+    Register<frmGettingStarted>(WindowName::frmGettingStarted);
 }
 
 QString FirstWindow()

@@ -52,9 +52,9 @@ const QList<MenuEntry> &MainMenu()
         {{}, u"mnuHelp"_s, u"&Help"_s, Command::Submenu, {}, 0, {}},
         {u"mnuHelp"_s, u"mnuHelpSearch"_s, u"&Search for Help On..."_s, Command::Search, {}, 0, {}},
         {u"mnuHelp"_s, u"mnuGettingStarted"_s, u"&Getting Started"_s, Command::Submenu, {}, 0, {}},
-        {u"mnuGettingStarted"_s, u"mnuStartBudget"_s, u"Getting Started With Your &Budget"_s, Command::Open, frmGettingStarted, 0, {}},
-        {u"mnuGettingStarted"_s, u"mnuStartShopping"_s, u"Getting Started With &Shopping"_s, Command::Open, frmGettingStarted, 0, {}},
-        {u"mnuGettingStarted"_s, u"mnuStartPayingOffBills"_s, u"Getting Started With &Paying Off Bills"_s, Command::Open, frmGettingStarted, 0, {}},
+        {u"mnuGettingStarted"_s, u"mnuStartBudget"_s, u"Getting Started With Your &Budget"_s, Command::StartRoute, frmGettingStarted, 0, {}},
+        {u"mnuGettingStarted"_s, u"mnuStartShopping"_s, u"Getting Started With &Shopping"_s, Command::StartRoute, frmGettingStarted, 0, {}},
+        {u"mnuGettingStarted"_s, u"mnuStartPayingOffBills"_s, u"Getting Started With &Paying Off Bills"_s, Command::StartRoute, frmGettingStarted, 0, {}},
         {u"mnuHelp"_s, u"mnuHowDoI"_s, u"Ho&w Do I...?"_s, Command::Open, frmHowDoI, 0, {}},
         {u"mnuHelp"_s, u"mnuHelpAbout"_s, u"&About"_s, Command::Open, frmAbout, 0, {}},
     };

@@ -17,6 +17,7 @@ enum class Command {
     Tutor,
     WelcomeScreen,
     Search,
+    StartRoute, ///< opens the guide under the title of a route
     Submenu,
     Separator,
 };

@@ -298,6 +298,7 @@ void frmMain::Act(const MenuEntry &entry)
         break;
     case Command::Tutor: mnuTallymereTutor_Click(); break;
     case Command::Search: mnuHelpSearch_Click(); break;
+    case Command::StartRoute: StartRoute(entry); break;
     case Command::PrintCurrentList: mnuShopperPrintCurrentList_Click(entry); break;
     case Command::Submenu:
     case Command::Separator: break;
@@ -401,6 +402,13 @@ void frmMain::mnuHelpSearch_Click()
 {
     // Another letter case than State.HelpFile has, which is harmless: files are found in any.
     TheDesk.ShowHelp({TheDesk.ProgramFolder() + u"\\HELP\\budget help.hlp"_s, 0});
+}
+
+/// The guide's title chooses its route, and is the entry's caption.
+void frmMain::StartRoute(const MenuEntry &entry)
+{
+    TheWindows.Touch(entry.Window).setWindowTitle(QString(entry.Caption).remove(u'&'));
+    TheWindows.Show(entry.Window);
 }
 
 void frmMain::lstBudgetState_Click()

@@ -55,6 +55,7 @@ private:
     void FlipOption(const QString &entryName, const QString &option, const QString &title, const QString &on,
                     const QString &off);
     void mnuHelpSearch_Click();
+    void StartRoute(const MenuEntry &entry);
     void lstBudgetState_Click();
     void cmdGettingStarted_Click();
     void Timer1_Timer();

@@ -30,5 +30,5 @@ QColor QBColor(int index, const QColor &background, const QColor &text);
 
 /// Gives the panel the rounded accent background and the text colour that goes with it; labels in it inherit that,
 /// buttons and lists keep their own colours. Follows the desktop's colours.
-/// For the title panels of splash, welcome and main window only.
+/// For the title panels of splash, welcome, guide and main window only.
 void StyleTitlePanel(QWidget *panel);
