@@ -33,6 +33,7 @@ QJsonValue RunHoursCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunAverageNetCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunPayOffCase(const QJsonObject &input, RecordingDesk &desk);
 QJsonValue RunShoppingCase(const QJsonObject &input, RecordingDesk &desk);
+QJsonValue RunSetupCase(const QJsonObject &input, RecordingDesk &desk);
 
 // How results are told
 QJsonValue Told(Currency amount);

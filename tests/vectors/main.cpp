@@ -36,6 +36,7 @@ const QMap<QString, RunCase> Areas{
     {QStringLiteral("hours"), RunHoursCase},
     {QStringLiteral("averagenet"), RunAverageNetCase},
     {QStringLiteral("shopping"), RunShoppingCase},
+    {QStringLiteral("setup"), RunSetupCase},
 };
 
 /// The toolkit's plugin without a display tells what it cannot do; nobody needs to know.
