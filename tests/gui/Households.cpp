@@ -9,6 +9,8 @@
 
 #include <QApplication>
 #include <QDirIterator>
+#include <QPushButton>
+#include <QStackedWidget>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -48,6 +50,14 @@ const QHash<QString, QList<QPair<QString, QString>>> &FirstEntries()
           {u"txtSecondCheckGross"_s, u"$3,412.50"_s},
           {u"txtSecondCheckNet"_s, u"$2,627.63"_s}}},
         {u"frmCalculateWages"_s, {{u"txtHourlyPayRate"_s, u"$30.00"_s}}},
+        {u"frmGettingStarted.pnlStartBudget1"_s, {{u"txtNumberOfIncomes"_s, u"2"_s}}},
+        {u"frmGettingStarted.pnlStartBudget2"_s, {{u"txtAverageTakeHomePay"_s, u"$1,240.00"_s}}},
+        {u"frmGettingStarted.pnlStartBudget5"_s, {{u"txtNumberOfCreditors"_s, u"2"_s}}},
+        {u"frmGettingStarted.pnlStartBudget6"_s,
+         {{u"txtCreditorDueDate"_s, u"15"_s}, {u"txtCreditorAmount"_s, u"$1,450.00"_s}, {u"txtCreditor"_s, u"Rent"_s}}},
+        {u"frmGettingStarted.pnlStartBudget7"_s, {{u"txtNumberOfRegularItems"_s, u"2"_s}}},
+        {u"frmGettingStarted.pnlStartBudget8"_s,
+         {{u"txtRegularItemAmount"_s, u"$310.00"_s}, {u"txtRegularItem"_s, u"Groceries"_s}}},
         {u"frmInterestRateCalculator"_s,
          {{u"txtBorrowedAmount"_s, u"$200,000.00"_s},
           {u"txtMonthlyPayments"_s, u"$1,199.10"_s},
@@ -72,16 +82,51 @@ struct Panels {
     std::function<void(const QString &panel)> BringToFront;
 };
 
-const QHash<QString, Panels> &FurtherPanels()
+void FillIn(const QString &view)
 {
-    static const QHash<QString, Panels> panels{};
-    return panels;
+    for (const auto &[field, text] : FirstEntries().value(view))
+        Type(WindowOf(view), field, text);
 }
 
-void FillIn(const QString &window)
+/// Chooses the guided route of the panel and goes along, entering what is asked, until the panel is in front.
+void WalkGuideTo(const QString &panel)
 {
-    for (const auto &[field, text] : FirstEntries().value(window))
-        Type(window, field, text);
+    const QString window = u"frmGettingStarted"_s;
+    const auto buttons = [&] { // of the panel in front: the one that goes on, the one that leaves
+        return Find<QStackedWidget>(window, u"stkPanels"_s).currentWidget()->findChildren<QPushButton *>();
+    };
+    Click(window, buttons().last()->objectName());
+    Choose(panel.startsWith(u"pnlStartBudget"_s)     ? u"mnuStartBudget"_s
+           : panel.startsWith(u"pnlStartShopping"_s) ? u"mnuStartShopping"_s
+                                                     : u"mnuStartPayingOffBills"_s);
+    while (true) {
+        const QString front = buttons().first()->parentWidget()->objectName();
+        FillIn(window + u'.' + front);
+        if (front == panel)
+            return;
+        Click(window, buttons().first()->objectName());
+        if (IsShown(u"frmMasterShoppingList"_s))
+            CloseByFrame(u"frmMasterShoppingList"_s);
+    }
+}
+
+QStringList Numbered(const QString &name, int first, int last)
+{
+    QStringList names;
+    for (int i = first; i <= last; ++i)
+        names += name + QString::number(i);
+    return names;
+}
+
+const QHash<QString, Panels> &FurtherPanels()
+{
+    static const QHash<QString, Panels> panels{
+        {u"frmGettingStarted"_s,
+         {Numbered(u"pnlStartBudget"_s, 2, 12) + Numbered(u"pnlStartShopping"_s, 1, 3) +
+              Numbered(u"pnlStartPayOff"_s, 1, 2),
+          WalkGuideTo}},
+    };
+    return panels;
 }
 
 void ClickFirstLine(const QString &window, const QString &name)
@@ -211,7 +256,10 @@ bool ShowAtWork(const QString &view, Household household)
              .Tip = u"The name that this debt has in the plan"_s,
              .Prompt = u"In the box below enter the name of the creditor or bill that would be Creditor # 1"_s,
              .Answer = u"Department Store"_s});
-    Show(window);
+    if (window == u"frmGettingStarted"_s) // a guide without a route is seen by nobody
+        Choose(u"mnuStartBudget"_s);
+    else
+        Show(window);
     if (window == u"frmPayOff"_s && household == Household::Filled)
         PlanToPayOff();
     for (const QString &clock : {u"frmMain"_s, u"frmSetCurrentPayPeriod"_s})

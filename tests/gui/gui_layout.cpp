@@ -362,6 +362,9 @@ private Q_SLOTS:
             {u"frmCurrentShoppingList"_s, {u"txtUnitPrice"_s, u"txtCouponValue"_s}},
             {u"frmEnvironmentSettings"_s, {u"txtPaycheckAmount"_s}},
             {u"frmExtras"_s, {u"txtExtraItemAmount"_s}},
+            {u"frmGettingStarted.pnlStartBudget2"_s, {u"txtAverageTakeHomePay"_s}},
+            {u"frmGettingStarted.pnlStartBudget6"_s, {u"txtCreditorAmount"_s}},
+            {u"frmGettingStarted.pnlStartBudget8"_s, {u"txtRegularItemAmount"_s}},
             {u"frmInterestRateCalculator"_s, {u"txtBorrowedAmount"_s, u"txtMonthlyPayments"_s}},
             {u"frmPaymentCalculator"_s, {u"txtBorrowedAmount"_s}},
             {u"frmProjects"_s, {u"txtProjectAmount"_s, u"txtProjectCompletionDate"_s}},
@@ -426,6 +429,7 @@ private Q_SLOTS:
         const QStringList views = Views();
         TheWindows.Reset();
         QVERIFY(views.contains(u"frmMain"_s));
+        QVERIFY(views.contains(u"frmGettingStarted.pnlStartPayOff2"_s));
         for (const QString &view : views)
             for (const bool filled : {false, true})
                 for (const bool dark : {false, true})
