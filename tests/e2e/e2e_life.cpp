@@ -522,6 +522,29 @@ private Q_SLOTS:
         QVERIFY(!QGuiApplication::focusWindow());
     }
 
+    void AWindowThatIsOnlyLookedAtIsEnteredWhereTheUserAskedForIt()
+    {
+        ToyBox toys;
+        ShowAtRest("C", Below);
+        ShowAtRest("A", Left);
+        Show("T");
+        toys["T"].setGeometry(QRect(QPoint(900, 600), QSize(200, 150)));
+        QTRY_VERIFY(toys["T"].windowHandle()->isExposed());
+        Linger();
+        TakeLog();
+        TheWindows.ShowAndActivate("T");
+        Unload("A");
+        QTRY_COMPARE(QApplication::activeWindow(), &toys["T"]);
+        Linger();
+        QCOMPARE(TakeLog(), Goes("A") + Comes("T") + Closes("A"));
+        QVERIFY(TypeText("3"));
+        QTRY_COMPARE(toys["T"].First->text(), "3");
+        QVERIFY(ClickBody(toys["C"]));
+        QTRY_COMPARE(Active(), "C");
+        Linger();
+        QCOMPARE(TakeLog(), Goes("T") + Comes("C"));
+    }
+
     void TheLastWindowsFrameEndsTheProgram()
     {
         ToyBox toys;

@@ -952,6 +952,67 @@ private Q_SLOTS:
         QCOMPARE(QApplication::activeWindow(), &toys["A"]);
     }
 
+    void ItBecomesTheActiveOneWhereTheUserAskedForIt_data()
+    {
+        QTest::addColumn<bool>("visible");
+        QTest::newRow("for the first time") << false;
+        QTest::newRow("it stands there already") << true;
+    }
+    void ItBecomesTheActiveOneWhereTheUserAskedForIt()
+    {
+        QFETCH(bool, visible);
+        ToyBox toys;
+        Show("C");
+        Show("A");
+        TheWindows.Touch("T");
+        if (visible)
+            Show("T");
+        TakeLog();
+        TheWindows.ShowAndActivate("T");
+        QCOMPARE(TakeLog(), Goes("A") + Comes("T"));
+        Settle();
+        QCOMPARE(QApplication::activeWindow(), &toys["T"]);
+        Unload("A"); // the list that the user asked by: its end leads nowhere
+        Settle();
+        QCOMPARE(TakeLog(), Closes("A"));
+        QCOMPARE(Active(), "T");
+        UserGoesTo(toys["C"]);
+        QCOMPARE(TakeLog(), Goes("T") + Comes("C"));
+        Show("T"); // by itself it takes nothing again
+        Settle();
+        UserGoesTo(toys["T"]);
+        QCOMPARE(TakeLog(), QStringList());
+        QCOMPARE(Active(), "C");
+    }
+
+    void OneThatTheUserAskedForGivesBackWhenItCloses()
+    {
+        ToyBox toys;
+        Show("A");
+        TheWindows.ShowAndActivate("T");
+        TakeLog();
+        toys["T"].close();
+        QCOMPARE(TakeLog(), (QStringList{"T QueryUnload by frame", "T Unload"} + Comes("A")));
+        Show("T"); // a new one asks for nothing
+        QCOMPARE(TakeLog(), QStringList{"T Load"});
+        QCOMPARE(Active(), "A");
+    }
+
+    void OneThatComesBackFromTheTaskBarTakesNoActivation()
+    {
+        ToyBox toys;
+        Show("A");
+        Show("T");
+        toys["T"].showMinimized();
+        Settle();
+        TakeLog();
+        Show("T");
+        Settle();
+        QVERIFY(!toys["T"].isMinimized());
+        QCOMPARE(TakeLog(), QStringList());
+        QCOMPARE(QApplication::activeWindow(), &toys["A"]);
+    }
+
     // The focus inside a window
 
     void TheFocusMovesWithinTheActiveWindow()

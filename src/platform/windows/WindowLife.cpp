@@ -62,7 +62,14 @@ void WindowRegister::Show(const QString &name)
 {
     Form &form = Touch(name);
     if (Loaded(name) == &form) // its Load may have ended it
-        Present(form);
+        Present(form, form.TakesActivation());
+}
+
+void WindowRegister::ShowAndActivate(const QString &name)
+{
+    Form &form = Touch(name);
+    if (Loaded(name) == &form)
+        Present(form, true);
 }
 
 void WindowRegister::ShowModal(const QString &name)
@@ -72,7 +79,7 @@ void WindowRegister::ShowModal(const QString &name)
         return;
     if (form.isVisible()) { // it cannot begin to block the others now, and who blocks them already is not waited for
                             // twice
-        Present(form);
+        Present(form, form.TakesActivation());
         return;
     }
     // A dialog of the active window: no click on the blocked windows can cover it.
@@ -83,7 +90,7 @@ void WindowRegister::ShowModal(const QString &name)
         form.windowHandle()->setTransientParent(caller->windowHandle());
     QEventLoop loop;
     m_modals.append({&form, &loop});
-    Present(form);
+    Present(form, form.TakesActivation());
     if (Loaded(name) == &form && form.isVisible()) {
         // Inside, the user's moves count again.
         const QScopedValueRollback noTransition(m_transition, 0);
@@ -100,23 +107,22 @@ void WindowRegister::ShowModal(const QString &name)
         EndWhenLastWindowIsGone();
 }
 
-void WindowRegister::Present(Form &form)
+void WindowRegister::Present(Form &form, bool takesActivation)
 {
     const Busy transition(*this, m_transition);
+    form.setAttribute(Qt::WA_ShowWithoutActivating, !takesActivation);
+    // A toolkit that activates it all the same is overruled.
+    if (!takesActivation && m_active && m_active != &form && (!form.isVisible() || form.isMinimized())) {
+        m_expected = m_active;
+        m_expectedUntil.setRemainingTime(ActivationTime);
+    }
     if (form.isMinimized())
         form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
-    if (!form.TakesActivation()) {
-        form.setAttribute(Qt::WA_ShowWithoutActivating);
-        if (m_active && !form.isVisible()) { // a toolkit that activates it all the same is overruled
-            m_expected = m_active;
-            m_expectedUntil.setRemainingTime(ActivationTime);
-        }
-    }
     if (!form.isVisible())
         PlaceBeside(form, Front());
     form.show();
     form.raise();
-    if (form.TakesActivation())
+    if (takesActivation)
         MakeActive(&form, false);
 }
 

@@ -48,6 +48,8 @@ public:
 
     /// Shows a window beside the others; one that is visible comes to the front.
     void Show(const QString &name);
+    /// The same for a window that takes no activation by itself: the user has asked for it and works in it now.
+    void ShowAndActivate(const QString &name);
     /// Shows a window and returns when it is closed or hidden; by then its caller is active again. One that is visible
     /// comes to the front as it is, and this returns at once.
     void ShowModal(const QString &name);
@@ -89,7 +91,7 @@ private:
     static constexpr int ActivationTime = 700; // milliseconds
 
     static Form *FormOf(QWidget *widget);
-    void Present(Form &form);
+    void Present(Form &form, bool takesActivation);
     void MakeActive(Form *form, bool byUser);
     void Leave(Form *form);
     void ActivatePrevious();
