@@ -44,11 +44,24 @@ constexpr IconRow ToolbarIcons[] = {
 };
 
 constexpr IconRow OtherIcons[] = {
-    {"exit", true, true},       {"help", true, true},
-    {"tutor", true, true},      {"getting-started", true, true},
+    {"exit", true, true},
+    {"help", true, true},
+    {"tutor", true, true},
+    {"getting-started", true, true},
     {"tallymere", false, true}, // the program's own: a filled tile
-    {"cart", true, true},       {"cart-taking", true, true},
+    {"cart", true, true},
+    {"cart-taking", true, true},
     {"shelf-item", true, true},
+    {"creditors", true, true},
+    {"regular-items", true, true},
+    {"extra-items", true, true},
+    {"math-calculator", true, true},
+    {"open-store-list", true, true},
+    {"print-current-list", true, true},
+    {"search-for-help", true, true},
+    {"tip-of-the-day", true, true},
+    {"how-do-i", true, true},
+    {"freeze", true, true},
 };
 
 QList<IconRow> AllIcons()
