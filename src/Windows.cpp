@@ -18,9 +18,13 @@
 #include "debt/frmSavings.h"
 #include "debt/frmSelectMonth.h"
 #include "foundation/Options.h"
+#include "foundation/Tutor.h"
 #include "foundation/WindowNames.h"
 #include "foundation/frmSplash.h"
 #include "guidance/frmGettingStarted.h"
+#include "guidance/frmHowDoI.h"
+#include "guidance/frmTallymereTutor.h"
+#include "guidance/frmTip.h"
 #include "income/frmAverageNetPercentage.h"
 #include "income/frmCalculateWages.h"
 #include "income/frmTotalHours.h"
@@ -80,6 +84,11 @@ void RegisterWindows()
     Register<frmAddItem>(WindowName::frmAddItem);
     Register<frmCurrentShoppingList>(WindowName::frmCurrentShoppingList);
     Register<frmGettingStarted>(WindowName::frmGettingStarted);
+    Register<frmTallymereTutor>(WindowName::frmTallymereTutor);
+    Register<frmHowDoI>(WindowName::frmHowDoI);
+    Register<frmTip>(WindowName::frmTip);
+    // Not the tutor's window itself listens: the user may have turned it off, and some pages are shown all the same.
+    QObject::connect(&TheTutorRequests, &TutorRequests::PageWanted, &TheWindows, ShowTutorPage);
 }
 
 QString FirstWindow()

@@ -1,5 +1,5 @@
 // The door to the tutor for windows of lower floors: whoever wants one of its pages emits PageWanted, and the tutor's
-// window, while it exists, shows the page.
+// window, loaded where it is not, shows the page without taking the user from his work.
 #pragma once
 
 #include <QObject>

@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 
 namespace WindowField {
 /// The day above the question for the pay period.
@@ -27,5 +28,12 @@ inline QLineEdit &StoreFile()
 inline QLineEdit &SalesTax()
 {
     return TheWindows.ControlOf<QLineEdit>(WindowName::frmEnvironmentSettings, QStringLiteral("txtSalesTax"));
+}
+/// The timer that leafs through the tutor's pages. Null before the main window is loaded: touching that one would start
+/// the program behind the user's back.
+inline QTimer *TutorTimer()
+{
+    const Form *main = TheWindows.Loaded(WindowName::frmMain);
+    return main ? main->findChild<QTimer *>(QStringLiteral("tmrAutoTutor")) : nullptr;
 }
 } // namespace WindowField

@@ -201,10 +201,20 @@ void frmMain::Load()
     Entry(u"mnuFinanceMathCalculator"_s)->setEnabled(!State.MathCalculatorMissing);
     TheWindows.Unload(WindowName::frmSplash);
     TheDesk.Hourglass(false);
-    // Directly left of the tutor's window, which this loads whether or not the tutor is on.
-    if (TheWindows.Knows(WindowName::frmTallymereTutor))
-        move(TheWindows.Touch(WindowName::frmTallymereTutor).x() - width(), y());
+    StandLeftOfTheTutor();
     Timer1.start();
+}
+
+/// Directly left of the tutor's window, which this loads whether or not the tutor is on; on a small screen as far left
+/// as it goes, since a window whose left side is not to be seen can't be worked with.
+void frmMain::StandLeftOfTheTutor()
+{
+    if (!TheWindows.Knows(WindowName::frmTallymereTutor))
+        return;
+    const QRect room = screen()->availableGeometry();
+    const int left = TheWindows.Touch(WindowName::frmTallymereTutor).x() - width();
+    const int spare = room.height() - TitleBarHeight - height();
+    move(qMax(room.left(), left), room.top() + qMax(0, spare / 2));
 }
 
 void frmMain::Activate()

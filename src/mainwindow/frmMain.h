@@ -36,6 +36,7 @@ private:
     void BuildToolbar();
     void BuildStatusBar();
     void ReserveSpace();
+    void StandLeftOfTheTutor();
     void ReadOptions();
     void FillBudgetState();
     void ShowCurrentList();

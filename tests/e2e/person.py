@@ -85,6 +85,14 @@ class Person:
         self.process = subprocess.Popen([os.path.join(self.house, "Tallymere")], env=environment)
         self.until(lambda: os.path.exists(where), "the program's locator does not answer")
 
+    def pass_splash(self):
+        """The splash and the tip of the day, which open the way to the question for the pay period."""
+        self.see("frmSplash")
+        self.press("Return")
+        self.see("frmTip")
+        self.press("Return")
+        self.see("frmSetCurrentPayPeriod")
+
     def look(self):
         """What stands on the screen, as the locator tells it. Nothing, once the program has ended."""
         answer = b""

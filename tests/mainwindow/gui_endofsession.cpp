@@ -84,7 +84,7 @@ private:
     QString m_calculator;
 };
 
-const QString ToTheQuestion = u"frmSplash.cmdContinue,frmSetCurrentPayPeriod"_s;
+const QString ToTheQuestion = u"frmSplash.cmdContinue,frmTip.cmdOK,frmSetCurrentPayPeriod"_s;
 const QString ToTheMainWindow = ToTheQuestion + u".cmdExit,frmMain"_s;
 
 } // namespace
@@ -134,10 +134,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QByteArray>("settings");
         QTest::newRow("the splash") << u"frmSplash"_s << Edited;
+        QTest::newRow("the tip before it") << u"frmSplash.cmdContinue,frmTip"_s << Edited;
         QTest::newRow("half of the settings is read")
-            << u"frmSplash.cmdContinue,messageBox"_s << QByteArray("26\r\n1000.00\r\n");
+            << u"frmSplash.cmdContinue,frmTip.cmdOK,messageBox"_s << QByteArray("26\r\n1000.00\r\n");
         QTest::newRow("the rest of them was given up")
-            << u"frmSplash.cmdContinue,messageBox.OK,frmSetCurrentPayPeriod"_s << QByteArray("26\r\n1000.00\r\n");
+            << u"frmSplash.cmdContinue,frmTip.cmdOK,messageBox.OK,frmSetCurrentPayPeriod"_s
+            << QByteArray("26\r\n1000.00\r\n");
     }
     void BeforeTheMainWindowStandsNothingIsSaved()
     {

@@ -95,6 +95,20 @@ private:
     }
 
 private Q_SLOTS:
+    void ItsRandomNumbersLieFrom0ToBelow1AndDiffer()
+    {
+        const Desk before = TheDesk;
+        InstallRealDesk(AppTitle, m_folder.filePath(u"printed"_s));
+        QSet<double> drawn;
+        for (int i = 0; i < 100; ++i) {
+            const double random = TheDesk.Random();
+            QVERIFY(random >= 0 && random < 1);
+            drawn += random;
+        }
+        TheDesk = before;
+        QVERIFY(drawn.size() > 90);
+    }
+
     void initTestCase()
     {
         QVERIFY(m_folder.isValid());

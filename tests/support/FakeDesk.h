@@ -50,6 +50,8 @@ private:
             left += QStringLiteral("the end of the program");
         if (Unscripted)
             left += QStringLiteral("a question without a scripted answer");
+        if (!RandomNumbers.isEmpty())
+            left += QStringLiteral("a random number that was not drawn");
         if (!Answers.isEmpty() || !FileAnswers.isEmpty() || !PrinterAnswers.isEmpty() || !FontAnswers.isEmpty())
             left += QStringLiteral("a scripted answer without its question");
         return left;

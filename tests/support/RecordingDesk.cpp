@@ -83,6 +83,7 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
     TheDesk.ShowHelp = [this](const HelpQuestion &question) { HelpQuestions += question; };
     TheDesk.PrintDocument = [this](const PrintJob &job) { Printed += job; };
     TheDesk.Now = [this] { return Now; };
+    TheDesk.Random = [this] { return RandomNumbers.isEmpty() ? 0 : RandomNumbers.takeFirst(); };
     TheDesk.ProgramFolder = [this] { return Folder(); };
     TheDesk.GetSetting = [this](const QString &key, const QString &fallback) {
         return Options.value(key.toLower(), fallback);

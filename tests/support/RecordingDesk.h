@@ -56,6 +56,7 @@ public:
     QStringList FileAnswers;                     ///< for file dialogs, in order
     QList<bool> PrinterAnswers;                  ///< for printer dialogs, in order: whether one is chosen
     QList<std::optional<PrintFont>> FontAnswers; ///< for font dialogs, in order; nothing: cancelled
+    QList<double> RandomNumbers;                 ///< from 0 to below 1, drawn in order; 0 when there are no more
     QMap<QString, QString> Options;              ///< as the store holds them, keys in lower case
     QSet<QString> SavedOptions;                  ///< keys of those that the program set
     QDateTime Now{QDate(2004, 1, 5), QTime(9, 30)};

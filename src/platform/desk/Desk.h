@@ -52,6 +52,7 @@ struct Desk {
     /// The font dialog, which opens on a font of its own. Nothing: cancelled.
     std::function<std::optional<PrintFont>()> AskFont;
     std::function<QDateTime()> Now;
+    std::function<double()> Random;         ///< a number from 0 to below 1
     std::function<QString()> ProgramFolder; ///< folder of the executable, where the household lies
     std::function<QString(const QString &key, const QString &fallback)> GetSetting; ///< section "Options"
     std::function<void(const QString &key, const QString &value)> SaveSetting;

@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QTimer>
 #include <cstdlib>
 #include <memory>
@@ -230,6 +231,7 @@ void InstallRealDesk(const QString &programTitle, const QString &printedFolder)
         return font;
     };
     TheDesk.Now = [] { return QDateTime::currentDateTime(); };
+    TheDesk.Random = [] { return QRandomGenerator::global()->generateDouble(); };
     TheDesk.ProgramFolder = [] { return QCoreApplication::applicationDirPath(); };
     TheDesk.GetSetting = GetSetting;
     TheDesk.SaveSetting = SaveSetting;

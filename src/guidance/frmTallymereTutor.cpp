@@ -1,0 +1,103 @@
+#include "guidance/frmTallymereTutor.h"
+
+#include "foundation/State.h"
+#include "foundation/WindowFields.h"
+#include "guidance/TutorPages.h"
+#include "platform/controls/Icons.h"
+
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+const QString WidestLine = u"Use the browse (<< and >>) buttons at the top to move "_s; // of each page's footer
+constexpr int Lines = 14;          // of a page that are seen without scrolling
+constexpr int LeastLines = 5;      // the user may make the window as low as that
+constexpr int TitleBarHeight = 40; // pixels; a guess, before the window manager has put its frame around the window
+} // namespace
+
+frmTallymereTutor::frmTallymereTutor()
+{
+    // No minimizing: the timer would bring it back with the next page.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
+    for (int page = 1; page <= MostTutorPages; ++page) {
+        const TutorPageEntry &entry = TutorPage(page);
+        findChild<QWidget *>(entry.Panel)->findChild<Picture *>()->Show(ThemedIcon(entry.Icon));
+    }
+    OnClick(ui.imgTallymereTutor, [this] { imgTallymereTutor_Click(); });
+    OnEnter(ui.imgTallymereTutor, [this] { ui.imgTallymereTutor->click(); });
+    connect(this, &Form::Appears, this, &frmTallymereTutor::MoveToTheCorner);
+}
+
+void frmTallymereTutor::Load()
+{
+    ShowTeacher(Teacher::Pointing);
+    GiveThePageItsRoom();
+    MoveToTheCorner();
+}
+
+/// Room for the lines of a page as they stand, so that the window keeps its size when the page turns.
+void frmTallymereTutor::GiveThePageItsRoom()
+{
+    ensurePolished();
+    QTextEdit &page = *ui.rtbInstructions;
+    const QFontMetrics letters = page.fontMetrics();
+    const int edge = 2 * (page.frameWidth() + int(page.document()->documentMargin()));
+    const int bar = page.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &page);
+    page.setMinimumSize(letters.horizontalAdvance(WidestLine) + edge + bar, LeastLines * letters.lineSpacing() + edge);
+    const int height = sizeHint().height() - page.sizeHint().height() + Lines * letters.lineSpacing() + edge;
+    resize(minimumSizeHint().width(), qMin(height, screen()->availableSize().height() - TitleBarHeight));
+}
+
+void frmTallymereTutor::TurnTo(int page)
+{
+    ui.stkTopics->setCurrentWidget(findChild<QWidget *>(TutorPage(page).Panel));
+    ui.rtbInstructions->setPlainText(State.TutorInstructions(page));
+    ui.pnlInstructions->raise();
+    ui.pnlTallymereTutor->raise();
+}
+
+void frmTallymereTutor::ShowTeacher(Teacher pose)
+{
+    ui.imgTallymereTutor->setIcon(TeacherPicture(pose));
+}
+
+void frmTallymereTutor::imgTallymereTutor_Click()
+{
+    TutorFrozen = TutorFrozen == 0 ? 1 : 0;
+    ShowTeacher(TutorFrozen == 1 ? Teacher::Frozen : Teacher::Pointing);
+    if (QTimer *timer = WindowField::TutorTimer()) {
+        if (TutorFrozen == 1)
+            timer->stop();
+        else
+            timer->start(); // also where the option is off or a window had stopped it: the user has asked for more
+    }
+}
+
+/// The frame is the window manager's and comes with the showing; that of the window in front tells how thick it will
+/// be.
+void frmTallymereTutor::MoveToTheCorner()
+{
+    const Form *front = TheWindows.Front();
+    const QSize frame = front ? front->frameGeometry().size() - front->geometry().size() : QSize(0, 0);
+    const QRect room = screen()->availableGeometry();
+    const QPoint corner(room.left() + room.width() - width() - frame.width(),
+                        room.top() + room.height() - height() - frame.height());
+    move(corner);
+    if (windowHandle())
+        windowHandle()->setFramePosition(corner);
+}
+
+frmTallymereTutor &TheTutor()
+{
+    return static_cast<frmTallymereTutor &>(TheWindows.Touch(WindowName::frmTallymereTutor));
+}
+
+void ShowTutorPage(int page)
+{
+    TheTutor().TurnTo(page);
+    TheWindows.Show(WindowName::frmTallymereTutor);
+}
