@@ -16,27 +16,26 @@ static void KeepPictures()
     Q_INIT_RESOURCE(pictures);
 }
 
-namespace {
-
-constexpr int DrawnSide = 320; // pixels, sharp at more than double scale
-
-QPixmap Drawing(const QString &name)
+QImage TeacherDrawing(Teacher pose)
 {
+    constexpr int side = 320; // pixels
     KeepPictures();
-    QPixmap picture(DrawnSide, DrawnSide);
+    QImage picture(side, side, QImage::Format_RGB32);
     QPainter painter(&picture);
-    QSvgRenderer(u":/pictures/%1.svg"_s.arg(name)).render(&painter);
+    QSvgRenderer(pose == Teacher::Frozen ? u":/pictures/freeze.svg"_s : u":/pictures/teacher.svg"_s).render(&painter);
     return picture;
 }
 
-} // namespace
+QString TeacherFile(Teacher pose)
+{
+    return pose == Teacher::Frozen ? u"freeze.bmp"_s : u"teacher.bmp"_s;
+}
 
 QIcon TeacherPicture(Teacher pose)
 {
-    const QString name = pose == Teacher::Frozen ? u"freeze"_s : u"teacher"_s;
     // Not by State.ApplicationPath: the welcome shows the tutor before there is one.
-    QImageReader file(ExistingPath(TheDesk.ProgramFolder() + u"\\help\\%1.bmp"_s.arg(name)));
+    QImageReader file(ExistingPath(TheDesk.ProgramFolder() + u"\\help\\"_s + TeacherFile(pose)));
     file.setDecideFormatFromContent(true);
     const QImage picture = file.read();
-    return QIcon(picture.isNull() ? Drawing(name) : QPixmap::fromImage(picture));
+    return QIcon(QPixmap::fromImage(picture.isNull() ? TeacherDrawing(pose) : picture));
 }

@@ -12,6 +12,7 @@ public:
     bool ClosesOnEscape() const override { return true; }
 
 private:
+    void GiveTheTipItsRoom();
     bool LoadTips(const QString &path);
     void ChooseTip();
     void DisplayCurrentTip();
