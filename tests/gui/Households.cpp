@@ -5,6 +5,8 @@
 #include "debt/PayOffPlan.h"
 #include "debt/frmInput.h"
 #include "foundation/Calendar.h"
+#include "foundation/Tutor.h"
+#include "guidance/TutorPages.h"
 #include "platform/controls/DropDownList.h"
 
 #include <QApplication>
@@ -118,6 +120,15 @@ QStringList Numbered(const QString &name, int first, int last)
     return names;
 }
 
+/// The tutor's topics after the first one.
+QStringList TopicPanels()
+{
+    QStringList panels;
+    for (int page = 2; page <= 24; ++page)
+        panels += TutorPage(page).Panel;
+    return panels;
+}
+
 const QHash<QString, Panels> &FurtherPanels()
 {
     static const QHash<QString, Panels> panels{
@@ -125,6 +136,10 @@ const QHash<QString, Panels> &FurtherPanels()
          {Numbered(u"pnlStartBudget"_s, 2, 12) + Numbered(u"pnlStartShopping"_s, 1, 3) +
               Numbered(u"pnlStartPayOff"_s, 1, 2),
           WalkGuideTo}},
+        {u"frmHowDoI"_s, {{u"SSPanel2"_s}, [](const QString &) { Click(u"frmHowDoI"_s, u"cmdMore"_s); }}},
+        {u"frmTallymereTutor"_s,
+         {TopicPanels(),
+          [](const QString &panel) { Q_EMIT TheTutorRequests.PageWanted(2 + int(TopicPanels().indexOf(panel))); }}},
     };
     return panels;
 }
@@ -260,6 +275,8 @@ bool ShowAtWork(const QString &view, Household household)
         Choose(u"mnuStartBudget"_s);
     else
         Show(window);
+    if (window == u"frmTallymereTutor"_s) // it comes with a page
+        Q_EMIT TheTutorRequests.PageWanted(1);
     if (window == u"frmPayOff"_s && household == Household::Filled)
         PlanToPayOff();
     for (const QString &clock : {u"frmMain"_s, u"frmSetCurrentPayPeriod"_s})
