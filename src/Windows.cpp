@@ -25,6 +25,7 @@
 #include "guidance/frmHowDoI.h"
 #include "guidance/frmTallymereTutor.h"
 #include "guidance/frmTip.h"
+#include "guidance/frmWelcome.h"
 #include "income/frmAverageNetPercentage.h"
 #include "income/frmCalculateWages.h"
 #include "income/frmTotalHours.h"
@@ -53,6 +54,7 @@ void Register(const QString &name)
 void RegisterWindows()
 {
     Register<frmSplash>(WindowName::frmSplash);
+    Register<frmWelcome>(WindowName::frmWelcome);
     Register<frmMain>(WindowName::frmMain);
     Register<frmSetCurrentPayPeriod>(WindowName::frmSetCurrentPayPeriod);
     Register<frmEnvironmentSettings>(WindowName::frmEnvironmentSettings);

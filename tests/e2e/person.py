@@ -85,9 +85,15 @@ class Person:
         self.process = subprocess.Popen([os.path.join(self.house, "Tallymere")], env=environment)
         self.until(lambda: os.path.exists(where), "the program's locator does not answer")
 
-    def pass_splash(self):
-        """The splash and the tip of the day, which open the way to the question for the pay period."""
+    def pass_welcome(self):
+        """The welcome window, by the answer of those who need no help."""
+        self.see("frmWelcome")
+        self.click("frmWelcome", "lblLevelSelection3")
         self.see("frmSplash")
+
+    def pass_splash(self):
+        """Welcome, splash and the tip of the day, which open the way to the question for the pay period."""
+        self.pass_welcome()
         self.press("Return")
         self.see("frmTip")
         self.press("Return")

@@ -84,7 +84,9 @@ private:
     QString m_calculator;
 };
 
-const QString ToTheQuestion = u"frmSplash.cmdContinue,frmTip.cmdOK,frmSetCurrentPayPeriod"_s;
+const QString ToTheSplash = u"frmWelcome.lblLevelSelection3,frmSplash"_s;
+const QString ToTheTip = ToTheSplash + u".cmdContinue,frmTip"_s;
+const QString ToTheQuestion = ToTheTip + u".cmdOK,frmSetCurrentPayPeriod"_s;
 const QString ToTheMainWindow = ToTheQuestion + u".cmdExit,frmMain"_s;
 
 } // namespace
@@ -133,13 +135,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QByteArray>("settings");
-        QTest::newRow("the splash") << u"frmSplash"_s << Edited;
-        QTest::newRow("the tip before it") << u"frmSplash.cmdContinue,frmTip"_s << Edited;
+        QTest::newRow("the welcome window") << u"frmWelcome"_s << Edited;
+        QTest::newRow("the splash") << ToTheSplash << Edited;
+        QTest::newRow("the tip before it") << ToTheTip << Edited;
         QTest::newRow("half of the settings is read")
-            << u"frmSplash.cmdContinue,frmTip.cmdOK,messageBox"_s << QByteArray("26\r\n1000.00\r\n");
+            << ToTheTip + u".cmdOK,messageBox"_s << QByteArray("26\r\n1000.00\r\n");
         QTest::newRow("the rest of them was given up")
-            << u"frmSplash.cmdContinue,frmTip.cmdOK,messageBox.OK,frmSetCurrentPayPeriod"_s
-            << QByteArray("26\r\n1000.00\r\n");
+            << ToTheTip + u".cmdOK,messageBox.OK,frmSetCurrentPayPeriod"_s << QByteArray("26\r\n1000.00\r\n");
     }
     void BeforeTheMainWindowStandsNothingIsSaved()
     {
