@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr double Margin = 300; // twips that a text leaves free at the right
-constexpr int Letters = 92;    // of the least width
-constexpr int Lines = 24;      // of the least height
+constexpr double TextWidth = 5500; // twips
+constexpr int Letters = 98;        // of the least width
+constexpr int Lines = 24;          // of the least height
 
 } // namespace
 
@@ -21,7 +21,7 @@ void Stage::Place(QWidget *piece, const QRectF &place)
 
 void Stage::PlaceText(QWidget *piece, const QPointF &topLeft)
 {
-    Place(piece, {topLeft, QSizeF(Twips.width() - Margin - topLeft.x(), 0)});
+    Place(piece, {topLeft, QSizeF(TextWidth, 0)});
 }
 
 void Stage::Glide(QWidget *piece, const QPointF &from, const QPointF &to, const std::function<void()> &then)
@@ -57,7 +57,10 @@ void Stage::LeaveFreeAtLeft(double twips)
 QSize Stage::minimumSizeHint() const
 {
     const QSize letters(fontMetrics().averageCharWidth() * Letters, fontMetrics().height() * Lines);
-    return QWidget::minimumSizeHint().expandedTo(letters);
+    QSize least = QWidget::minimumSizeHint().expandedTo(letters);
+    if (layout() && layout()->hasHeightForWidth())
+        least.setHeight(qMax(least.height(), layout()->totalMinimumHeightForWidth(least.width())));
+    return least;
 }
 
 void Stage::resizeEvent(QResizeEvent *)

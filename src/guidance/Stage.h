@@ -20,7 +20,7 @@ public:
 
     /// Puts a piece at a place and gives it that size.
     void Place(QWidget *piece, const QRectF &place);
-    /// The same; a text takes the width to the stage's margin and the height of its lines.
+    /// The same; all texts are of one width, and a text takes the height of its lines.
     void PlaceText(QWidget *piece, const QPointF &topLeft);
     /// Moves a piece that has been placed, on the event loop, and then goes on. One that is still moving arrives first.
     /// Nothing happens any more once the stage is gone.

@@ -2,10 +2,12 @@
 
 #include "foundation/State.h"
 #include "foundation/WindowNames.h"
+#include "guidance/TeacherPicture.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/Theme.h"
 #include "platform/windows/WindowRegister.h"
 
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -43,8 +45,13 @@ frmWelcome::frmWelcome()
     PrepareTour();
 
     const std::array levels{ui.lblLevelSelection0, ui.lblLevelSelection1, ui.lblLevelSelection2, ui.lblLevelSelection3};
-    for (int level = 0; level < int(levels.size()); ++level)
-        OnClick(levels[level], [this, level] { ChooseLevel(level); });
+    const std::array icons{u"getting-started"_s, u"how-do-i"_s, u"search-for-help"_s, u"tallymere"_s};
+    for (int level = 0; level < int(levels.size()); ++level) {
+        QToolButton *label = levels[level];
+        label->setIcon(ThemedIcon(icons[level]));
+        OnClick(label, [this, level] { ChooseLevel(level); });
+        OnEnter(label, [label] { label->click(); });
+    }
     connect(ui.chkShowDialog, &QCheckBox::toggled, this,
             [](bool on) { TheDesk.SaveSetting(ShowWelcomeKey, on ? u"1"_s : u"0"_s); });
     for (QPushButton *button :
@@ -61,7 +68,7 @@ void frmWelcome::PrepareStages()
     pnlTallymereTutor->setObjectName(u"pnlTallymereTutor"_s);
     imgTallymereTutor = new Picture(pnlTallymereTutor);
     imgTallymereTutor->setObjectName(u"imgTallymereTutor"_s);
-    imgTallymereTutor->Show(ThemedIcon(u"teacher"_s));
+    imgTallymereTutor->Show(TeacherPicture(Teacher::Pointing));
     auto *layout = new QVBoxLayout(pnlTallymereTutor);
     layout->setContentsMargins({});
     layout->addWidget(imgTallymereTutor);
@@ -70,26 +77,26 @@ void frmWelcome::PrepareStages()
         panel->LeaveFreeAtLeft(RightOfTeacher);
     ToFront(ui.pnlWelcome);
 
-    const auto place = [](Stage *stage, Picture *picture, const QString &icon, const QPointF &topLeft) {
-        picture->Show(ThemedIcon(icon));
+    const auto place = [](Stage *stage, Picture *picture, const QIcon &icon, const QPointF &topLeft) {
+        picture->Show(icon);
         stage->Place(picture, {topLeft, PictureSize});
     };
-    place(ui.pnlTipOfTheDay, ui.imgTipOfTheDay, u"tip"_s, TipPictureTo);
+    place(ui.pnlTipOfTheDay, ui.imgTipOfTheDay, ThemedIcon(u"tip-of-the-day"_s), TipPictureTo);
     ui.pnlTipOfTheDay->PlaceText(ui.Label4, {RightOfTeacher, 500});
     ui.pnlTipOfTheDay->PlaceText(ui.Label5, {RightOfTeacher, 3700});
 
-    place(ui.pnlBudgetTutor, ui.imgFreeze, u"teacher-frozen"_s, {4700, 1400});
+    place(ui.pnlBudgetTutor, ui.imgFreeze, TeacherPicture(Teacher::Frozen), {4700, 1400});
     ui.pnlBudgetTutor->PlaceText(ui.Label7, FirstHint);
     ui.pnlBudgetTutor->PlaceText(ui.Label6, {RightOfTeacher, 3500});
     ui.pnlBudgetTutor->PlaceText(ui.Label8, FreezeHintTo);
 
-    place(ui.pnlSearchForHelpOn, ui.imgSearchForHelpOn, u"help"_s, {4700, 1200});
+    place(ui.pnlSearchForHelpOn, ui.imgSearchForHelpOn, ThemedIcon(u"search-for-help"_s), {4700, 1200});
     ui.pnlSearchForHelpOn->PlaceText(ui.Label9, FirstHint);
     ui.pnlSearchForHelpOn->PlaceText(ui.Label11, {RightOfTeacher, 3000});
     ui.pnlSearchForHelpOn->PlaceText(ui.Label10, BrowseHintTo);
 
-    place(ui.pnlHowDoI, ui.imgHowDoI, u"how-do-i"_s, {2900, 1300});
-    place(ui.pnlHowDoI, ui.imgFreezeHow, u"teacher-frozen"_s, {5900, 1300});
+    place(ui.pnlHowDoI, ui.imgHowDoI, ThemedIcon(u"how-do-i"_s), {2900, 1300});
+    place(ui.pnlHowDoI, ui.imgFreezeHow, TeacherPicture(Teacher::Frozen), {5900, 1300});
     ui.pnlHowDoI->PlaceText(ui.Label12, FirstHint);
     ui.pnlHowDoI->PlaceText(ui.Label13, {RightOfTeacher, 3400});
 

@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QToolButton>
+#include <QVariantAnimation>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,6 +80,34 @@ const QHash<QString, QList<QPair<QString, QString>>> &FirstEntries()
     return entries;
 }
 
+/// The welcome window's panel at its end: a level's, or a step of the tour with all that its timer brings.
+void BringWelcomePanel(const QString &panel)
+{
+    const QString window = u"frmWelcome"_s;
+    if (panel == u"pnlGettingStartedWithBudget"_s)
+        return Click(window, u"lblLevelSelection0"_s);
+    if (panel == u"pnlHowToDo"_s)
+        return Click(window, u"lblLevelSelection1"_s);
+    const QList<std::array<QString, 3>> tour{{u"pnlTipOfTheDay"_s, u"tmrTipOfTheDay"_s, u"cmdNext1"_s},
+                                             {u"pnlBudgetTutor"_s, u"tmrBudgetTutor"_s, u"cmdNext2"_s},
+                                             {u"pnlSearchForHelpOn"_s, u"tmrSearchForHelpOn"_s, u"cmdNext3"_s},
+                                             {u"pnlHowDoI"_s, u"tmrHowDoI"_s, {}}};
+    Click(window, u"lblLevelSelection2"_s);
+    for (const auto &[step, timer, next] : tour) {
+        auto &clock = Find<QTimer>(window, timer);
+        while (clock.isActive()) {
+            QMetaObject::invokeMethod(&clock, "timeout");
+            while (auto *motion = TheWindows.Loaded(window)->findChild<QVariantAnimation *>()) {
+                motion->setCurrentTime(motion->totalDuration());
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            }
+        }
+        if (step == panel)
+            return;
+        Click(window, next);
+    }
+}
+
 /// The panels of a window beside the one that it opens with, and how the user gets to one.
 struct Panels {
     QStringList Names;
@@ -140,6 +170,10 @@ const QHash<QString, Panels> &FurtherPanels()
         {u"frmTallymereTutor"_s,
          {TopicPanels(),
           [](const QString &panel) { Q_EMIT TheTutorRequests.PageWanted(2 + int(TopicPanels().indexOf(panel))); }}},
+        {u"frmWelcome"_s,
+         {{u"pnlGettingStartedWithBudget"_s, u"pnlHowToDo"_s, u"pnlTipOfTheDay"_s, u"pnlBudgetTutor"_s,
+           u"pnlSearchForHelpOn"_s, u"pnlHowDoI"_s},
+          BringWelcomePanel}},
     };
     return panels;
 }
@@ -250,7 +284,7 @@ bool ShowAtWork(const QString &view, Household household)
     const QString window = WindowOf(view);
     const QString panel = view.section(u'.', 1);
     State.CurrentPayPeriodConfirmed = true; // its window is shown for itself
-    if (window != u"frmSplash"_s)
+    if (window != u"frmSplash"_s && window != u"frmWelcome"_s)
         TheWindows.Show(u"frmMain"_s);
     if (window == u"frmSetCurrentPayPeriod"_s) // the main window tells it the day
         TheWindows.ControlOf<QLabel>(window, u"lblDate"_s).setText(Format(TheDesk.Now().date(), DateFormat::Weekday));

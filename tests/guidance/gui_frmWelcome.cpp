@@ -14,21 +14,6 @@ namespace {
 
 const QString TheWindow = u"frmWelcome"_s;
 
-class TutorToy : public Form
-{
-public:
-    bool TakesActivation() const override { return false; }
-};
-
-class Toy : public Form
-{
-};
-
-void DeclareToys()
-{
-    TheWindows.Register(u"frmTallymereTutor"_s, [] { return new TutorToy; });
-}
-
 /// One second passes on the timer, if it runs.
 void Tick(const QString &timer)
 {
@@ -305,7 +290,6 @@ private Q_SLOTS:
     {
         QFETCH(int, step);
         GuiDesk desk;
-        DeclareToys();
         GoToStep(step);
         QCOMPARE(State.WelcomeLevel, 2);
         QVERIFY(State.WelcomeLevelPending);
@@ -350,7 +334,6 @@ private Q_SLOTS:
         QFETCH(int, tick);
         QFETCH(QStringList, appears);
         GuiDesk desk;
-        DeclareToys();
         GoToStep(step);
         for (int before = 1; before < tick; ++before) {
             Tick(Tour[step].Timer);
@@ -370,7 +353,6 @@ private Q_SLOTS:
         QFETCH(int, step);
         static const QList<QSet<int>> telling{{1, 2, 7, 12}, {2, 10, 15, 20}, {1, 7, 14, 19}, {1, 5, 10, 12, 17}};
         GuiDesk desk;
-        DeclareToys();
         GoToStep(step);
         for (int tick = 1; tick <= Tour[step].LastTick; ++tick) {
             QVERIFY(Find<QTimer>(TheWindow, Tour[step].Timer).isActive());
@@ -387,7 +369,6 @@ private Q_SLOTS:
     {
         QFETCH(int, step);
         GuiDesk desk;
-        DeclareToys();
         GoToStep(step);
         Tick(Tour[step].Timer);
         QCOMPARE(Find(TheWindow, u"pnlTallymereTutor"_s).parentWidget()->objectName(), Tour[step].Panel);
@@ -400,7 +381,6 @@ private Q_SLOTS:
     void ThePiecesMoveBetweenTheirPlaces()
     {
         GuiDesk desk;
-        DeclareToys();
         GoToStep(0);
         Tick(u"tmrTipOfTheDay"_s);
         QCOMPARE(PlaceOf(u"imgTipOfTheDay"_s), QPointF(8160, 5280));
@@ -443,7 +423,6 @@ private Q_SLOTS:
     void AMotionThatIsOvertakenArrivesFirst()
     {
         GuiDesk desk;
-        DeclareToys();
         GoToStep(1);
         Tick(u"tmrBudgetTutor"_s, 10); // all seconds at once, after a pause of the machine
         LetMotionEnd();
@@ -455,7 +434,6 @@ private Q_SLOTS:
     void MotionTakesTimeAndEndsByItself()
     {
         GuiDesk desk;
-        DeclareToys();
         GoToStep(0);
         Tick(u"tmrTipOfTheDay"_s);
         QCOMPARE(PlaceOf(u"pnlTallymereTutor"_s), QPointF(8445, 150)); // the tick has not waited for it
@@ -465,7 +443,6 @@ private Q_SLOTS:
     void TheButtonsAtTheEndGetTheFocusAndLeadOn()
     {
         GuiDesk desk;
-        DeclareToys();
         for (int step = 0; step < Tour.size(); ++step) {
             TheWindows.Unload(TheWindow);
             GoToStep(step);
@@ -489,7 +466,6 @@ private Q_SLOTS:
     {
         QFETCH(int, step);
         GuiDesk desk;
-        DeclareToys();
         GoToStep(step);
         Tick(Tour[step].Timer, Tour[step].LastTick);
         LetMotionEnd();
@@ -503,7 +479,6 @@ private Q_SLOTS:
     void WhatWasUnderWayEndsWithTheWindow()
     {
         GuiDesk desk;
-        DeclareToys();
         GoToStep(1);
         Tick(u"tmrBudgetTutor"_s, 8);
         const QPointer<QTimer> timer = &Find<QTimer>(TheWindow, u"tmrBudgetTutor"_s);
@@ -518,7 +493,6 @@ private Q_SLOTS:
     void TheSampleGoesWithTheWindow()
     {
         GuiDesk desk;
-        DeclareToys();
         GoToStep(1);
         Tick(u"tmrBudgetTutor"_s, 8);
         LetMotionEnd();
@@ -543,7 +517,6 @@ private Q_SLOTS:
     void PiecesKeepTheirPlacesWhenTheWindowGrows()
     {
         GuiDesk desk;
-        DeclareToys();
         GoToStep(0);
         Tick(u"tmrTipOfTheDay"_s, 2);
         LetMotionEnd();
