@@ -423,6 +423,24 @@ private Q_SLOTS:
         QCOMPARE(chosen->Italic, italic);
     }
 
+    // A family that lacks the look shows the nearest, and the next one that has it shows it again.
+    void ALookIsKeptAcrossAFamilyWithoutIt()
+    {
+        const AtDialog user([](QDialog &dialog) {
+            const auto style = [&] { return ListOf(dialog, u"Font st&yle"_s).currentIndex().data().toString(); };
+            ClickLine(dialog, u"&Font"_s, u"DejaVu Sans"_s);
+            ClickLine(dialog, u"Font st&yle"_s, u"ExtraLight"_s);
+            for (const QString &family : {u"Nimbus Sans"_s, u"URW Bookman"_s, u"DejaVu Serif"_s, u"Z003"_s}) {
+                ClickLine(dialog, u"&Font"_s, family);
+                QVERIFY2(style() != u"ExtraLight"_s, qPrintable(family));
+                ClickLine(dialog, u"&Font"_s, u"DejaVu Sans"_s);
+                QVERIFY2(style() == u"ExtraLight"_s, qPrintable(family + u" before "_s + style()));
+            }
+            Press(dialog, QDialogButtonBox::Cancel);
+        });
+        TheDesk.AskFont();
+    }
+
     void ASizeIsAtMostOneDecimal_data()
     {
         QTest::addColumn<QString>("typed");

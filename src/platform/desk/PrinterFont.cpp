@@ -53,15 +53,26 @@ QFont DesktopFont()
     return font;
 }
 
+struct Look {
+    int Weight = 0;
+    bool IsItalic = false;
+};
+
+Look LookOf(const QString &family, const QString &style)
+{
+    return {QFontDatabase::weight(family, style), QFontDatabase::italic(family, style)};
+}
+
 /// How far a style is from the look that is wanted; the smallest is the nearest. Slanted letters are never taken for
 /// upright ones while there is a choice, and narrow or wide ones only where the family has no others.
-int DistanceOf(const QString &family, const QString &style, int weight, bool italic)
+int DistanceOf(const QString &family, const QString &style, Look wanted)
 {
     static const QRegularExpression width(u"Condensed|Compressed|Narrow|Expanded|Extended|Wide"_s,
                                           QRegularExpression::CaseInsensitiveOption);
     constexpr int aboveAllWeights = 1000;
-    return qAbs(QFontDatabase::weight(family, style) - weight) + (style.contains(width) ? aboveAllWeights : 0) +
-           (QFontDatabase::italic(family, style) != italic ? 2 * aboveAllWeights : 0);
+    const Look look = LookOf(family, style);
+    return qAbs(look.Weight - wanted.Weight) + (style.contains(width) ? aboveAllWeights : 0) +
+           (look.IsItalic != wanted.IsItalic ? 2 * aboveAllWeights : 0);
 }
 
 /// What stands in the field of the size, in points with one decimal; nothing where that is no size for a page.
@@ -153,8 +164,7 @@ private:
             list->installEventFilter(this);
 
         const QFont start = m_fonts.currentFont();
-        m_weight = start.weight();
-        m_italic = start.italic();
+        m_look = {start.weight(), start.italic()};
         m_family = Text(*m_families);
         connect(m_families->selectionModel(), &QItemSelectionModel::currentChanged, this, &FontDialog::FamilyChanged);
         connect(m_styles->selectionModel(), &QItemSelectionModel::currentChanged, this, &FontDialog::StyleChanged);
@@ -176,18 +186,16 @@ private:
         int nearest = -1, least = 0;
         for (int row = 0; row < styles.rowCount(); ++row) {
             const QString style = styles.index(row, 0).data().toString();
-            const int distance = DistanceOf(m_family, style, m_weight, m_italic);
+            const int distance = DistanceOf(m_family, style, m_look);
             if (nearest < 0 || distance < least) {
                 nearest = row;
                 least = distance;
             }
         }
-        const int weight = m_weight;
-        const bool italic = m_italic;
+        const Look wanted = m_look;
         if (nearest >= 0)
             m_styles->setCurrentIndex(styles.index(nearest, 0));
-        m_weight = weight; // a family without that look does not change what is wanted of the next one
-        m_italic = italic;
+        m_look = wanted; // a family without that look does not change what is wanted of the next one
         m_size->setText(m_sizeText);
     }
 
@@ -196,8 +204,7 @@ private:
         const QString style = Text(*m_styles);
         if (style.isEmpty() || Text(*m_families) != m_family)
             return; // the list is being filled for another family
-        m_weight = QFontDatabase::weight(m_family, style);
-        m_italic = QFontDatabase::italic(m_family, style);
+        m_look = LookOf(m_family, style);
         m_size->setText(m_sizeText); // the toolkit has put its whole number there
     }
 
@@ -213,9 +220,8 @@ private:
     QListView *m_families = nullptr; // lists and a field of m_fonts
     QListView *m_styles = nullptr;
     QLineEdit *m_size = nullptr;
-    QString m_family; // whose styles are listed
-    int m_weight = 0; // the look that the user wants, of whatever family
-    bool m_italic = false;
+    QString m_family;   // whose styles are listed
+    Look m_look;        // that the user wants, of whatever family
     QString m_sizeText; // as the user has it
 };
 
