@@ -15,6 +15,7 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QRadioButton>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -296,6 +297,48 @@ private Q_SLOTS:
         QVERIFY(ChooseFolder(printer));
         QVERIFY(QDir(m_folder.filePath(u"chosen"_s)).removeRecursively());
         QCOMPARE(printer.Print(Document(u"Budget"_s)).PdfPath, Chosen(u"Budget.pdf"_s));
+    }
+
+    // A file stands where the folder of the documents was, as a disk that is not there any more leaves no folder.
+    void AFolderThatCannotTakeThemIsNamed()
+    {
+        const QByteArray home = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(m_folder.path()));
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        const auto blocked = [&](const QString &name) {
+            QDir(m_folder.filePath(name)).removeRecursively();
+            QFile file(m_folder.filePath(name));
+            return file.open(QIODevice::WriteOnly);
+        };
+        DocumentPrinter printer(m_folder.filePath(u"printed/"_s));
+        QVERIFY(blocked(u"printed"_s));
+        const QString usual = documents + u"/2026-11-21 Usual.pdf"_s, chosen = documents + u"/2026-11-21 Chosen.pdf"_s;
+        QCOMPARE(printer.Print(Document(u"Usual"_s)),
+                 (PrintedDocument{usual, false, m_folder.filePath(u"printed/"_s)}));
+        QFile::remove(m_folder.filePath(u"printed"_s));
+        QVERIFY(printer.Print(Document(u"Usual"_s)).RefusedFolder.isEmpty());
+        QVERIFY(ChooseFolder(printer));
+        QVERIFY(blocked(u"chosen"_s));
+        QCOMPARE(printer.Print(Document(u"Chosen"_s)), (PrintedDocument{chosen, true, m_folder.filePath(u"chosen"_s)}));
+
+        // The box that tells of them
+        QFile::remove(usual);
+        QDir(m_folder.filePath(u"printed"_s)).removeRecursively();
+        QVERIFY(blocked(u"printed"_s));
+        QString said;
+        const AtDialog user([&](QDialog &dialog) {
+            said = qobject_cast<QMessageBox *>(&dialog)->text();
+            dialog.accept();
+        });
+        TheDesk.PrintDocument(Document(u"Usual"_s));
+        TheDesk.PrintDocument(Document(u"Usual"_s));
+        qputenv("HOME", home);
+        QTRY_COMPARE(
+            said,
+            u"No printer could be used. The folder %1 cannot be written to. The printed pages are in the "
+            "files\n%2\n%3"_s.arg(m_folder.filePath(u"printed"_s), usual, documents + u"/2026-11-21 Usual (2).pdf"_s));
+        QFile::remove(m_folder.filePath(u"printed"_s));
+        QFile::remove(m_folder.filePath(u"chosen"_s));
     }
 
     void WhoAskedForAFileHearsNothingOfAPrinter()

@@ -304,12 +304,22 @@ void DocumentPrinter::Forget()
 
 PrintedDocument DocumentPrinter::Print(const PrintJob &job)
 {
-    if (!m_chosen)
-        return {PrintToPaperOrPdf(job, m_pdfFolder)};
-    if (IsFile(*m_chosen))
-        return {PrintToPdf(job, QFileInfo(m_chosen->outputFileName()).path(), m_chosen->pageLayout()), true};
-    m_chosen->setDocName(job.Name);
-    return {PrintToPaperOrPdf(job, m_pdfFolder, m_chosen.get())};
+    PrintedDocument printed;
+    QString folder = m_pdfFolder;
+    if (!m_chosen) {
+        printed.PdfPath = PrintToPaperOrPdf(job, folder);
+    } else if (IsFile(*m_chosen)) {
+        folder = QFileInfo(m_chosen->outputFileName()).path();
+        printed = {PrintToPdf(job, folder, m_chosen->pageLayout()), true};
+    } else {
+        m_chosen->setDocName(job.Name);
+        // The toolkit does not notice that nobody takes what it sends.
+        const bool isThere = !QPrinterInfo::printerInfo(m_chosen->printerName()).isNull();
+        printed.PdfPath = PrintToPaperOrPdf(job, folder, isThere ? m_chosen.get() : nullptr);
+    }
+    if (!printed.PdfPath.isEmpty() && QFileInfo(printed.PdfPath).dir() != QDir(folder))
+        printed.RefusedFolder = folder;
+    return printed;
 }
 
 QString PrintToPaperOrPdf(const PrintJob &job, const QString &folder)

@@ -13,8 +13,9 @@ class QWidget;
 
 /// Where a document went.
 struct PrintedDocument {
-    QString PdfPath = {};     ///< empty: it is on paper
-    bool PdfIsChosen = false; ///< the user has asked for a file
+    QString PdfPath = {};       ///< empty: it is on paper
+    bool PdfIsChosen = false;   ///< the user has asked for a file
+    QString RefusedFolder = {}; ///< where the file should have gone, and could not; empty: it is there
     bool operator==(const PrintedDocument &) const = default;
 };
 
@@ -29,7 +30,8 @@ public:
     /// Shows the printer dialog above a window. A printer or a file that is chosen there, with its paper and its
     /// copies, holds for every later document; false: cancelled, and nothing has changed.
     bool Choose(QWidget *above);
-    /// Prints as PrintToPaperOrPdf(), or, where a file was chosen, to a new PDF file beside it.
+    /// Prints to the printer that was chosen, or as PrintToPaperOrPdf() where there is none or it is not there any
+    /// more; where a file was chosen, to a new PDF file beside it.
     PrintedDocument Print(const PrintJob &job);
     /// Goes back to the default printer. What was chosen does not outlive the application.
     void Forget();

@@ -166,7 +166,10 @@ public:
     void Add(const PrintedDocument &document)
     {
         m_paths += document.PdfPath;
-        m_allAreChosen = m_allAreChosen && document.PdfIsChosen;
+        if (!document.PdfIsChosen)
+            AddReason(QStringLiteral("No printer could be used. "));
+        if (!document.RefusedFolder.isEmpty())
+            AddReason(QStringLiteral("The folder %1 cannot be written to. ").arg(document.RefusedFolder));
         m_timer.start(Rest);
     }
 
@@ -177,16 +180,21 @@ public:
         if (m_paths.isEmpty())
             return;
         const QStringList paths = std::exchange(m_paths, {});
-        const QString reason =
-            std::exchange(m_allAreChosen, true) ? QString() : QStringLiteral("No printer could be used. ");
+        const QString reasons = std::exchange(m_reasons, {}).join(QString());
         const QString place = paths.size() == 1 ? QStringLiteral("The printed pages are in the file\n")
                                                 : QStringLiteral("The printed pages are in the files\n");
-        ShowMessage(reason + place + paths.join(QLatin1Char('\n')), TheDesk.ProgramTitle, Icon::Information);
+        ShowMessage(reasons + place + paths.join(QLatin1Char('\n')), TheDesk.ProgramTitle, Icon::Information);
     }
 
 private:
     // The window system tells of the move to another window first, and of the press that caused it a moment later.
     static constexpr int Rest = 200; // milliseconds
+
+    void AddReason(const QString &reason)
+    {
+        if (!m_reasons.contains(reason))
+            m_reasons += reason;
+    }
 
     static bool UserIsBusy()
     {
@@ -198,7 +206,7 @@ private:
 
     QTimer m_timer;
     QStringList m_paths;
-    bool m_allAreChosen = true; // the user asked for files, so no word of a printer
+    QStringList m_reasons; // why they are files, and where they are; none where the user asked for just that
 };
 
 } // namespace
