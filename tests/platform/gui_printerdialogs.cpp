@@ -1,4 +1,5 @@
 // The printer dialog and the font dialog, operated as by a user, and what later documents make of the answers.
+#include "AtDialog.h"
 #include "TestProgram.h"
 #include "ToyWindows.h"
 #include "foundation/Identity.h"
@@ -6,7 +7,6 @@
 #include "platform/desk/RealDesk.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QLabel>
 #include <QListView>
@@ -21,58 +21,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Does something with the dialog that comes next, once it is there.
-class AtDialog : public QObject
-{
-public:
-    explicit AtDialog(const std::function<void(QDialog &)> &act) : m_act(act)
-    {
-        connect(&m_timer, &QTimer::timeout, this, &AtDialog::Look);
-        m_timer.start(20);
-    }
-    ~AtDialog() override
-    {
-        if (!m_met)
-            QTest::qFail("no dialog has come", __FILE__, __LINE__);
-    }
-
-private:
-    void Look()
-    {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        m_timer.stop();
-        m_met = true;
-        m_act(*dialog);
-    }
-    std::function<void(QDialog &)> m_act;
-    QTimer m_timer;
-    bool m_met = false;
-};
-
-/// A control of a dialog by its name; the program ends where it is not there.
-template <class Control>
-Control &Part(QDialog &dialog, const QString &name)
-{
-    auto *part = dialog.findChild<Control *>(name);
-    if (!part)
-        qFatal("%s has no %s", qPrintable(dialog.objectName()), qPrintable(name));
-    return *part;
-}
-
-void Press(QDialog &dialog, QDialogButtonBox::StandardButton button)
-{
-    // The last one: a part of the dialog may have buttons of its own.
-    const auto boxes = dialog.findChildren<QDialogButtonBox *>();
-    for (auto box = boxes.rbegin(); box != boxes.rend(); ++box)
-        if (QPushButton *found = (*box)->button(button); found && found->isVisible()) {
-            QTest::mouseClick(found, Qt::LeftButton);
-            return;
-        }
-    qFatal("%s has no such button", qPrintable(dialog.objectName()));
-}
 
 QLineEdit &FileOf(QDialog &dialog)
 {
@@ -216,6 +164,21 @@ private Q_SLOTS:
         });
         QVERIFY(!TheDesk.AskPrinter());
         QVERIFY(!QDir(m_folder.filePath(u"printed"_s)).exists()); // cancelling leaves nothing behind
+    }
+
+    // What printing does not go by is nothing to set. A file is one copy, in its colours, of single sheets.
+    void TheDialogOffersNothingThatPrintingIgnores()
+    {
+        const AtDialog user([](QDialog &dialog) {
+            for (const char *part : {"printAll", "printRange", "pagesRadioButton", "pageSetCombo", "copies", "collate",
+                                     "reverse", "color", "grayscale", "noDuplex", "duplexLong", "duplexShort"})
+                QVERIFY2(!Part<QWidget>(dialog, QLatin1String(part)).isEnabled(), part);
+            for (const char *part : {"printers", "filename", "fileBrowser", "properties"})
+                QVERIFY2(Part<QWidget>(dialog, QLatin1String(part)).isEnabled(), part);
+            QVERIFY(dialog.minimumWidth() >= 520 && dialog.width() >= 520);
+            Press(dialog, QDialogButtonBox::Cancel);
+        });
+        TheDesk.AskPrinter();
     }
 
     void AskingLeavesTheActiveWindowAlone()

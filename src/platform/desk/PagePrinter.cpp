@@ -5,10 +5,12 @@
 #include "platform/values/Numbers.h"
 #include "platform/values/RuntimeError.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
@@ -16,6 +18,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QSet>
@@ -255,21 +258,96 @@ bool IsFile(const QPrinter &printer)
 }
 
 /// A printer to be asked about, which stands as `present` does, or null for the usual one.
-std::unique_ptr<QPrinter> CopyOf(const QPrinter *present, const QString &pdfFolder)
+std::unique_ptr<QPrinter> CopyOf(const QPrinter *present, const QString &pdfPath)
 {
     std::unique_ptr<QPrinter> copy = present ? nullptr : UsualPrinter();
     if (!copy)
         copy = std::make_unique<QPrinter>(QPrinter::HighResolution);
     if (present && !IsFile(*present))
         copy->setPrinterName(present->printerName());
-    // A name that is free: the dialog would warn of a file that stands there, but no document replaces one.
     if (IsFile(present ? *present : *copy))
-        copy->setOutputFileName(FreePdfPath(present ? QFileInfo(present->outputFileName()).path() : pdfFolder, {}));
+        copy->setOutputFileName(pdfPath);
     copy->setPageLayout(present ? present->pageLayout() : IsFile(*copy) ? UsualLayout() : copy->pageLayout());
-    if (present)
+    if (present) {
         copy->setCopyCount(present->copyCount());
+        copy->setCollateCopies(present->collateCopies());
+    }
     return copy;
 }
+
+/// The printer dialog, which offers no more than printing goes by.
+class PrinterDialog : public QPrintDialog
+{
+public:
+    /// present: what it starts as, or null for what is usual. pdfPath: what it proposes for a file.
+    PrinterDialog(QPrinter &printer, const QPrinter *present, const QString &pdfPath, QWidget *above)
+        : QPrintDialog(&printer, above), m_startsWithFile(present && IsFile(*present)), m_pdfPath(pdfPath)
+    {
+        setObjectName(QStringLiteral("printerDialog"));
+        setWindowTitle(QStringLiteral("Printer Select"));
+        setOptions(PrintToFile | PrintShowPageSize | PrintCollateCopies);
+        constexpr int leastWidth = 520; // or the path of a file is cut off
+        setMinimumWidth(leastWidth);
+        // Nothing is printed before a report's own button is pressed.
+        if (auto *buttons = findChild<QDialogButtonBox *>(); buttons && buttons->button(QDialogButtonBox::Ok))
+            buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
+        if (auto *properties = findChild<QPushButton *>(QStringLiteral("properties")))
+            connect(properties, &QPushButton::clicked, this, [this] { // after the toolkit's dialog for them
+                const auto *inner = findChild<QDialog *>();
+                m_paperIsSet |= inner && inner->result() == Accepted;
+            });
+        if (present) // it starts with the sides that are usual for the printer, unless somebody clicks
+            MarkSides(present->duplex());
+    }
+
+    /// Whether the user has set paper and margins.
+    bool PaperIsSet() const { return m_paperIsSet; }
+
+    /// The toolkit fills its dialog as it is shown.
+    void setVisible(bool visible) override
+    {
+        QPrintDialog::setVisible(visible);
+        auto *printers = findChild<QComboBox *>(QStringLiteral("printers"));
+        auto *file = findChild<QLineEdit *>(QStringLiteral("filename"));
+        if (!visible || !printers || !file)
+            return;
+        file->setText(m_pdfPath);
+        if (m_startsWithFile)
+            printers->setCurrentIndex(printers->count() - 1); // the file is the last of them
+        OfferWhatCounts();
+        connect(printers, &QComboBox::currentIndexChanged, this, &PrinterDialog::OfferWhatCounts, Qt::UniqueConnection);
+    }
+
+private:
+    void MarkSides(QPrinter::DuplexMode sides)
+    {
+        const QLatin1String name(sides == QPrinter::DuplexLongSide    ? "duplexLong"
+                                 : sides == QPrinter::DuplexShortSide ? "duplexShort"
+                                                                      : "noDuplex");
+        if (auto *radio = findChild<QRadioButton *>(name))
+            radio->click();
+    }
+
+    /// A report is printed whole and from its first page on; a file is one copy, in its colours, of single sheets.
+    void OfferWhatCounts()
+    {
+        const auto enable = [this](const char *part, bool on) {
+            if (auto *widget = findChild<QWidget *>(QLatin1String(part)))
+                widget->setEnabled(on);
+        };
+        for (const char *part : {"gbPrintRange", "reverse"})
+            enable(part, false);
+        const auto *file = findChild<QLineEdit *>(QStringLiteral("filename"));
+        const bool isFile = file && file->isEnabled();
+        for (const char *part : {"copies", "collate", "colorMode", "duplex"})
+            enable(part, !isFile);
+        enable("fileBrowser", isFile);
+    }
+
+    const bool m_startsWithFile;
+    bool m_paperIsSet = false;
+    const QString m_pdfPath;
+};
 
 } // namespace
 
@@ -280,19 +358,26 @@ DocumentPrinter::~DocumentPrinter() = default;
 bool DocumentPrinter::Choose(QWidget *above)
 {
     const bool made = !QDir(m_pdfFolder).exists();
-    auto asked = CopyOf(m_chosen.get(), WritableFolder(m_pdfFolder));
-    QPrintDialog dialog(asked.get(), above);
-    dialog.setObjectName(QStringLiteral("printerDialog"));
-    dialog.setWindowTitle(QStringLiteral("Printer Select"));
-    // A report is printed whole, and not before its own button is pressed.
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    if (auto *buttons = dialog.findChild<QDialogButtonBox *>(); buttons && buttons->button(QDialogButtonBox::Ok))
-        buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
+    const bool isFile = m_chosen && IsFile(*m_chosen);
+    const QString folder = isFile ? QFileInfo(m_chosen->outputFileName()).path() : WritableFolder(m_pdfFolder);
+    // A name that is free: the dialog would warn of a file that stands there, but no document replaces one.
+    const QString pdfPath = FreePdfPath(folder, {});
+    auto asked = CopyOf(m_chosen.get(), pdfPath);
+    const QString before = asked->printerName();
+    const QPageLayout layout = asked->pageLayout();
+    PrinterDialog dialog(*asked, m_chosen.get(), pdfPath, above);
     const bool accepted = dialog.exec() == QDialog::Accepted;
     if (made)
         QDir().rmdir(m_pdfFolder); // the dialog only wants a folder that is there; printing makes it again
     if (!accepted)
         return false;
+    // The toolkit gives a printer the paper and the narrow margins that are usual for it, whatever it had before.
+    if (!IsFile(*asked) && !dialog.PaperIsSet()) {
+        if (asked->printerName() == before)
+            asked->setPageLayout(layout);
+        else
+            asked->setPageMargins(PageMargins, QPageLayout::Millimeter);
+    }
     m_chosen = std::move(asked);
     return true;
 }
