@@ -4,6 +4,7 @@
 #include "foundation/OneMore.h"
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
+#include "shopping/ListEdit.h"
 #include "shopping/ShoppingState.h"
 
 #include <algorithm>
@@ -135,12 +136,34 @@ void CopyLineToCatalogue()
                                                           .Taxable = line.Taxable};
 }
 
+bool ChangeLineAndSave(const CurrentItemEntry &entry)
+{
+    auto listEdit = CurrentListEdit();
+    auto catalogueEdit = CatalogueEdit();
+    ChangeCurrentItem(entry);
+    CopyLineToCatalogue();
+    SortCurrentShoppingList();
+    if (!listEdit.SaveAndReadBack()) {
+        catalogueEdit.Undo();
+        return false;
+    }
+    catalogueEdit.SaveAndReadBack();
+    return true;
+}
+
 void DeleteCurrentItem()
 {
     if (State.NumberOfCurrentItems < 2)
         return ClearCurrentList();
     DeleteByMark(State.CurrentShoppingList, State.NumberOfCurrentItems, Shopping.CurrentItemIndex,
                  &CurrentItemRecord::Item);
+}
+
+bool DeleteLineAndSave()
+{
+    auto edit = CurrentListEdit();
+    DeleteCurrentItem();
+    return edit.Save();
 }
 
 void ClearCurrentList()

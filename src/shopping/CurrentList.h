@@ -66,3 +66,12 @@ void DeleteCurrentItem();
 
 /// Leaves no line.
 void ClearCurrentList();
+
+// The edits with their files. A list that cannot be saved, which is told, is as it was before the edit.
+
+/// The button for changes: writes the texts into the line at hand and from there into the catalogue, sorts, saves both
+/// lists and reads them back. Returns whether the current list has the change; without it the catalogue is left alone.
+/// Errors as of ChangeCurrentItem and CopyLineToCatalogue.
+bool ChangeLineAndSave(const CurrentItemEntry &entry);
+/// The delete button: neither sorts nor reads back. Returns whether the line is gone.
+bool DeleteLineAndSave();

@@ -2,9 +2,9 @@
 
 #include "foundation/Compaction.h"
 #include "foundation/OneMore.h"
-#include "foundation/ShoppingFiles.h"
 #include "platform/values/Numbers.h"
 #include "shopping/CurrentList.h"
+#include "shopping/ListEdit.h"
 #include "shopping/ShoppingState.h"
 
 #include <QSet>
@@ -37,47 +37,6 @@ void CopyToLine(const MasterItemRecord &item, CurrentItemRecord &line)
     line.UnitPrice = item.UnitPrice;
     line.Store = item.Store;
     line.Taxable = item.Taxable;
-}
-
-/// An edit of a list with its file, from before the list is changed on.
-template <class Record>
-class Edit
-{
-public:
-    Edit(OneBased<Record> &list, qint16 &count, bool (*save)(), void (*readBack)())
-        : m_list(list), m_count(count), m_before(list), m_countBefore(count), m_save(save), m_readBack(readBack)
-    {
-    }
-
-    /// Saves the list and reads it back; one that cannot be saved is as it was. Returns whether it is saved.
-    bool Save()
-    {
-        if (m_save()) {
-            m_readBack();
-            return true;
-        }
-        m_list = m_before;
-        m_count = m_countBefore;
-        return false;
-    }
-
-private:
-    OneBased<Record> &m_list;
-    qint16 &m_count;
-    const OneBased<Record> m_before;
-    const qint16 m_countBefore;
-    bool (*m_save)();
-    void (*m_readBack)();
-};
-
-Edit<MasterItemRecord> CatalogueEdit()
-{
-    return {State.MasterShoppingList, State.NumberOfMasterItems, SaveMasterShoppingList, InputMasterShoppingList};
-}
-
-Edit<CurrentItemRecord> ListEdit()
-{
-    return {State.CurrentShoppingList, State.NumberOfCurrentItems, SaveCurrentShoppingList, InputCurrentShoppingList};
 }
 
 } // namespace
@@ -187,7 +146,7 @@ bool AddItemAndSave(const MasterItemRecord &item)
 {
     auto edit = CatalogueEdit();
     AddMasterItem(item);
-    return edit.Save();
+    return edit.SaveAndReadBack();
 }
 
 bool ChangeItemAndSave(const MasterItemRecord &item, bool onCurrentList)
@@ -200,13 +159,13 @@ bool ChangeItemAndSave(const MasterItemRecord &item, bool onCurrentList)
     }
     auto edit = CatalogueEdit();
     ChangeMasterItem(item);
-    if (!edit.Save())
+    if (!edit.SaveAndReadBack())
         return false;
     if (onCurrentList) {
-        auto listEdit = ListEdit();
+        auto listEdit = CurrentListEdit();
         State.CurrentShoppingList(Shopping.CurrentItemIndex) = line;
         SortCurrentShoppingList();
-        listEdit.Save();
+        listEdit.SaveAndReadBack();
     }
     return true;
 }
@@ -215,14 +174,14 @@ bool DeleteItemAndSave()
 {
     auto edit = CatalogueEdit();
     DeleteMasterItem();
-    return edit.Save();
+    return edit.SaveAndReadBack();
 }
 
 bool PutOnCurrentList(const MasterItemRecord &item)
 {
     OneMore(State.NumberOfCurrentItems); // a list that is full raises its error before a file is written
     SaveMasterShoppingList();
-    auto edit = ListEdit();
+    auto edit = CurrentListEdit();
     AddCurrentItem(item);
     const qint16 count = State.NumberOfCurrentItems;
     const CurrentItemRecord added = State.CurrentShoppingList(count);
@@ -231,7 +190,7 @@ bool PutOnCurrentList(const MasterItemRecord &item)
     int place = count;
     while (State.CurrentShoppingList(place) != added)
         --place;
-    if (!edit.Save())
+    if (!edit.SaveAndReadBack())
         return false;
     // It is the line at hand from now on, or the next change to the item would be written into another one.
     Shopping.CurrentItemIndex = qint16(place);

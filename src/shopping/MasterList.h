@@ -44,9 +44,8 @@ void ChangeMasterItem(const MasterItemRecord &item);
 /// where two records or more are there and it is none of them.
 void DeleteMasterItem();
 
-// The edits with their files. A list that is saved is read back. One that cannot be saved, which is told, is as it was
-// before the edit and is not read: where its file is missing that would leave blank records in memory, and the next
-// save would write them over the file that has come back meanwhile.
+// The edits with their files. A list that is saved is read back; one that cannot be saved, which is told, is as it was
+// before the edit.
 
 /// The button for a new item. Returns whether the catalogue has it.
 bool AddItemAndSave(const MasterItemRecord &item);

@@ -191,20 +191,16 @@ void frmCurrentShoppingList::cmdChange_Click()
 {
     if (!Accepts(Rules))
         return;
-    ChangeCurrentItem({.Item = ui.txtItem->text(),
-                       .Unit = ui.txtUnit->text(),
-                       .UnitPrice = ui.txtUnitPrice->text(),
-                       .Store = ui.txtStore->text(),
-                       .Quantity = ui.txtQuantity->text(),
-                       .TaxCode = ui.txtTaxCode->text(),
-                       .CouponValue = ui.txtCouponValue->text()});
+    // Where it cannot be saved, the window stays as it is, so that the user can try again.
+    if (!ChangeLineAndSave({.Item = ui.txtItem->text(),
+                            .Unit = ui.txtUnit->text(),
+                            .UnitPrice = ui.txtUnitPrice->text(),
+                            .Store = ui.txtStore->text(),
+                            .Quantity = ui.txtQuantity->text(),
+                            .TaxCode = ui.txtTaxCode->text(),
+                            .CouponValue = ui.txtCouponValue->text()}))
+        return;
     LeaveLine();
-    CopyLineToCatalogue();
-    SortCurrentShoppingList();
-    SaveCurrentShoppingList();
-    SaveMasterShoppingList();
-    InputCurrentShoppingList();
-    InputMasterShoppingList();
     FillCurrentShoppingGrid();
     if (TheWindows.Knows(WindowName::frmMasterShoppingList)) {
         TheWindows.Touch(WindowName::frmMasterShoppingList); // its shelf is filled, seen or not
@@ -214,8 +210,8 @@ void frmCurrentShoppingList::cmdChange_Click()
 
 void frmCurrentShoppingList::cmdDelete_Click()
 {
-    DeleteCurrentItem();
-    SaveCurrentShoppingList();
+    if (!DeleteLineAndSave()) // likewise
+        return;
     LeaveLine();
     for (QLineEdit *field : {ui.txtItem, ui.txtUnit, ui.txtStore, ui.txtQuantity, ui.txtTaxCode})
         field->clear();
