@@ -9,7 +9,7 @@ namespace {
 
 constexpr double TextWidth = 5500; // twips
 constexpr int Letters = 98;        // of the least width
-constexpr int Lines = 24;          // of the least height
+constexpr int Lines = 28;          // of the least height
 
 } // namespace
 

@@ -69,6 +69,7 @@ void frmWelcome::PrepareStages()
     imgTallymereTutor = new Picture(pnlTallymereTutor);
     imgTallymereTutor->setObjectName(u"imgTallymereTutor"_s);
     imgTallymereTutor->Show(TeacherPicture(Teacher::Pointing));
+    imgTallymereTutor->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     auto *layout = new QVBoxLayout(pnlTallymereTutor);
     layout->setContentsMargins({});
     layout->addWidget(imgTallymereTutor);
