@@ -94,6 +94,16 @@ std::optional<bool> FindItem(const QString &item, const QString &store)
     return lineOf(matches.last()) != lines.end();
 }
 
+bool FindLineOf(const MasterItemRecord &item)
+{
+    const LinesByRest lines = LinesOf(item.Item, item.Store);
+    const auto line = lines.find(RestOf(item));
+    if (line == lines.end())
+        return false;
+    Shopping.CurrentItemIndex = line->second;
+    return true;
+}
+
 MasterItemRecord RecordOf(const ItemEntry &entry)
 {
     return {entry.Item, entry.Unit, ToCurrency(entry.UnitPrice), entry.Store, entry.Taxable};

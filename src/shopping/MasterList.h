@@ -20,6 +20,10 @@ bool HasItemsAt(const QString &store);
 /// without such a line it stays.
 std::optional<bool> FindItem(const QString &item, const QString &store);
 
+/// Returns whether a line of the current list is equal to this record in item, unit, price, store and tax; the last
+/// such line becomes Shopping.CurrentItemIndex.
+bool FindLineOf(const MasterItemRecord &item);
+
 /// What the fields of a window hold.
 struct ItemEntry {
     QString Item;

@@ -142,6 +142,17 @@ void frmMasterShoppingList::StandOnNoItem()
     EnableCart(false);
 }
 
+/// A saved change may have made the item equal to a line of the list or different from all of them, and a list that
+/// could not be saved has not followed.
+void frmMasterShoppingList::TellWhetherOnList()
+{
+    if (ui.lstMasterShopper->ListIndex() < 0)
+        return;
+    const bool onList = FindLineOf(State.MasterShoppingList(Shopping.MasterItemIndex));
+    ui.lblSelected->setText(onList ? OnList : NotOnList);
+    EnableCart(!onList);
+}
+
 void frmMasterShoppingList::ClickItem()
 {
     if (ui.lstMasterShopper->count() == 0) {
@@ -256,6 +267,7 @@ void frmMasterShoppingList::SaveChanges()
     // selected item: both stay with what is shown, or another record would be changed or deleted.
     FollowStore(entry.Store);
     StandOn(entry.Item);
+    TellWhetherOnList();
     if (onList)
         FillCurrentShoppingGrid();
     ui.cmdDeleteFromMaster->setEnabled(false);

@@ -34,6 +34,7 @@ private:
     void FollowStore(const QString &store);
     void StandOn(const QString &item);
     void StandOnNoItem();
+    void TellWhetherOnList();
     void NameStore(const QString &store);
     void EnableCart(bool enabled);
     ItemEntry Entry() const;

@@ -1027,6 +1027,51 @@ private Q_SLOTS:
         QCOMPARE(int(Shopping.CurrentItemIndex), 2);
     }
 
+    void ASaveTellsAnewWhetherTheItemIsOnTheList_data()
+    {
+        QTest::addColumn<QString>("price");
+        QTest::addColumn<QString>("selected");
+        QTest::newRow("equal to a line from now on") << u"3.25"_s << u"Y"_s;
+        QTest::newRow("different from all") << u"3.00"_s << u"N"_s;
+    }
+    void ASaveTellsAnewWhetherTheItemIsOnTheList()
+    {
+        QFETCH(QString, price);
+        QFETCH(QString, selected);
+        MasterItemRecord dear = Milk;
+        dear.UnitPrice = Cents(325);
+        MasterDesk desk(Usual, {LineOf(Bread), LineOf(dear)});
+        OpenStore(u"Corner"_s);
+        ClickItem(u"Milk"_s);
+        QCOMPARE(Selected(), u"N"_s);
+        Type(Window, u"txtUnitPrice"_s, price);
+        Click(Window, u"cmdSaveChanges"_s);
+        QCOMPARE(Selected(), selected);
+        const bool onList = selected == u"Y"_s;
+        QCOMPARE(Enabled(Window, Buttons_),
+                 onList ? u"cmdClear"_s : u"cmdClear pnlAddToCurrent imgCurrentShoppingList"_s);
+        if (onList)
+            QCOMPARE(int(Shopping.CurrentItemIndex), 2);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"mastshop.txt"_s});
+    }
+
+    void ALineThatCouldNotFollowIsNoneOfTheItem()
+    {
+        MasterDesk desk(Usual, {LineOf(Milk)});
+        OpenStore(u"Corner"_s);
+        ClickItem(u"Milk"_s);
+        QCOMPARE(Selected(), u"Y"_s);
+        QVERIFY(QFile::setPermissions(desk.Path(u"stores\\untitled.lst"_s), QFile::ReadOwner | QFile::ReadUser));
+        Type(Window, u"txtUnitPrice"_s, u"3"_s);
+        Click(Window, u"cmdSaveChanges"_s);
+        QCOMPARE(desk.TakeMessage(), CannotSave(PathFileAccess, u"Save Current Shopping List"_s));
+        QCOMPARE(Catalogue().first(), u"Milk gallon 3 Corner N"_s);
+        QVERIFY(Lines().first().startsWith(u"Milk gallon 2.99"_s));
+        QCOMPARE(Selected(), u"N"_s);
+        QCOMPARE(Enabled(Window, Buttons_), u"cmdClear pnlAddToCurrent imgCurrentShoppingList"_s);
+        desk.TakeFiles();
+    }
+
     void AnotherStoreMovesTheItemToItsShelf_data()
     {
         QTest::addColumn<QString>("store");
