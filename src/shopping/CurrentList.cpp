@@ -126,6 +126,14 @@ void ChangeCurrentItem(const CurrentItemEntry &entry)
     atHand = line;
 }
 
+bool HasItsRecordAtHand(const CurrentItemRecord &line)
+{
+    if (Shopping.MasterItemIndex < 1 || Shopping.MasterItemIndex > State.MasterShoppingList.Size())
+        return false;
+    const MasterItemRecord &item = State.MasterShoppingList(Shopping.MasterItemIndex);
+    return item.Item == line.Item && item.Store == line.Store;
+}
+
 void CopyLineToCatalogue()
 {
     const CurrentItemRecord &line = State.CurrentShoppingList(Shopping.CurrentItemIndex);
@@ -140,14 +148,17 @@ bool ChangeLineAndSave(const CurrentItemEntry &entry)
 {
     auto listEdit = CurrentListEdit();
     auto catalogueEdit = CatalogueEdit();
+    const bool hasRecord = HasItsRecordAtHand(State.CurrentShoppingList(Shopping.CurrentItemIndex));
     ChangeCurrentItem(entry);
-    CopyLineToCatalogue();
+    if (hasRecord)
+        CopyLineToCatalogue();
     SortCurrentShoppingList();
     if (!listEdit.SaveAndReadBack()) {
         catalogueEdit.Undo();
         return false;
     }
-    catalogueEdit.SaveAndReadBack();
+    if (hasRecord)
+        catalogueEdit.SaveAndReadBack();
     return true;
 }
 

@@ -56,8 +56,11 @@ struct CurrentItemEntry {
 /// error 9 without such a line; nothing is changed then.
 void ChangeCurrentItem(const CurrentItemEntry &entry);
 
-/// Writes item, unit, price, store and tax of the line at hand into the record of the catalogue that belongs to it,
-/// which is an earlier line's where this one has none. Error 9 where there was none at all.
+/// Whether the record of the catalogue at hand is one of the line's item and store. It may be an earlier line's.
+bool HasItsRecordAtHand(const CurrentItemRecord &line);
+
+/// Writes item, unit, price, store and tax of the line at hand into the record of the catalogue that is at hand. Error
+/// 9 where there is none.
 void CopyLineToCatalogue();
 
 /// Removes the line at hand, by the empty item as its mark, so that a line with an empty item disappears with it. Fewer
@@ -70,8 +73,9 @@ void ClearCurrentList();
 // The edits with their files. A list that cannot be saved, which is told, is as it was before the edit.
 
 /// The button for changes: writes the texts into the line at hand and from there into the catalogue, sorts, saves both
-/// lists and reads them back. Returns whether the current list has the change; without it the catalogue is left alone.
-/// Errors as of ChangeCurrentItem and CopyLineToCatalogue.
+/// lists and reads them back. A line without a record of its own leaves the catalogue alone, where it would replace
+/// another item. Returns whether the current list has the change; without it the catalogue is left alone, too. Errors
+/// as of ChangeCurrentItem, with nothing changed.
 bool ChangeLineAndSave(const CurrentItemEntry &entry);
 /// The delete button: neither sorts nor reads back. Returns whether the line is gone.
 bool DeleteLineAndSave();
