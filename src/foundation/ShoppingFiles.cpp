@@ -2,6 +2,7 @@
 
 #include "foundation/FileRoutine.h"
 #include "foundation/State.h"
+#include "platform/desk/Desk.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,4 +68,12 @@ bool SaveMasterShoppingList()
 bool SaveCurrentShoppingList()
 {
     return SaveFile(u"Save Current Shopping List"_s, CurrentPath(), OldFile::MayBeMissing, CurrentFields<ListWriter>);
+}
+
+bool AcceptsListName(const QString &name, const QString &title)
+{
+    if (!name.contains(u'"'))
+        return true;
+    ShowMessage(u"The name of a list cannot have a quotation mark in it"_s, title, Icon::Warning, Buttons::Ok);
+    return false;
 }

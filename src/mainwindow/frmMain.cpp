@@ -358,11 +358,15 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
 {
     const auto open = [&] {
         ShowTutorPageIfRunning(entry.TutorPage);
-        const QString chosen =
-            TheDesk.AskFile({FileQuestion::Open, u"Store List Files (*.lst)|*.lst"_s, State.StoresDirectory, {}});
+        static const QRegularExpression separators(u"[\\\\/]"_s);
+        QString chosen;
+        do {
+            chosen =
+                TheDesk.AskFile({FileQuestion::Open, u"Store List Files (*.lst)|*.lst"_s, State.StoresDirectory, {}});
+            chosen = chosen.section(separators, -1);
+        } while (!AcceptsListName(chosen, u"Open Store File"_s));
         // A cancelled dialog goes on with the old name, which an edited settings file may give with folders.
-        const QString name = chosen.isEmpty() ? State.CurrentStoreFile : chosen;
-        State.CurrentStoreFile = name.section(QRegularExpression(u"[\\\\/]"_s), -1);
+        State.CurrentStoreFile = chosen.isEmpty() ? State.CurrentStoreFile.section(separators, -1) : chosen;
         if (TheWindows.Knows(WindowName::frmEnvironmentSettings))
             WindowField::StoreFile().setText(State.CurrentStoreFile);
         ShowCurrentList();

@@ -282,6 +282,8 @@ void frmCurrentShoppingList::AskForName()
         const QString chosen = TheDesk.AskFile(dlgSaveShoppingList);
         const QString name = chosen.section(separators, -1);
         State.CurrentStoreFile = State.CurrentStoreFile.section(separators, -1);
+        if (!AcceptsListName(name, u"Save Shopping List"_s))
+            continue;
         if (!name.isEmpty() && !IsUntitled(name) && !MayReplace(name, chosen))
             continue;
         if (!name.isEmpty())

@@ -1192,6 +1192,20 @@ private Q_SLOTS:
         QCOMPARE(ActiveWindow(), Main);
     }
 
+    void AStoreListWithAQuoteIsNotOpened()
+    {
+        GuiDesk desk;
+        DeclareToys();
+        desk.WriteFile(u"stores\\weekly.lst"_s, "0\r\n");
+        desk.StartProgram();
+        desk.FileAnswers = {desk.Path(u"stores\\our \"best\" list.lst"_s), u"/ho\"me/weekly.lst"_s};
+        Choose(u"mnuShopperOpenStoreList"_s);
+        QCOMPARE(desk.TakeMessage(), (Message{u"The name of a list cannot have a quotation mark in it"_s,
+                                              u"Open Store File"_s, Icon::Warning}));
+        QCOMPARE(desk.FileQuestions.size(), 2); // asked again; a folder's name does not matter
+        QCOMPARE(State.CurrentStoreFile, u"weekly.lst"_s);
+    }
+
     // The settings window rests the tutor's timer like every window that is loaded, seen or not.
     void OpeningAStoreListLoadsTheSettingsUnseen_data()
     {

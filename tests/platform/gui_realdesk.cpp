@@ -225,6 +225,7 @@ private Q_SLOTS:
         QTest::newRow("without an ending") << u"party"_s << u"party.lst"_s;
         QTest::newRow("with it") << u"party.lst"_s << u"party.lst"_s;
         QTest::newRow("with two") << u"untitled.lst.lst"_s << u"untitled.lst.lst"_s;
+        QTest::newRow("with quotes, which belong to it") << u"our \"best\" list.lst"_s << u"our \"best\" list.lst"_s;
         QTest::newRow("cancelled") << QString() << QString();
     }
     void ASavedNameGetsTheEndingOfItsFilter()

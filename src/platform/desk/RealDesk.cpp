@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -129,21 +130,29 @@ QString DialogStart(const FileQuestion &question)
 
 namespace {
 
+/// What was chosen. The toolkit takes quotes in the name field for marks around several names; here they belong to the
+/// name, so that whoever asked can tell the user what is wrong with it.
+QString ChosenFile(const QFileDialog &dialog)
+{
+    const auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (field && field->text().contains(QLatin1Char('"')))
+        return dialog.directory().filePath(field->text());
+    return dialog.selectedFiles().constFirst();
+}
+
 QString AskFile(const FileQuestion &question)
 {
-    const QString start = DialogStart(question);
+    const bool saves = question.TheKind == FileQuestion::Save;
     QString answer;
     TheWindows.WhileAway([&] {
-        if (question.TheKind == FileQuestion::Open) {
-            answer = QFileDialog::getOpenFileName(DialogParent(), QString(), start, DialogFilter(question.Filter));
-            return;
-        }
-        QFileDialog dialog(DialogParent(), QString(), start, DialogFilter(question.Filter));
-        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        QFileDialog dialog(DialogParent(), QString(), DialogStart(question), DialogFilter(question.Filter));
+        dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
         // A name without an ending gets the filter's, or the file would be found in no dialog again.
-        dialog.setDefaultSuffix(question.Filter.section(QLatin1Char('.'), -1));
+        if (saves)
+            dialog.setDefaultSuffix(question.Filter.section(QLatin1Char('.'), -1));
         if (dialog.exec() == QDialog::Accepted)
-            answer = dialog.selectedFiles().constFirst();
+            answer = ChosenFile(dialog);
     });
     return answer;
 }
