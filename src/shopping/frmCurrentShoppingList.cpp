@@ -48,6 +48,13 @@ constexpr int RowsBeside = 2; // the lines: the heading and the empty row
 const QString TitlePrefix = u"Current Shopping List - "_s;
 const QString Untitled = u"untitled.lst"_s;
 
+/// A file of another ending, as "St. John's" seems to have one, would be found in no dialog again.
+QString WithEnding(const QString &name)
+{
+    const QString ending = u".lst"_s;
+    return name.isEmpty() || name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
+}
+
 bool IsUntitled(const QString &name)
 {
     return name.toUpper() == Untitled.toUpper();
@@ -280,7 +287,7 @@ void frmCurrentShoppingList::AskForName()
     static const QRegularExpression separators(u"[\\\\/]"_s);
     for (;;) {
         const QString chosen = TheDesk.AskFile(dlgSaveShoppingList);
-        const QString name = chosen.section(separators, -1);
+        const QString name = WithEnding(chosen.section(separators, -1));
         State.CurrentStoreFile = State.CurrentStoreFile.section(separators, -1);
         if (!AcceptsListName(name, u"Save Shopping List"_s))
             continue;

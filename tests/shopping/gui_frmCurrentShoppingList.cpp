@@ -1042,8 +1042,13 @@ private Q_SLOTS:
             << u"weekly.lst"_s << QStringList{u"untitled.lst"_s, {}, u"party.lst"_s} << 2 << u"party.lst"_s;
         QTest::newRow("only that very name is refused")
             << u"weekly.lst"_s << QStringList{u"untitled.lst.lst"_s} << 0 << u"untitled.lst.lst"_s;
-        QTest::newRow("untitled without an ending")
-            << u"weekly.lst"_s << QStringList{u"untitled"_s} << 0 << u"untitled"_s;
+        QTest::newRow("untitled without an ending, which it gets before it is judged")
+            << u"weekly.lst"_s << QStringList{u"Untitled"_s, u"party.lst"_s} << 1 << u"party.lst"_s;
+        QTest::newRow("without an ending") << u"weekly.lst"_s << QStringList{u"party"_s} << 0 << u"party.lst"_s;
+        QTest::newRow("a point that begins no ending")
+            << u"weekly.lst"_s << QStringList{u"St. John's"_s} << 0 << u"St. John's.lst"_s;
+        QTest::newRow("the ending in capital letters")
+            << u"weekly.lst"_s << QStringList{u"PARTY.LST"_s} << 0 << u"PARTY.LST"_s;
         QTest::newRow("letters outside ASCII, commas, an apostrophe")
             << u"weekly.lst"_s << QStringList{u"Käse, 'fein'.lst"_s} << 0 << u"Käse, 'fein'.lst"_s;
     }
