@@ -262,18 +262,13 @@ bool frmCurrentShoppingList::cmdSave_Click()
     return saved;
 }
 
-/// Whether the user wants to replace another list of that name, which is asked where the file dialog has not: the list
-/// goes to the stores, but the dialog asks about the folder that was chosen and about that letter case.
-bool frmCurrentShoppingList::MayReplace(const QString &name, const QString &chosen) const
+/// Whether the user wants to replace another list of that name, which the file dialog does not ask: the list goes to
+/// the stores, whatever folder was chosen, and a name in other letters' case is the same there.
+bool frmCurrentShoppingList::MayReplace(const QString &name) const
 {
     const auto stored = [](const QString &file) { return QFileInfo(ExistingPath(State.StoresDirectory + file)); };
     const QFileInfo list = stored(name);
-    if (!list.exists() || list.canonicalFilePath() == stored(State.CurrentStoreFile).canonicalFilePath())
-        return true;
-    const bool dialogHasAsked = chosen == name // in the folder that the dialog opens in
-                                    ? list.fileName() == name
-                                    : list.canonicalFilePath() == QFileInfo(chosen).canonicalFilePath();
-    return dialogHasAsked ||
+    return !list.exists() || list.canonicalFilePath() == stored(State.CurrentStoreFile).canonicalFilePath() ||
            ShowMessage(u"There is a list "_s + list.fileName() + u" already. Would you like to replace it?"_s,
                        u"Save Shopping List"_s, Icon::Question, Buttons::YesNo) == Answer::Yes;
 }
@@ -282,16 +277,16 @@ bool frmCurrentShoppingList::MayReplace(const QString &name, const QString &chos
 /// out than a name.
 void frmCurrentShoppingList::AskForName()
 {
-    const FileQuestion dlgSaveShoppingList{
-        FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s, State.StoresDirectory, {}};
     static const QRegularExpression separators(u"[\\\\/]"_s);
     for (;;) {
-        const QString chosen = TheDesk.AskFile(dlgSaveShoppingList);
-        const QString name = WithEnding(chosen.section(separators, -1));
         State.CurrentStoreFile = State.CurrentStoreFile.section(separators, -1);
+        const FileQuestion dlgSaveShoppingList{FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s,
+                                               State.StoresDirectory,
+                                               IsUntitled(State.CurrentStoreFile) ? QString() : State.CurrentStoreFile};
+        const QString name = WithEnding(TheDesk.AskFile(dlgSaveShoppingList).section(separators, -1));
         if (!AcceptsListName(name, u"Save Shopping List"_s))
             continue;
-        if (!name.isEmpty() && !IsUntitled(name) && !MayReplace(name, chosen))
+        if (!name.isEmpty() && !IsUntitled(name) && !MayReplace(name))
             continue;
         if (!name.isEmpty())
             State.CurrentStoreFile = name;

@@ -26,5 +26,5 @@ private:
     bool cmdSave_Click();
     /// The name that the user gives the list. It becomes the open one's.
     void AskForName();
-    bool MayReplace(const QString &name, const QString &chosen) const;
+    bool MayReplace(const QString &name) const;
 };

@@ -253,6 +253,42 @@ private Q_SLOTS:
             {FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s, m_folder.path() + u'/', QString()});
         QCOMPARE(chosen, name.isEmpty() ? QString() : m_folder.filePath(name));
     }
+
+    void TheNameOfAFileIsGivenAndCanBeTypedOver_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("left as it is") << QString() << u"weekly.lst"_s;
+        QTest::newRow("typed over") << u"party"_s << u"party.lst"_s;
+    }
+    void TheNameOfAFileIsGivenAndCanBeTypedOver()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, name);
+        QFile old(m_folder.filePath(u"weekly.lst"_s)); // which is replaced without a question of the dialog's own
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.close();
+        ToyBox toys;
+        ShowWindows();
+        QTimer answerer;
+        connect(&answerer, &QTimer::timeout, this, [&] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            answerer.stop();
+            auto *field = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
+            QCOMPARE(field->text(), u"weekly.lst"_s);
+            QTest::keyClicks(field, typed);
+            QTest::keyClick(field, Qt::Key_Return);
+            if (QWidget *box = QApplication::activeModalWidget(); box && box != dialog)
+                QFAIL("a question");
+        });
+        answerer.start(20);
+        const QString chosen = TheDesk.AskFile(
+            {FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s, m_folder.path() + u'/', u"weekly.lst"_s});
+        QCOMPARE(chosen, m_folder.filePath(name));
+        old.remove();
+    }
 };
 
 REGISTER_TEST(gui_realdesk)

@@ -49,6 +49,9 @@ const Message NotUntitled{u"The name UNTITLED.LST cannot be used for your new li
                           "new list templates"_s,
                           u"Save Shopping List"_s, Icon::Warning};
 
+const Message ReplaceParty{u"There is a list party.lst already. Would you like to replace it?"_s,
+                           u"Save Shopping List"_s, Icon::Question, Buttons::YesNo};
+
 Message Told(const char *text, const QString &title)
 {
     return {QString::fromLatin1(text), title, Icon::Stop};
@@ -184,9 +187,9 @@ void LeaveAndReturn()
     Show(Window);
 }
 
-FileQuestion SaveQuestion(const RecordingDesk &desk)
+FileQuestion SaveQuestion(const RecordingDesk &desk, const QString &name)
 {
-    return {FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s, desk.Folder() + u"\\stores\\"_s, {}};
+    return {FileQuestion::Save, u"Store List Files (*.lst)|*.lst"_s, desk.Folder() + u"\\stores\\"_s, name};
 }
 
 constexpr int Arrival = 250; // milliseconds; a press that comes earlier is the one that has brought the user back
@@ -958,6 +961,8 @@ private Q_SLOTS:
         QTest::newRow("chosen in another folder") << u"/elsewhere"_s << u"party.lst"_s;
         QTest::newRow("another letter case") << u"stores"_s << u"PARTY.lst"_s;
         QTest::newRow("another letter case, a bare name") << QString() << u"PARTY.lst"_s;
+        QTest::newRow("the very file") << u"stores"_s << u"party.lst"_s;
+        QTest::newRow("its bare name") << QString() << u"party.lst"_s;
     }
     void AnotherListIsNotReplacedUnasked()
     {
@@ -969,41 +974,21 @@ private Q_SLOTS:
                                : folder.startsWith(u'/') ? folder + u'/' + name
                                                          : desk.Folder() + u'/' + folder + u'/' + name;
         Show(Window);
-        const Message replace{u"There is a list party.lst already. Would you like to replace it?"_s,
-                              u"Save Shopping List"_s, Icon::Question, Buttons::YesNo};
         desk.FileAnswers = {chosen, {}};
         desk.Answers = {Answer::No};
         Click(Window, u"cmdSave"_s);
-        QCOMPARE(desk.TakeMessage(), replace);
+        QCOMPARE(desk.TakeMessage(), ReplaceParty);
         QCOMPARE(desk.FileQuestions.size(), 2); // asked again, and cancelled
         QCOMPARE(State.CurrentStoreFile, u"weekly.lst"_s);
         QCOMPARE(desk.ReadFile(u"stores\\party.lst"_s), QByteArray("as it was"));
         desk.FileAnswers = {chosen};
         desk.Answers = {Answer::Yes};
         Click(Window, u"cmdSave"_s);
-        QCOMPARE(desk.TakeMessage(), replace);
+        QCOMPARE(desk.TakeMessage(), ReplaceParty);
         QCOMPARE(State.CurrentStoreFile, name);
         QCOMPARE(QDir(desk.Path(u"stores"_s)).entryList({u"party.lst"_s}, QDir::Files), QStringList{name});
         QVERIFY(desk.ReadFile(u"stores\\"_s + name).startsWith("3\r\n"));
         QVERIFY(desk.ReadFile(ListFile).startsWith("3\r\n")); // the list of before
-        desk.TakeFiles();
-    }
-
-    void WhatTheDialogHasAskedIsNotAskedAgain_data()
-    {
-        QTest::addColumn<bool>("bare");
-        QTest::newRow("a path") << false;
-        QTest::newRow("a bare name") << true;
-    }
-    void WhatTheDialogHasAskedIsNotAskedAgain()
-    {
-        QFETCH(bool, bare);
-        ShoppingDesk desk(Lines);
-        desk.WriteFile(u"stores\\party.lst"_s, "as it was");
-        Show(Window);
-        desk.FileAnswers = {bare ? u"party.lst"_s : desk.Folder() + u"/stores/party.lst"_s};
-        Click(Window, u"cmdSave"_s);
-        QVERIFY(desk.ReadFile(u"stores\\party.lst"_s).startsWith("3\r\n"));
         desk.TakeFiles();
     }
 
@@ -1063,7 +1048,12 @@ private Q_SLOTS:
         Show(Window);
         desk.FileAnswers = chosen;
         Click(Window, u"cmdSave"_s);
-        QCOMPARE(desk.FileQuestions, QList<FileQuestion>(chosen.size(), SaveQuestion(desk)));
+        // The dialog opens with the list's name, and without one where that would be refused.
+        const QString offered = before.endsWith(u"untitled.lst") ? QString() : before.section(u'\\', -1);
+        QCOMPARE(desk.FileQuestions.first(), SaveQuestion(desk, offered));
+        for (const FileQuestion &again : desk.FileQuestions.mid(1))
+            QCOMPARE(again, SaveQuestion(desk, {}));
+        QCOMPARE(desk.FileQuestions.size(), chosen.size());
         for (int i = 0; i < refusals; ++i)
             QCOMPARE(desk.TakeMessage(), NotUntitled);
         QCOMPARE(State.CurrentStoreFile, name);
@@ -1156,10 +1146,11 @@ private Q_SLOTS:
         Show(Window);
         desk.WriteFile(u"stores\\party.lst"_s, "as it was");
         MakeReadOnly(desk, u"stores\\party.lst"_s);
-        desk.Answers = {Answer::Yes};
+        desk.Answers = {Answer::Yes, Answer::Yes};
         desk.FileAnswers = {u"party.lst"_s};
         Click(Window, u"cmdNew"_s);
         QCOMPARE(desk.TakeMessage(), SaveFirst);
+        QCOMPARE(desk.TakeMessage(), ReplaceParty);
         QCOMPARE(desk.TakeMessage(), Told("Error 75: Path/File access error", u"Save Current Shopping List"_s));
         QCOMPARE(ShownRows(), Rows);
         QCOMPARE(int(State.NumberOfCurrentItems), 3);

@@ -148,9 +148,14 @@ QString AskFile(const FileQuestion &question)
         QFileDialog dialog(DialogParent(), QString(), DialogStart(question), DialogFilter(question.Filter));
         dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
         dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-        // A name without an ending gets the filter's, or the file would be found in no dialog again.
-        if (saves)
+        if (saves) {
+            // A name without an ending gets the filter's, or the file would be found in no dialog again.
             dialog.setDefaultSuffix(question.Filter.section(QLatin1Char('.'), -1));
+            // Only who saves knows which file that will be, and asks before one is replaced.
+            dialog.setOption(QFileDialog::DontConfirmOverwrite);
+            if (auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+                field->selectAll(); // what is typed takes the given name's place
+        }
         if (dialog.exec() == QDialog::Accepted)
             answer = ChosenFile(dialog);
     });
