@@ -2,6 +2,7 @@
 
 #include "foundation/Compaction.h"
 #include "foundation/OneMore.h"
+#include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 #include "shopping/CurrentList.h"
 #include "shopping/ListEdit.h"
@@ -107,6 +108,15 @@ bool FindLineOf(const MasterItemRecord &item)
 MasterItemRecord RecordOf(const ItemEntry &entry)
 {
     return {entry.Item, entry.Unit, ToCurrency(entry.UnitPrice), entry.Store, entry.Taxable};
+}
+
+MasterItemRecord AtHandWith(const ItemEntry &entry)
+{
+    const qint16 index = Shopping.MasterItemIndex;
+    const bool isRecord = index >= 1 && index <= State.MasterShoppingList.Size();
+    if (!isRecord || entry.UnitPrice != FormatCurrency(State.MasterShoppingList(index).UnitPrice))
+        return RecordOf(entry);
+    return {entry.Item, entry.Unit, State.MasterShoppingList(index).UnitPrice, entry.Store, entry.Taxable};
 }
 
 std::optional<Refusal> ValidateItem(const ItemEntry &entry)

@@ -34,6 +34,9 @@ struct ItemEntry {
 };
 /// Error 13 for a price that is no number, 6 for one beyond the range of Currency.
 MasterItemRecord RecordOf(const ItemEntry &entry);
+/// The record at hand with these fields. A price shows fewer decimals than its value may have: one that reads as the
+/// record's stands for the record's value. Errors as of RecordOf.
+MasterItemRecord AtHandWith(const ItemEntry &entry);
 
 /// The price must be a number; item and unit may not be empty. The store is not looked at.
 std::optional<Refusal> ValidateItem(const ItemEntry &entry);

@@ -257,7 +257,7 @@ void frmMasterShoppingList::SaveChanges()
     }
     const bool onList = ui.lblSelected->text() == OnList;
     // Where it cannot be saved, the window stays as it is, so that the user can try again.
-    if (!ChangeItemAndSave(RecordOf(entry), onList))
+    if (!ChangeItemAndSave(AtHandWith(entry), onList))
         return;
     FocusOn(ui.lstMasterShopper); // or the toolkit moves it on from the disabled button to the next one
     FillShelf(entry.Store);
@@ -295,7 +295,7 @@ void frmMasterShoppingList::PutInCart()
     if (!ui.imgCurrentShoppingList->isEnabled() || ui.lstMasterShopper->ListIndex() < 0)
         return;
     Trap([this] {
-        if (!PutOnCurrentList(RecordOf(Entry())))
+        if (!PutOnCurrentList(AtHandWith(Entry())))
             return;
         ui.lblSelected->setText(OnList);
         if (FocusControl() == ui.imgCurrentShoppingList)

@@ -949,6 +949,42 @@ private Q_SLOTS:
         desk.TakeFiles();
     }
 
+    void APriceThatIsNotTouchedKeepsItsDecimals()
+    {
+        MasterItemRecord fine = Soap;
+        fine.UnitPrice = Currency::FromTenThousandths(12345);
+        MasterDesk desk({Milk, fine, Bread});
+        OpenStore(u"Corner"_s);
+        ClickItem(u"Soap"_s);
+        QCOMPARE(TextOf(Window, u"txtUnitPrice"_s), u"$1.23"_s);
+        Type(Window, u"txtUnit"_s, u"box"_s);
+        Click(Window, u"cmdSaveChanges"_s);
+        QCOMPARE(Catalogue()[1], u"Soap box 1.2345 Corner Y"_s);
+        DropInCart(u"Soap"_s);
+        QCOMPARE(desk.TakeMessage(), Added(u"Soap"_s));
+        QCOMPARE(Lines(), QStringList{u"Soap box 1.2345 Corner Y x1 -0 =1.2345"_s});
+        GoAwayAndComeBack();
+        QCOMPARE(Selected(), u"Y"_s); // and not once more into the cart
+        Type(Window, u"txtUnitPrice"_s, u"1.24"_s);
+        Click(Window, u"cmdSaveChanges"_s);
+        QCOMPARE(Catalogue()[1], u"Soap box 1.24 Corner Y"_s);
+        QVERIFY(Lines().first().startsWith(u"Soap box 1.24 "_s));
+        desk.TakeFiles();
+    }
+
+    void ANewItemHasThePriceThatWasTyped()
+    {
+        MasterItemRecord fine = Soap;
+        fine.UnitPrice = Currency::FromTenThousandths(12345);
+        MasterDesk desk({fine});
+        OpenStore(u"Corner"_s);
+        ClickItem(u"Soap"_s);
+        AnswerTheDialog(u"Tea"_s, u"box"_s, u"1.23"_s, u"Corner"_s);
+        Click(Window, u"cmdAddToMaster"_s);
+        QCOMPARE(Catalogue().last(), u"Tea box 1.23 Corner N"_s);
+        desk.TakeFiles();
+    }
+
     void APriceBeyondMoneyIsAnUnknownError()
     {
         MasterDesk desk;
