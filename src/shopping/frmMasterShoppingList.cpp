@@ -9,6 +9,7 @@
 #include "shopping/StoreCombo.h"
 
 #include <QScopeGuard>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 using namespace Qt::Literals::StringLiterals;
@@ -73,8 +74,9 @@ void frmMasterShoppingList::Load()
 void frmMasterShoppingList::Activate()
 {
     Window::Activate();
-    // Not where the dialog has just left a new item in the fields: the selected one would take its place there.
-    if (!Shopping.AddItemAccepted)
+    // Not where the user comes back from the dialog: the selected item would take the place of the new one in the
+    // fields, or of what was typed there before a dialog that was cancelled.
+    if (!m_asksForItem)
         ClickItem();
 }
 
@@ -227,7 +229,10 @@ ItemEntry frmMasterShoppingList::Entry() const
 void frmMasterShoppingList::AddItem()
 {
     Shopping.AddItemAccepted = false;
-    TheWindows.ShowModal(WindowName::frmAddItem);
+    {
+        const QScopedValueRollback asking(m_asksForItem, true);
+        TheWindows.ShowModal(WindowName::frmAddItem);
+    }
     if (!Shopping.AddItemAccepted)
         return;
     bool added = false;

@@ -41,4 +41,5 @@ private:
 
     QMenu m_shelfMenu{this};
     QAction *m_putInCart = nullptr;
+    bool m_asksForItem = false; ///< the dialog for a new item is open
 };

@@ -707,6 +707,21 @@ private Q_SLOTS:
         QCOMPARE(SelectedRow(Window, List), RowOf(u"Soap"_s));
     }
 
+    void ACancelledDialogKeepsWhatWasTyped()
+    {
+        const MasterDesk desk;
+        OpenStore(u"Corner"_s);
+        ClickItem(u"Soap"_s);
+        Type(Window, u"txtItem"_s, u"Bath Soap"_s);
+        Type(Window, u"txtUnitPrice"_s, u"1.75"_s);
+        QTimer::singleShot(0, qApp, [] { Click(Dialog, u"cmdCancel"_s); });
+        Click(Window, u"cmdAddToMaster"_s);
+        QCOMPARE(Shown(), u"Bath Soap | bar | $1.75 | Corner | taxable"_s);
+        QCOMPARE(Enabled(Window, Buttons_), AllCart);
+        GoAwayAndComeBack(); // from any other window the selected item is clicked again
+        QCOMPARE(Shown(), u"Soap | bar | $1.50 | Corner | taxable"_s);
+    }
+
     void EscInTheDialogAddsNothing()
     {
         const MasterDesk desk;
