@@ -482,6 +482,24 @@ private Q_SLOTS:
             QCOMPARE(desk.ReadFile(u"regulars.txt"_s), FamilyRegulars);
     }
 
+    void WithoutAnyFileEachStepSaysSoInItsTurn()
+    {
+        FakeDesk desk;
+        LayOldHousehold(desk);
+        for (const QString &name : {u"creditor.txt"_s, u"regulars.txt"_s, u"extra.txt"_s, u"projects.txt"_s,
+                                    u"mastshop.txt"_s, u"environm.ini"_s, u"stores\\untitled.lst"_s})
+            desk.RemoveFile(name);
+        SaveProfile(FamilySetup());
+        QStringList titles;
+        for (const Message &message : std::exchange(desk.Messages, {}))
+            if (titles.isEmpty() || titles.last() != message.Title) // a loader says two things
+                titles += message.Title;
+        QCOMPARE(titles,
+                 (QStringList{u"Initialize Files"_s, u"Save Environment Settings"_s, u"Save Creditors"_s,
+                              u"Save Regulars"_s, u"Input Creditors"_s, u"Input Regulars"_s, u"Input Pay Periods"_s,
+                              u"Input Projects"_s, u"Input Master Shopping List"_s, u"Input Current Shopping List"_s}));
+    }
+
     void AMissingListKeepsItsOldCountInMemory()
     {
         FakeDesk desk;
