@@ -88,7 +88,7 @@ frmGettingStarted::frmGettingStarted()
     OnClickTrapped(ui.cmdNextBS6, [this] { cmdNextBS6_Click(); });
     OnClickTrapped(ui.cmdNextBS7, [this] { cmdNextBS7_Click(); });
     OnClickTrapped(ui.cmdNextBS8, [this] { cmdNextBS8_Click(); });
-    OnClickTrapped(ui.cmdNextBS9, [this] { cmdNextBS9_Click(); });
+    OnClickTrapped(ui.cmdNextBS9, [this] { ShowOverheadSummary(); });
     OnClick(ui.cmdNextBS10, [this] { BringToFront(ui.pnlStartBudget11); });
     OnClick(ui.cmdSaveBS11, [this] { cmdSaveBS11_Click(); });
     connect(&optPayFrequency, &QButtonGroup::idClicked, this, &frmGettingStarted::PressedAgain);
@@ -201,8 +201,6 @@ void frmGettingStarted::EnterGoesOn()
 
 void frmGettingStarted::Load()
 {
-    PayOptionClicked = false;
-    m_setup = {};
     TheWindows.Hide(WindowName::frmMain);
 }
 
@@ -261,6 +259,21 @@ void frmGettingStarted::Change(const std::function<void(BudgetSetup &)> &steps)
     m_setup = std::move(changed);
 }
 
+bool frmGettingStarted::ValidateTakeHomePay()
+{
+    return Accepts(TakeHomePayRules);
+}
+
+bool frmGettingStarted::ValidateSetupCreditor()
+{
+    return Accepts(CreditorRules);
+}
+
+bool frmGettingStarted::ValidateSetupRegular()
+{
+    return Accepts(RegularRules);
+}
+
 void frmGettingStarted::cmdNextBS1_Click()
 {
     if (!Accepts(IncomesRules))
@@ -282,7 +295,7 @@ void frmGettingStarted::AskForIncome()
 
 void frmGettingStarted::cmdNextBS2_Click()
 {
-    if (!Accepts(TakeHomePayRules))
+    if (!ValidateTakeHomePay())
         return;
     Change([this](BudgetSetup &setup) {
         TakeIncome(setup, ui.txtAverageTakeHomePay->text(), BudgetFrequencyNames()[optPayFrequencyWE.Selected()]);
@@ -361,7 +374,7 @@ void frmGettingStarted::AskForCreditor()
 
 void frmGettingStarted::cmdNextBS6_Click()
 {
-    if (!Accepts(CreditorRules))
+    if (!ValidateSetupCreditor())
         return;
     Change([this](BudgetSetup &setup) {
         TakeCreditor(setup, ui.txtCreditorDueDate->text(), ui.txtCreditorAmount->text(), ui.txtCreditor->text());
@@ -401,7 +414,7 @@ void frmGettingStarted::AskForRegular()
 
 void frmGettingStarted::cmdNextBS8_Click()
 {
-    if (!Accepts(RegularRules))
+    if (!ValidateSetupRegular())
         return;
     Change([this](BudgetSetup &setup) {
         TakeRegular(setup, ui.txtRegularItemAmount->text(), ui.txtRegularItem->text());
@@ -420,7 +433,7 @@ void frmGettingStarted::ShowExpenseSummary()
     BringToFront(ui.pnlStartBudget9);
 }
 
-void frmGettingStarted::cmdNextBS9_Click()
+void frmGettingStarted::ShowOverheadSummary()
 {
     Change(AddUpOverhead);
     ui.lblOverheadSummary->setText(OverheadSummary(m_setup));

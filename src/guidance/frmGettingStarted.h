@@ -41,6 +41,9 @@ private:
     void ShowStep();
     void Change(const std::function<void(BudgetSetup &)> &steps);
 
+    bool ValidateTakeHomePay();
+    bool ValidateSetupCreditor();
+    bool ValidateSetupRegular();
     void cmdNextBS1_Click();
     void cmdNextBS2_Click();
     void cmdNextBS3_Click();
@@ -48,7 +51,6 @@ private:
     void cmdNextBS6_Click();
     void cmdNextBS7_Click();
     void cmdNextBS8_Click();
-    void cmdNextBS9_Click();
     void cmdSaveBS11_Click();
     void optPayFrequency_Click(int index);
     void PressedAgain(int index);
@@ -57,9 +59,11 @@ private:
     void AskForCreditor();
     void AskForRegular();
     void ShowExpenseSummary();
+    void ShowOverheadSummary();
     void ShowFrequencyHint();
     static void WorkIn(const QString &window, qint32 route, qint16 step, int tutorPage);
 
+    // As at the start in each instance, which a load brings into being.
     QList<Route> m_routes;
     BudgetSetup m_setup;
     int m_roomFor = 0; ///< the width in which the panels were measured last
