@@ -77,18 +77,31 @@ void frmTallymereTutor::imgTallymereTutor_Click()
     }
 }
 
-/// The frame is the window manager's and comes with the showing; that of the window in front tells how thick it will
-/// be.
+/// The frame is the window manager's and comes with the showing; until then that of the window in front tells how thick
+/// it will be.
 void frmTallymereTutor::MoveToTheCorner()
 {
     const Form *front = TheWindows.Front();
-    const QSize frame = front ? front->frameGeometry().size() - front->geometry().size() : QSize(0, 0);
+    QMargins frame;
+    for (const QWidget *framed : {static_cast<const QWidget *>(this), static_cast<const QWidget *>(front)})
+        if (frame.isNull() && framed && framed->windowHandle())
+            frame = framed->windowHandle()->frameMargins();
+    const QSize size = QRect(QPoint(), this->size()).marginsAdded(frame).size();
     const QRect room = screen()->availableGeometry();
-    const QPoint corner(room.left() + room.width() - width() - frame.width(),
-                        room.top() + room.height() - height() - frame.height());
+    const QPoint corner(room.left() + room.width() - size.width(), room.top() + room.height() - size.height());
     move(corner);
     if (windowHandle())
         windowHandle()->setFramePosition(corner);
+}
+
+/// The window manager has put its frame around the window, which has pushed it out of its corner.
+void frmTallymereTutor::moveEvent(QMoveEvent *event)
+{
+    Window::moveEvent(event);
+    if (m_framed || !windowHandle() || windowHandle()->frameMargins().isNull())
+        return;
+    m_framed = true;
+    MoveToTheCorner();
 }
 
 frmTallymereTutor &TheTutor()

@@ -17,11 +17,15 @@ public:
     void TurnTo(int page);
     void ShowTeacher(Teacher pose);
 
+protected:
+    void moveEvent(QMoveEvent *event) override;
+
 private:
     void imgTallymereTutor_Click();
     void GiveThePageItsRoom();
     void MoveToTheCorner();
 
+    bool m_framed = false;
     qint16 TutorFrozen = 0; ///< 1 after a click on the teacher, until the next one
 };
 

@@ -148,6 +148,16 @@ class Person:
             return max(abs(x + width / 2 - left - wide / 2), abs(y + height / 2 - top - high / 2))
         self.until(lambda: offset() <= 24, lambda: f"{window} is {offset()} pixels off the middle of {caller}")
 
+    def see_in_the_corner(self, window, frame=12):
+        """Waits until the window stands in the lower right corner of the screen with a frame around it, all of it seen."""
+        size = subprocess.run(["xdotool", "getdisplaygeometry"], check=True, capture_output=True, text=True).stdout
+        right, bottom = map(int, size.split())
+
+        def gaps():
+            x, y, width, height = self.look()["windows"].get(window, {"rect": (0, 0, 0, 0)})["rect"]
+            return right - x - width, bottom - y - height
+        self.until(lambda: all(0 < gap <= frame for gap in gaps()), lambda: f"{window} is {gaps()} off the corner")
+
     def see_title_bar(self, window):
         """Waits until there is room for the window's title bar on the screen: its contents begin below the upper edge."""
         def top():
