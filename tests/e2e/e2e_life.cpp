@@ -522,6 +522,26 @@ private Q_SLOTS:
         QVERIFY(!QGuiApplication::focusWindow());
     }
 
+    void AWindowThatIsOnlyLookedAtComesBackFromTheTaskBarBesideTheUser()
+    {
+        ToyBox toys;
+        ShowAtRest("A", Left);
+        Show("T");
+        QTRY_VERIFY(toys["T"].windowHandle()->isExposed());
+        toys["T"].showMinimized();
+        QTRY_VERIFY(!toys["T"].windowHandle()->isExposed());
+        toys["A"].activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &toys["A"]);
+        QTest::qWait(1000); // whatever was expected has come
+        TakeLog();
+        Show("T");
+        QTRY_VERIFY(toys["T"].windowHandle()->isExposed());
+        Linger();
+        QCOMPARE(TakeLog(), QStringList());
+        QVERIFY(TypeText("4"));
+        QTRY_COMPARE(toys["A"].First->text(), "4");
+    }
+
     void AWindowThatIsOnlyLookedAtIsEnteredWhereTheUserAskedForIt()
     {
         ToyBox toys;
