@@ -31,9 +31,14 @@ bool frmProjects::eventFilter(QObject *watched, QEvent *event)
     if (watched == ui.txtProjectCompletionDate && ui.txtProjectCompletionDate->isEnabled()) {
         if (event->type() == QEvent::MouseMove)
             TellHowToPick();
-        if (event->type() == QEvent::MouseButtonDblClick ||
-            (event->type() == QEvent::KeyPress && IsKeyPress(*static_cast<QKeyEvent *>(event)))) {
+        if (event->type() == QEvent::MouseButtonDblClick) {
             PickCompletionDate();
+            return true;
+        }
+        if (event->type() == QEvent::KeyPress && IsKeyPress(*static_cast<QKeyEvent *>(event))) {
+            const bool held = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+            if (!held) // by the user who has come here with the key still down
+                PickCompletionDate();
             return true;
         }
     }

@@ -275,6 +275,32 @@ private Q_SLOTS:
         QCOMPARE(State.ProjectDateFromForecast, opens);
     }
 
+    void AKeyThatIsHeldInTheDateOpensNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a letter") << int(Qt::Key_J) << u"j"_s;
+        QTest::newRow("Backspace") << int(Qt::Key_Backspace) << u"\b"_s;
+        QTest::newRow("Enter") << int(Qt::Key_Return) << u"\r"_s;
+        QTest::newRow("Esc") << int(Qt::Key_Escape) << u"\x1b"_s;
+    }
+    void AKeyThatIsHeldInTheDateOpensNothing()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, text);
+        CommitmentsDesk desk;
+        Open(desk, "1\r\n" + Boat);
+        ClickRow(Window, List, 0);
+        auto &date = Find<QLineEdit>(Window, Date);
+        TheWindows.Loaded(Window)->FocusOn(&date);
+        QTest::simulateEvent(&date, true, Qt::Key(key), Qt::NoModifier, text, true);
+        Settle();
+        QVERIFY(!IsShown(ForecastWindow));
+        QVERIFY(!State.ProjectDateFromForecast);
+        QVERIFY(IsShown(Window));
+        QCOMPARE(date.text(), u"January 8, 2004"_s);
+    }
+
     void AfterThePickTheFocusIsOnNewIfItIsEnabled_data()
     {
         QTest::addColumn<QString>("project");
