@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrinterInfo>
+#include <QScreen>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -216,6 +217,78 @@ private Q_SLOTS:
         QFile file(said);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().startsWith("No printer could be used."));
+    }
+
+    // A message about a field is read beside it. Where neither the room below nor that above is enough, it is centred.
+    void ABoxLeavesTheFieldInSight_data()
+    {
+        QTest::addColumn<int>("top"); // of the window, in percent of the screen's free height
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("below it") << 30 << 1 << "below";
+        QTest::newRow("above it, at the screen's end") << 92 << 1 << "above";
+        QTest::newRow("clear of it anyway") << 0 << 1 << "clear";
+        QTest::newRow("no room") << 40 << 40 << "over";
+    }
+    void ABoxLeavesTheFieldInSight()
+    {
+        QFETCH(int, top);
+        QFETCH(int, lines);
+        QFETCH(QString, place);
+        ToyBox toys;
+        ShowWindows();
+        ToyWindow &window = toys["B"];
+        const QRect room = window.screen()->availableGeometry();
+        window.move(room.left() + 100, room.top() + room.height() * top / 100);
+        const bool clear = place == u"clear"_s;
+        if (clear)
+            window.resize(window.width(), 600); // with the first field far above its middle
+        QLineEdit *marked = clear ? window.First : window.Second;
+        window.FocusOn(marked);
+        Settle();
+        const QRect field(marked->mapToGlobal(QPoint()), marked->size());
+        QRect box;
+        QTimer answerer;
+        connect(&answerer, &QTimer::timeout, this, [&] {
+            if (QWidget *shown = QApplication::activeModalWidget()) {
+                answerer.stop();
+                box = shown->frameGeometry();
+                shown->close();
+            }
+        });
+        answerer.start(20);
+        ShowMessage(u"A line that is refused\n"_s.repeated(lines), u"B"_s, Icon::Stop);
+        QVERIFY2(room.contains(box) || place == u"over"_s, qPrintable(QDebug::toString(box)));
+        if (clear) {
+            QVERIFY(qAbs(box.center().y() - window.frameGeometry().center().y()) < 30);
+            return;
+        }
+        const QString found = box.top() > field.bottom()   ? u"below"_s
+                              : box.bottom() < field.top() ? u"above"_s
+                                                           : u"over"_s;
+        QCOMPARE(found, place);
+        QVERIFY(qAbs(box.center().x() - window.frameGeometry().center().x()) < 60 || place == u"over"_s);
+    }
+
+    void ABoxWithoutAFieldStandsOverItsWindow()
+    {
+        ToyBox toys;
+        ShowWindows();
+        ToyWindow &window = toys["B"];
+        window.FocusOn(window.Button);
+        QPoint middle;
+        QTimer answerer;
+        connect(&answerer, &QTimer::timeout, this, [&] {
+            if (QWidget *shown = QApplication::activeModalWidget()) {
+                answerer.stop();
+                middle = shown->geometry().center();
+                shown->close();
+            }
+        });
+        answerer.start(20);
+        window.move(250, 250);
+        ShowMessage(u"done"_s, u"B"_s, Icon::Stop);
+        QVERIFY((middle - window.geometry().center()).manhattanLength() < 30);
     }
 
     void ASavedNameGetsTheEndingOfItsFilter_data()

@@ -17,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QScreen>
 #include <QTimer>
 #include <cstdlib>
 #include <memory>
@@ -43,7 +44,8 @@ QWidget *DialogParent()
     return front && !front->isMinimized() ? front : nullptr;
 }
 
-/// A box that stays, where the message wants it, until one of its buttons is pressed.
+/// A box that leaves in sight what it is about, and stays, where the message wants it, until one of its buttons is
+/// pressed.
 class Box : public QMessageBox
 {
 public:
@@ -61,6 +63,28 @@ protected:
             event->ignore();
         else
             QMessageBox::closeEvent(event);
+    }
+
+    /// Before it goes to the screen: the toolkit centres it over the window, and it moves below or above the field with
+    /// the focus, which it may be about.
+    void showEvent(QShowEvent *event) override
+    {
+        QMessageBox::showEvent(event);
+        const auto *form = qobject_cast<const Form *>(parentWidget());
+        const auto *field = form ? qobject_cast<const QLineEdit *>(form->FocusControl()) : nullptr;
+        if (!field)
+            return;
+        constexpr int gap = 8;
+        const int titleBar = form->geometry().top() - form->frameGeometry().top();
+        const QRect box = geometry().adjusted(0, -titleBar, 0, 0);
+        const QRect kept(field->mapToGlobal(QPoint()), field->size());
+        const QRect room = form->screen()->availableGeometry();
+        if (!box.intersects(kept))
+            return;
+        if (kept.bottom() + gap + box.height() <= room.bottom())
+            move(x(), kept.bottom() + gap);
+        else if (kept.top() - gap - box.height() >= room.top())
+            move(x(), kept.top() - gap - box.height());
     }
 
 private:
