@@ -142,6 +142,26 @@ private Q_SLOTS:
         QVERIFY(!TheWindows.Loaded(Window));
     }
 
+    // Each press counts its time anew, as a hand does that goes on clicking.
+    void AThirdPressBelongsToTheSecond()
+    {
+        GuiDesk desk;
+        NameCreditors({u"Card"_s, u"Store"_s, u"Doctor"_s});
+        Show(Window);
+        EnterFigures(u"100"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        const int usual = QApplication::doubleClickInterval();
+        QApplication::setDoubleClickInterval(2000);
+        EnterFigures(u"200"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
+        QCOMPARE(Debt.LoopIndex, qint16(3));
+        for (int press = 2; press <= 3; ++press) {
+            QTest::qWait(1200);
+            Click(Window, u"cmdOK"_s);
+        }
+        QApplication::setDoubleClickInterval(usual);
+        QVERIFY(desk.Messages.isEmpty()); // zeros would be refused
+        QCOMPARE(Debt.LoopIndex, qint16(3));
+    }
+
     void OkHeldDownIsOneClick()
     {
         GuiDesk desk;

@@ -114,14 +114,17 @@ private Q_SLOTS:
     void EscIsItsCloseBox_data()
     {
         QTest::addColumn<bool>("held");
+        QTest::addColumn<int>("modifiers");
         QTest::addColumn<QString>("control");
-        QTest::newRow("in the field") << false << u"txtInput"_s;
-        QTest::newRow("on the button") << false << u"cmdOK"_s;
-        QTest::newRow("held down since the question before") << true << u"txtInput"_s;
+        QTest::newRow("in the field") << false << 0 << u"txtInput"_s;
+        QTest::newRow("on the button") << false << 0 << u"cmdOK"_s;
+        QTest::newRow("held down since the question before") << true << 0 << u"txtInput"_s;
+        QTest::newRow("with Ctrl it is another key") << false << int(Qt::ControlModifier) << u"txtInput"_s;
     }
     void EscIsItsCloseBox()
     {
         QFETCH(bool, held);
+        QFETCH(int, modifiers);
         QFETCH(QString, control);
         GuiDesk desk;
         Debt.InputResult = u"before"_s;
@@ -130,13 +133,13 @@ private Q_SLOTS:
         QTimer::singleShot(0, [&] {
             QWidget &receiver = Find(Input, control);
             static_cast<Form *>(receiver.window())->FocusOn(&receiver);
-            QTest::simulateEvent(&receiver, true, Qt::Key_Escape, Qt::NoModifier, u"\x1b"_s, held);
+            QTest::simulateEvent(&receiver, true, Qt::Key_Escape, Qt::KeyboardModifiers(modifiers), u"\x1b"_s, held);
             stayed = IsShown(Input);
             if (stayed)
                 CloseByFrame(Input);
         });
         TheWindows.ShowModal(Input);
-        QCOMPARE(stayed, held);
+        QCOMPARE(stayed, held || modifiers);
         QVERIFY(!TheWindows.Loaded(Input));
         QCOMPARE(Debt.InputResult, u"before"_s);
     }

@@ -163,8 +163,10 @@ private Q_SLOTS:
         QScrollBar &bar = *TheGrid().verticalScrollBar();
         bar.setValue(bar.maximum());
         QVERIFY(bar.value() > 0);
+        TheGrid().SetCurrentRow(1500);
         Plan({{u"Long"_s, u"3000"_s, u"0"_s, u"1"_s, u"1/1/2004"_s}});
         QCOMPARE(bar.value(), 0);
+        QCOMPARE(TheGrid().CurrentRow(), 0); // nothing is marked in it
         QCOMPARE(TheGrid().Text(3000, 6), u"$0.00"_s);
     }
 

@@ -287,6 +287,7 @@ private Q_SLOTS:
         EnterFigures(u"200"_s, u"0"_s, u"50"_s, u"1/1/2004"_s);
         QCOMPARE(Debt.LoopIndex, qint16(3));
         Type(Info, u"txtBalanceOwed"_s, u"77"_s);
+        TheWindows.Loaded(Info)->FocusOn(&Find(Info, u"txtDueDate"_s));
         Show(PayOff);
         Show(Info);
         QCOMPARE(Debt.LoopIndex, qint16(1));
