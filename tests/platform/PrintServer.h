@@ -1,6 +1,6 @@
-// A print server with one printer, "Office", which the toolkit finds by the network as it finds any other. It prints
-// nothing, and tells what it was sent. It understands as much of the Internet Printing Protocol (RFC 8010, RFC 8011) as
-// the toolkit's client asks.
+// A print server with two printers, "Office" and "Attic", which the toolkit finds by the network as it finds any other.
+// It prints nothing, and tells what it was sent; Office is the default one. It understands as much of the Internet
+// Printing Protocol (RFC 8010, RFC 8011) as the toolkit's client asks.
 #pragma once
 
 #include <QHash>
@@ -51,7 +51,7 @@ public:
         const QMutexLocker lock(&m_mutex);
         return std::exchange(m_jobs, {});
     }
-    /// Takes the printer away, as when it is switched off, or gives it back.
+    /// Takes the printers away, as when the server is switched off, or gives them back.
     void SetPresent(bool on)
     {
         const QMutexLocker lock(&m_mutex);
@@ -165,20 +165,22 @@ private:
             answer += char(JobGroup);
             answer += Value(Integer, "job-id", Bytes(1, 4)) + Value(Enum, "job-state", Bytes(3, 4));
         } else if (m_isPresent) {
-            constexpr int bothSides = 0x10, inColour = 0x08;
-            answer += char(PrinterGroup);
-            answer += Value(Name, "printer-name", "Office") + Value(Uri, "printer-uri-supported", Address()) +
-                      Value(Enum, "printer-type", Bytes(bothSides + inColour, 4)) +
-                      Value(Enum, "printer-state", Bytes(3, 4)) + Value(Text, "printer-info", "Office printer") +
-                      Value(Boolean, "printer-is-accepting-jobs", Bytes(1, 1)) +
-                      Value(Text, "printer-make-and-model", "Test") + Value(Keyword, "printer-state-reasons", "none");
+            answer += PrinterValues(request.contains("/printers/Attic") ? "Attic" : "Office");
+            if (operation == GetPrinters)
+                answer += PrinterValues("Attic");
         }
         return answer + char(EndOfGroups);
     }
 
-    QByteArray Address() const
+    QByteArray PrinterValues(const QByteArray &name) const
     {
-        return "ipp://localhost:" + QByteArray::number(m_server.serverPort()) + "/printers/Office";
+        constexpr int bothSides = 0x10, inColour = 0x08;
+        const QByteArray address = "ipp://localhost:" + QByteArray::number(m_server.serverPort()) + "/printers/" + name;
+        return char(PrinterGroup) + Value(Name, "printer-name", name) + Value(Uri, "printer-uri-supported", address) +
+               Value(Enum, "printer-type", Bytes(bothSides + inColour, 4)) + Value(Enum, "printer-state", Bytes(3, 4)) +
+               Value(Text, "printer-info", name + " printer") +
+               Value(Boolean, "printer-is-accepting-jobs", Bytes(1, 1)) +
+               Value(Text, "printer-make-and-model", "Test") + Value(Keyword, "printer-state-reasons", "none");
     }
 
     /// Keeps the settings of a job, or the document that belongs to them.

@@ -87,7 +87,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_folder.isValid());
         m_server = std::make_unique<PrintServer>();
-        QCOMPARE(QPrinterInfo::availablePrinterNames(), QStringList{u"Office"_s});
+        QCOMPARE(QPrinterInfo::availablePrinterNames(), (QStringList{u"Attic"_s, u"Office"_s}));
     }
     void init()
     {
@@ -107,17 +107,25 @@ private Q_SLOTS:
     {
         const PrintedJob job = Print(u"Budget"_s);
         QCOMPARE(job.Settings.value("job-name"), "Budget");
+        QVERIFY(job.Settings.value("printer-uri").endsWith("/Office"));
         QCOMPARE(LinesOf(job), (QStringList{u"first line of Budget"_s, u"last line of Budget"_s}));
     }
 
     void TheChosenPrinterPrintsEveryLaterDocument()
     {
-        QVERIFY(Choose([](QDialog &dialog) { QCOMPARE(PrintersOf(dialog).currentText(), u"Office"_s); }));
+        QVERIFY(Choose([](QDialog &dialog) {
+            QCOMPARE(PrintersOf(dialog).currentText(), u"Office"_s);
+            PrintersOf(dialog).setCurrentText(u"Attic"_s);
+        }));
         for (const QString &name : {u"Budget"_s, u"Overhead"_s}) {
             const PrintedJob job = Print(name);
+            QVERIFY(job.Settings.value("printer-uri").endsWith("/Attic"));
             QCOMPARE(job.Settings.value("job-name"), name.toUtf8());
             QCOMPARE(LinesOf(job), (QStringList{u"first line of "_s + name, u"last line of "_s + name}));
         }
+        // The next choice starts there.
+        QVERIFY(Choose([](QDialog &dialog) { QCOMPARE(PrintersOf(dialog).currentText(), u"Attic"_s); }));
+        QVERIFY(Print(u"Budget"_s).Settings.value("printer-uri").endsWith("/Attic"));
     }
 
     void ThereAndBackBetweenPrinterAndFile()
@@ -128,9 +136,11 @@ private Q_SLOTS:
         QVERIFY(QDir(PrintedFolder()).removeRecursively());
         QVERIFY(Choose([](QDialog &dialog) {
             QCOMPARE(PrintersOf(dialog).currentIndex(), PrintersOf(dialog).count() - 1);
-            PrintersOf(dialog).setCurrentIndex(0);
+            PrintersOf(dialog).setCurrentText(u"Office"_s);
         }));
-        QCOMPARE(LinesOf(Print(u"Budget"_s)).size(), 2);
+        const PrintedJob job = Print(u"Budget"_s);
+        QCOMPARE(LinesOf(job).size(), 2);
+        QCOMPARE(job.Settings.value("media"), "A4"); // its own paper, and not that of the file
     }
 
     // A printer has copies and two sides; a file has not.
@@ -152,7 +162,7 @@ private Q_SLOTS:
                 QVERIFY(!IsEnabled(dialog, "copies"));
                 QVERIFY(!IsEnabled(dialog, "collate") && !IsEnabled(dialog, "noDuplex") && !IsEnabled(dialog, "color"));
                 QVERIFY(IsEnabled(dialog, "filename") && IsEnabled(dialog, "fileBrowser"));
-                PrintersOf(dialog).setCurrentIndex(0);
+                PrintersOf(dialog).setCurrentText(u"Office"_s);
                 check(false);
             },
             QDialogButtonBox::Cancel);
@@ -224,6 +234,9 @@ private Q_SLOTS:
             QTest::mouseClick(&Part<QPushButton>(dialog, u"properties"_s), Qt::LeftButton);
         }));
         QCOMPARE(Print(u"Budget"_s).Settings.value("media"), "A5");
+        // Another printer has its own.
+        QVERIFY(Choose([](QDialog &dialog) { PrintersOf(dialog).setCurrentText(u"Attic"_s); }));
+        QCOMPARE(Print(u"Budget"_s).Settings.value("media"), "A4");
     }
 
     void TheMarginsAreThoseOfEveryReport()
@@ -237,7 +250,7 @@ private Q_SLOTS:
         QVERIFY(Choose([](QDialog &) {}));
         QVERIFY(qAbs(left(Print(u"Budget"_s)) - usual) < 1);
         QVERIFY(Choose([](QDialog &dialog) { PrintersOf(dialog).setCurrentIndex(PrintersOf(dialog).count() - 1); }));
-        QVERIFY(Choose([](QDialog &dialog) { PrintersOf(dialog).setCurrentIndex(0); }));
+        QVERIFY(Choose([](QDialog &dialog) { PrintersOf(dialog).setCurrentText(u"Office"_s); }));
         QVERIFY(qAbs(left(Print(u"Budget"_s)) - usual) < 1);
         // Others that the user wants hold.
         QVERIFY(Choose([](QDialog &dialog) {
