@@ -8,6 +8,9 @@ packages_to_run=(
     ninja-build         # carries it out
     qt6-base-dev        # Qt 6: core, widgets, printing, and what runs them under X
     qt6-svg-dev         # draws the icons
+    qt6-tools-dev       # the engine that the help is read with
+    qt6-documentation-tools # makes the help file of the pages
+    libqt6sql6-sqlite   # the tables in which that file keeps them
     libxcb1-dev         # talks to the X server about windows of other programs
     libxcb-ewmh-dev     # the same in the terms of today's window managers
     libxcb-icccm4-dev   # and in those that all windows share
@@ -25,6 +28,8 @@ packages_to_test=(
     wmctrl              # lists and activates windows
     x11-utils           # xprop, xwininfo: looks at windows from outside
     poppler-utils       # pdftotext: reads what was printed
+    hunspell            # looks at the spelling of the help
+    hunspell-en-us      # its American words
     libbenchmark-dev    # the benchmarks
     python3             # the end-to-end tests' scripts
     clang               # builds the fuzz target
