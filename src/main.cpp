@@ -1,5 +1,6 @@
 #include "Windows.h"
 #include "foundation/Identity.h"
+#include "foundation/State.h"
 #include "mainwindow/EndOfSession.h"
 #include "platform/controls/Icons.h"
 #include "platform/desk/RealDesk.h"
@@ -13,7 +14,11 @@ int main(int argc, char **argv)
 {
     Application application(argc, argv, ProgramName);
     application.setWindowIcon(ThemedIcon(ProgramName.toLower()));
-    InstallRealDesk(AppTitle, QCoreApplication::applicationDirPath() + QStringLiteral("/printed"));
+    const QString folder = QCoreApplication::applicationDirPath();
+    InstallRealDesk(AppTitle, folder + QStringLiteral("/printed"), [folder] {
+        // The first windows stand there before the state is filled.
+        return State.HelpFile.isEmpty() ? folder + HelpFileName : State.HelpFile;
+    });
     RegisterWindows();
     QObject::connect(&application, &Application::SaveRequested, SaveWithoutQuestion);
     QObject::connect(&application, &Application::EndRequested, LeaveWithoutQuestion);

@@ -1,6 +1,7 @@
 #include "foundation/StartAndEnd.h"
 
 #include "foundation/BudgetFiles.h"
+#include "foundation/Identity.h"
 #include "foundation/ShoppingFiles.h"
 #include "foundation/State.h"
 #include "platform/desk/Desk.h"
@@ -26,7 +27,7 @@ void InitializeVariables()
     State.InitializingVariables = true;
     State.ApplicationPath = TheDesk.ProgramFolder();
     State.StoresDirectory = State.ApplicationPath + QStringLiteral("\\stores\\");
-    State.HelpFile = State.ApplicationPath + QStringLiteral("\\help\\budget help.hlp");
+    State.HelpFile = State.ApplicationPath + HelpFileName;
 
     ReadEnvironmentSettings(step);
     if (abandoned)

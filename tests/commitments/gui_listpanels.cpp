@@ -861,7 +861,7 @@ private Q_SLOTS:
         QTest::keyClick(&Find(panel.Window, panel.List), Qt::Key_F1);
         ClickRow(panel.Window, panel.List, 0);
         QTest::keyClick(&Find(panel.Window, FocusOf(panel.Window)), Qt::Key_F1); // and the same in a field
-        const HelpQuestion page{QString(), panel.HelpContext};
+        const HelpQuestion page{QString(), panel.HelpContext, panel.Window};
         QCOMPARE(std::exchange(desk.HelpQuestions, {}), (QList<HelpQuestion>{page, page}));
     }
 

@@ -271,7 +271,7 @@ private Q_SLOTS:
         QTest::keyClick(&text, Qt::Key_Tab); // the way out of the text
         QCOMPARE(FocusOf(Window), u"imgTallymereTutor"_s);
         QTest::keyClick(&Find(Window, u"imgTallymereTutor"_s), Qt::Key_F1); // which its footer speaks of
-        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 0}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 0, Window}));
     }
 
     // The commands and the timer

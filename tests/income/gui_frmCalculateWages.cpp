@@ -425,7 +425,7 @@ private Q_SLOTS:
         TakeHousehold(Biweekly);
         Show(Wages);
         QTest::keyClick(&Find(Wages, Rate), Qt::Key_F1);
-        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 30}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 30, Wages}));
     }
 
     void ABiweeklyPaycheckFromTheHoursOfTwoWeeks()

@@ -338,7 +338,7 @@ private Q_SLOTS:
         State.PayFrequency = Weekly;
         Show(Hours);
         QTest::keyClick(&Find(Hours, Boxes[0]), Qt::Key_F1);
-        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 18}));
+        QCOMPARE(desk.TakeHelp(), (HelpQuestion{QString(), 18, Hours}));
     }
 };
 

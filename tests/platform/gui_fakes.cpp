@@ -37,7 +37,7 @@ constexpr Fault Rows[] = {
     {"AMessage", "not taken: message title: text"},
     {"ABeep", "not taken: beeps: 1"},
     {"APrintJob", "not taken: print job: "},
-    {"AHelpQuestion", "not taken: help  0"},
+    {"AHelpQuestion", "not taken: help  0 "},
     {"AnHourglassLeftOn", "not taken: the pointer is an hourglass"},
     {"AnOption", "not taken: option key = 1"},
     {"AnOptionSetAgain", "not taken: option key = 1"},

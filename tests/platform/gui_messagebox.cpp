@@ -190,6 +190,31 @@ private Q_SLOTS:
         QCOMPARE(asked[0].Context, 22);
     }
 
+    void F1InABoxIsItsHelpButton()
+    {
+        QList<HelpQuestion> asked;
+        TheDesk.ShowHelp = [&](const HelpQuestion &question) { asked += question; };
+        Ask({"Please enter an amount", "Creditors", Icon::Stop, Buttons::OkHelp, 22}, [&](QMessageBox &box) {
+            QTest::keyClick(box.button(QMessageBox::Ok), Qt::Key_F1);
+            Settle();
+            QVERIFY(box.isVisible());
+        });
+        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 22}}));
+    }
+
+    void F1InABoxWithoutHelpAsksForThePageOfTheWindowBehind()
+    {
+        QList<HelpQuestion> asked;
+        TheDesk.ShowHelp = [&](const HelpQuestion &question) { asked += question; };
+        (*m_toys)["A"].TheHelpContext = 7;
+        Ask({"text", "title"}, [&](QMessageBox &box) {
+            QTest::keyClick(box.button(QMessageBox::Ok), Qt::Key_F1);
+            Settle();
+            QVERIFY(box.isVisible());
+        });
+        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 7, "A"}}));
+    }
+
     void TheBoxStandsOverTheActiveWindow()
     {
         Show("B");

@@ -251,7 +251,7 @@ private Q_SLOTS:
     {
         Loans desk;
         QTest::keyClick(&Control(u"txtAmount"_s), Qt::Key_F1);
-        QCOMPARE(std::exchange(desk.HelpQuestions, {}), (QList<HelpQuestion>{{QString(), 30}}));
+        QCOMPARE(std::exchange(desk.HelpQuestions, {}), (QList<HelpQuestion>{{QString(), 30, Loan}}));
     }
 
     void AControlThatIsNotThereIsAnError()

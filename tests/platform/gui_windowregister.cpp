@@ -1272,13 +1272,13 @@ private Q_SLOTS:
         TakeLog();
         QTest::keyClick(watched, Qt::Key_F1);
         Settle();
-        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 22}}));
+        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 22, "A"}}));
         QCOMPARE(TakeLog(), QStringList());
         QCOMPARE(toys["A"].First->text(), "12.50");
         QCOMPARE(Active(), "A");
         toys["A"].TheHelpContext = 0; // the contents
         QTest::keyClick(watched, Qt::Key_F1);
-        QCOMPARE(asked.last(), (HelpQuestion{QString(), 0}));
+        QCOMPARE(asked.last(), (HelpQuestion{QString(), 0, "A"}));
         QCOMPARE(asked.size(), 2);
     }
 
@@ -1300,9 +1300,20 @@ private Q_SLOTS:
             Unload("B");
         });
         ShowModal("B");
-        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 7}}));
+        QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 7, "B"}}));
         QCOMPARE(heard, QStringList());
         QVERIFY(stayed);
+    }
+
+    void F1HeldDownAsksOnce()
+    {
+        ToyBox toys;
+        const QList<HelpQuestion> &asked = RecordHelp();
+        Show("A");
+        QTest::keyPress(toys["A"].First, Qt::Key_F1);
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(toys["A"].First, &again);
+        QCOMPARE(asked.size(), 1);
     }
 
     void AnotherKeyAsksForNoHelp()

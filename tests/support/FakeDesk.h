@@ -34,7 +34,7 @@ private:
         for (const PrintJob &job : Printed)
             left += QStringLiteral("print job: ") + job.Lines.join(QLatin1Char(' ')).simplified().left(60);
         for (const HelpQuestion &help : HelpQuestions)
-            left += QStringLiteral("help %1 %2").arg(help.File).arg(help.Context);
+            left += QStringLiteral("help %1 %2 %3").arg(help.File).arg(help.Context).arg(help.Topic);
         if (Beeps != 0)
             left += QStringLiteral("beeps: %1").arg(Beeps);
         if (!HourglassCalls.isEmpty() && HourglassCalls.last())

@@ -34,10 +34,12 @@ struct FileQuestion {
     bool operator==(const FileQuestion &) const = default;
 };
 
-/// What the help is asked for: a context number, or 0 for the contents. An empty file is the program's own help file.
+/// What the help is asked for: the page of a topic, which is a window's given name; without one that of a context; with
+/// neither, the contents. An empty file is the program's own help file.
 struct HelpQuestion {
     QString File;
     int Context = 0;
+    QString Topic = {};
     bool operator==(const HelpQuestion &) const = default;
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/desk/Calculator.h"
 #include "platform/desk/Desk.h"
+#include "platform/desk/HelpViewer.h"
 #include "platform/desk/Options.h"
 #include "platform/desk/PagePrinter.h"
 #include "platform/desk/PrinterFont.h"
@@ -249,15 +250,17 @@ private:
 
 } // namespace
 
-void InstallRealDesk(const QString &programTitle, const QString &printedFolder)
+void InstallRealDesk(const QString &programTitle, const QString &printedFolder,
+                     const std::function<QString()> &helpFile)
 {
     TheDesk.ProgramTitle = programTitle;
     TheDesk.ShowMessage = ShowBox;
     TheDesk.AskFile = AskFile;
-    TheDesk.ShowHelp = [](const HelpQuestion &) {
-        ShowMessage(QStringLiteral("The help pages are not part of this version yet."), TheDesk.ProgramTitle,
-                    Icon::Information);
-    };
+    const auto help = std::make_shared<HelpViewer>(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
+                                                       QCoreApplication::applicationName() + QStringLiteral("Help"),
+                                                   helpFile);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, [help] { help->Close(); });
+    TheDesk.ShowHelp = [help](const HelpQuestion &question) { help->Ask(question); };
     const auto notice = std::make_shared<PdfNotice>();
     const auto printer = std::make_shared<DocumentPrinter>(printedFolder);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, [printer] { printer->Forget(); });

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 /// Fills TheDesk. programTitle: what the user knows the program by. printedFolder: where documents go as PDF on a
-/// machine without a printer.
-void InstallRealDesk(const QString &programTitle, const QString &printedFolder);
+/// machine without a printer. helpFile: tells the program's own help file.
+void InstallRealDesk(const QString &programTitle, const QString &printedFolder,
+                     const std::function<QString()> &helpFile = {});
 
 struct FileQuestion;
 

@@ -6,8 +6,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QShortcutEvent>
 
@@ -78,15 +80,33 @@ bool WindowRegister::AccessKey(QObject *watched, const QShortcutEvent &event)
     return true;
 }
 
-bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
+/// F1 asks for the page of its window. In a message box it is the help button, where there is one, and in any other box
+/// or dialog it asks for the page of the window that this belongs to.
+bool WindowRegister::HelpKeyPressed(QWidget *widget, bool isHeld)
 {
-    Form *form = FormOf(qobject_cast<QWidget *>(watched));
+    Form *form = FormOf(widget);
+    if (!form && qobject_cast<QDialog *>(widget->window()))
+        form = Front();
     if (!form)
         return false;
-    if (event.key() == Qt::Key_F1) {
-        TheDesk.ShowHelp({QString(), form->HelpContext()});
+    if (isHeld)
         return true;
-    }
+    const auto *box = qobject_cast<QMessageBox *>(widget->window());
+    if (QAbstractButton *button = box ? box->button(QMessageBox::Help) : nullptr)
+        button->click();
+    else
+        TheDesk.ShowHelp({QString(), form->HelpContext(), form->objectName()});
+    return true;
+}
+
+bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
+{
+    auto *widget = qobject_cast<QWidget *>(watched);
+    if (event.key() == Qt::Key_F1)
+        return widget && HelpKeyPressed(widget, event.isAutoRepeat());
+    Form *form = FormOf(widget);
+    if (!form)
+        return false;
     if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
         return false;
     auto *button = qobject_cast<QPushButton *>(watched);

@@ -107,6 +107,7 @@ private:
     void LeaveModal(Form *form);
     void Pressed(QWidget *widget);
     bool KeyPressed(QObject *watched, const QKeyEvent &event);
+    bool HelpKeyPressed(QWidget *widget, bool isHeld);
     bool AccessKey(QObject *watched, const QShortcutEvent &event);
 
     struct Modal {
