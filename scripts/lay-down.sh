@@ -76,13 +76,24 @@ lay_file() {
     mv -fT "$unfinished" "$2"
 }
 
-# Puts the program into FOLDER. The new file takes the old one's name in one move, so that a program that is
-# running goes on undisturbed.
+# lay_renewed SOURCE TARGET: also over what is there, if that differs; fails if it does not. The new file takes the old
+# one's name in one move, so that a program that is running goes on undisturbed.
+lay_renewed() {
+    ! cmp -s "$1" "$2" && lay_file "$1" "$2"
+}
+
+# lay_program PROGRAM FOLDER: puts the program into FOLDER, and what belongs to its version: the program that shows the
+# help, which was built beside it, and the help file, which was built in help beside their folder.
 lay_program() {
-    local program=$1 folder=$2
-    cmp -s "$program" "$folder/Tallymere" && return
-    lay_file "$program" "$folder/Tallymere"
-    say "The program is in $folder"
+    local program=$1 folder=$2 help help_file
+    is_there "$folder" help || true
+    help=$there
+    mkdir -p "$help"
+    is_there "$help" 'budget help.hlp' || true
+    help_file=$there
+    if lay_renewed "${program%/*}/../help/budget help.hlp" "$help_file"; then say "The help is in $help"; fi
+    lay_renewed "${program}Help" "$folder/TallymereHelp" || true
+    if lay_renewed "$program" "$folder/Tallymere"; then say "The program is in $folder"; fi
 }
 
 # The help texts and pictures that FOLDER lacks; what is there stays, as users may have their own tips.
@@ -157,9 +168,9 @@ lay_sample_data() {
     done
 }
 
-# What a sample holds, one checksum a line; the program itself does not count.
+# What a sample holds, one checksum a line; the program itself and its help do not count.
 sample_sums() {
-    (cd "$1" && find . -type f ! -path ./Tallymere ! -name .laid-on ! -name .unfinished -print0 | LC_ALL=C sort -z |
+    (cd "$1" && find . -type f ! -path ./Tallymere ! -path ./TallymereHelp ! -path './help/budget help.hlp' ! -name .laid-on ! -name .unfinished -print0 | LC_ALL=C sort -z |
         xargs -0 -r sha256sum)
 }
 
