@@ -1,7 +1,7 @@
 // A plugin for the end-to-end tests alone: it tells what stands on the screen and where, so that a test finds a control
 // by its name and clicks there with a real mouse. It changes nothing in the program. The toolkit loads it when
 // QT_QPA_GENERIC_PLUGINS names it; whatever arrives at the socket LOCATOR_SOCKET is answered with the present state as
-// one line of JSON.
+// one line of JSON. The help answers at the same place with the ending ".help".
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTextEdit>
 #include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
@@ -69,6 +70,8 @@ QString TextOf(const QWidget &widget)
         return field->text();
     if (auto *label = qobject_cast<const QLabel *>(&widget))
         return label->text();
+    if (auto *page = qobject_cast<const QTextEdit *>(&widget))
+        return page->toPlainText();
     return {};
 }
 
@@ -162,6 +165,7 @@ class Locator : public QObject
 public:
     explicit Locator(const QString &socket)
     {
+        QLocalServer::removeServer(socket); // of a help that has been closed
         connect(&m_server, &QLocalServer::newConnection, this, &Locator::Answer);
         if (!m_server.listen(socket))
             qWarning("locator: cannot listen at %s", qPrintable(socket));
@@ -192,7 +196,9 @@ class LocatorPlugin : public QGenericPlugin
 public:
     QObject *create(const QString &, const QString &) override
     {
-        return new Locator(qEnvironmentVariable("LOCATOR_SOCKET"));
+        // The help is a program of its own, which inherits what the tests tell the program that starts it.
+        const bool isHelp = QCoreApplication::applicationName().endsWith(u"Help"_s);
+        return new Locator(qEnvironmentVariable("LOCATOR_SOCKET") + (isHelp ? u".help"_s : QString()));
     }
 };
 

@@ -99,13 +99,13 @@ class Person:
         self.press("Return")
         self.see("frmSetCurrentPayPeriod")
 
-    def look(self):
-        """What stands on the screen, as the locator tells it. Nothing, once the program has ended."""
+    def look(self, program=""):
+        """What stands on the screen, as the locator tells it. Nothing, once the program has ended. The help is ".help"."""
         answer = b""
         try:
             with socket.socket(socket.AF_UNIX, socket.SOCK_STREAM) as asking:
                 asking.settimeout(LONGEST_WAIT)
-                asking.connect(os.path.join(self.folder, "locator"))
+                asking.connect(os.path.join(self.folder, "locator" + program))
                 asking.sendall(b"look\n")
                 while part := asking.recv(65536):
                     answer += part
@@ -179,6 +179,22 @@ class Person:
         """Waits until the list or grid begins with these rows."""
         self.until(lambda: self.rows(window, name)[: len(expected)] == list(expected),
                    lambda: f"{window}.{name} begins with {self.rows(window, name)[: len(expected)]}, not {list(expected)}")
+
+    # --- the help, which is a program of its own
+
+    def help(self):
+        """The window of the help, or nothing where it is not there."""
+        return self.look(".help")["windows"].get("helpWindow")
+
+    def see_help(self, title):
+        """Waits until the help stands in front with the page of that title."""
+        def stands():
+            seen = self.help()
+            return seen and seen["active"] and seen["title"] == f"{title} - Help"
+        self.until(stands, lambda: f"the help does not show {title}: {(self.help() or {}).get('title')}")
+
+    def see_no_help(self):
+        self.until(lambda: not self.help(), "the help stays")
 
     # --- hands
 
