@@ -1,0 +1,164 @@
+// The program's side of the help: one viewer for all questions, and a box wherever the help cannot be shown.
+#include "GuiDesk.h"
+#include "TestProgram.h"
+#include "platform/desk/HelpViewer.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString HelpFile = QStringLiteral(HELP_FILE);
+
+/// A stand-in for the viewer, a shell script that writes each line it hears to the file `heard`.
+class StandIn
+{
+public:
+    explicit StandIn(const QString &steps)
+    {
+        QFile file(Program());
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write the stand-in");
+        file.write(u"#!/bin/sh\nheard='%1'\n%2\n"_s.arg(m_folder.filePath(u"heard"_s), steps).toUtf8());
+        file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeUser);
+    }
+    QString Program() const { return m_folder.filePath(u"viewer"_s); }
+    QString File() const { return m_folder.filePath(u"a file.hlp"_s); }
+    void WriteFile(const QByteArray &text) const
+    {
+        QFile file(File());
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+            qFatal("cannot write the help file");
+    }
+    QString Heard() const
+    {
+        QFile file(m_folder.filePath(u"heard"_s));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).simplified() : QString();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+const QString AnswersAll = u"echo start >>$heard; while read -r line; do echo \"$line;\" >>$heard; echo shown; done"_s;
+
+Message Warning(const QString &text)
+{
+    return {text, AppTitle, Icon::Warning, Buttons::Ok, 0};
+}
+
+} // namespace
+
+class gui_helpviewer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OneViewerHearsAllQuestions()
+    {
+        GuiDesk desk;
+        const StandIn standIn(AnswersAll);
+        standIn.WriteFile("pages");
+        HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
+        viewer.Ask({QString(), 22, u"frmCreditors"_s});
+        QTRY_VERIFY(viewer.HasAnswered());
+        viewer.Ask({QString(), 26, QString()});
+        viewer.Ask({QString(), 0, u"frmMain"_s});
+        viewer.Ask({standIn.File(), 0, QString()});
+        QTRY_COMPARE(standIn.Heard(), u"start topic frmCreditors; context 26; topic frmMain; contents;"_s);
+        QTRY_VERIFY(viewer.HasAnswered());
+        viewer.Close();
+        QVERIFY(!viewer.HasAnswered());
+        viewer.Ask({QString(), 0, u"frmTip"_s}); // and starts again
+        QTRY_VERIFY(standIn.Heard().endsWith(u"contents; start topic frmTip;"_s));
+    }
+
+    void AFileIsFoundInAnyLetterCase()
+    {
+        GuiDesk desk;
+        const StandIn standIn(AnswersAll);
+        standIn.WriteFile("pages");
+        HelpViewer viewer(standIn.Program(), {});
+        viewer.Ask({QString(standIn.File()).replace(u"/a file"_s, u"\\A FILE"_s), 0, QString()});
+        QTRY_COMPARE(standIn.Heard(), u"start contents;"_s);
+    }
+
+    void ARenewedFileIsOpenedAnew()
+    {
+        GuiDesk desk;
+        const StandIn standIn(AnswersAll);
+        standIn.WriteFile("pages");
+        HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QTRY_VERIFY(viewer.HasAnswered());
+        standIn.WriteFile("other pages");
+        viewer.Ask({QString(), 0, u"frmMain"_s});
+        QTRY_COMPARE(standIn.Heard(), u"start topic frmTip; start topic frmMain;"_s);
+    }
+
+    void AViewerThatIsClosedInThatMomentIsStartedAgain()
+    {
+        GuiDesk desk;
+        const StandIn standIn(u"echo start >>$heard; [ $(wc -l <$heard) -gt 1 ] || exit 0\n"_s + AnswersAll);
+        standIn.WriteFile("pages");
+        HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QTRY_COMPARE(standIn.Heard(), u"start start start topic frmTip;"_s);
+    }
+
+    void AMissingFileIsTold()
+    {
+        GuiDesk desk;
+        HelpViewer viewer(u"/nowhere/TallymereHelp"_s, [&] { return desk.Folder() + u"\\help\\budget help.hlp"_s; });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QCOMPARE(desk.TakeMessage(),
+                 Warning(u"The help file is missing:\n%1/help/budget help.hlp"_s.arg(desk.Folder())));
+    }
+
+    void AMissingViewerIsTold()
+    {
+        GuiDesk desk;
+        HelpViewer viewer(u"/nowhere/TallymereHelp"_s, [] { return HelpFile; });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QCOMPARE(desk.TakeMessage(), Warning(u"The program that shows the help is missing:\n/nowhere/TallymereHelp"_s));
+        viewer.Ask({QString(), 0, u"frmTip"_s}); // each time it is asked
+        QCOMPARE(desk.TakeMessage().Title, AppTitle);
+    }
+
+    void AViewerThatFailsIsTold()
+    {
+        GuiDesk desk;
+        const StandIn standIn(u"exit 127"_s);
+        HelpViewer viewer(standIn.Program(), [] { return HelpFile; });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QTRY_COMPARE(desk.Messages.size(), 1);
+        QCOMPARE(desk.TakeMessage(),
+                 Warning(u"The program that shows the help has ended by itself:\n"_s + standIn.Program()));
+    }
+
+    void ADamagedFileIsTold()
+    {
+        GuiDesk desk;
+        desk.WriteFile(u"help\\budget help.hlp"_s, "no pages at all");
+        HelpViewer viewer(QStringLiteral(HELP_PROGRAM), [&] { return desk.Folder() + u"\\help\\budget help.hlp"_s; });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(desk.Messages.size(), 1, 20000);
+        QCOMPARE(desk.TakeMessage(),
+                 Warning(u"The help file is damaged:\n%1/help/budget help.hlp"_s.arg(desk.Folder())));
+    }
+
+    void TheViewerShowsThePage()
+    {
+        GuiDesk desk;
+        HelpViewer viewer(QStringLiteral(HELP_PROGRAM), [] { return HelpFile; });
+        QElapsedTimer time;
+        time.start();
+        viewer.Ask({QString(), 0, u"frmPaymentCalculator"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(viewer.HasAnswered(), 20000);
+        qInfo("from the question to the page: %lld ms", time.elapsed());
+        viewer.Close();
+        QVERIFY(!viewer.HasAnswered());
+    }
+};
+
+REGISTER_TEST(gui_helpviewer)
+#include "gui_helpviewer.moc"

@@ -1,0 +1,390 @@
+// The window of the help, with the help file as it is laid down.
+#include "GuiDesk.h"
+#include "TestProgram.h"
+#include "help/HelpBook.h"
+#include "help/HelpPages.h"
+#include "help/HelpWindow.h"
+
+#include <QAction>
+#include <QHelpIndexWidget>
+#include <QHelpSearchEngine>
+#include <QHelpSearchResult>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString HelpFile = QStringLiteral(HELP_FILE);
+constexpr int LongestIndexing = 20000; // milliseconds
+
+/// The window as the viewer shows it.
+class Reader
+{
+public:
+    explicit Reader(const QString &question, const QString &file = HelpFile) : Book(file), Window(Book)
+    {
+        QSignalSpy listed(Book.Engine().contentModel(), &QHelpContentModel::contentsCreated);
+        QSignalSpy indexed(Book.Engine().indexModel(), &QHelpIndexModel::indexCreated);
+        QSignalSpy ready(&Window, &HelpWindow::SearchIsReady);
+        Window.Answer(question);
+        Window.ComeForward();
+        if ((listed.isEmpty() && !listed.wait(LongestIndexing)) ||
+            (indexed.isEmpty() && !indexed.wait(LongestIndexing)))
+            qFatal("the contents are not listed");
+        if (ready.isEmpty() && !ready.wait(LongestIndexing))
+            qFatal("the words are not listed");
+    }
+
+    QString Page() const { return Window.findChild<HelpPages *>()->source().fileName().section(u'.', 0, 0); }
+    QAction &Action(const QString &name) const { return *Window.findChild<QAction *>(name); }
+    int Side() const { return Window.findChild<QTabWidget *>(u"sides"_s)->currentIndex(); }
+    template <class Control>
+    Control &Part(const QString &name) const
+    {
+        return *Window.findChild<Control *>(name);
+    }
+    /// The pages that are found, best first.
+    QStringList Search(const QString &words)
+    {
+        auto &field = Part<QLineEdit>(u"searchField"_s);
+        QHelpSearchEngine *engine = Book.Engine().searchEngine();
+        QSignalSpy found(engine, &QHelpSearchEngine::searchingFinished);
+        field.setText(words);
+        QTest::keyClick(&field, Qt::Key_Return);
+        if (found.isEmpty() && !found.wait(LongestIndexing))
+            qFatal("the search does not end");
+        QStringList pages;
+        for (const QHelpSearchResult &result : engine->searchResults(0, engine->searchResultCount()))
+            pages += result.url().fileName().section(u'.', 0, 0);
+        return pages;
+    }
+
+    HelpBook Book;
+    HelpWindow Window;
+};
+
+/// The pages that windows have, with their titles.
+QMap<QString, QString> WindowPages(Reader &reader)
+{
+    QMap<QString, QString> pages;
+    for (const QString &window : TheWindows.Names()) {
+        const QUrl page = reader.Book.PageOf(window);
+        QTextDocument document;
+        document.setHtml(QString::fromUtf8(reader.Book.Engine().fileData(page)));
+        pages[window] = document.metaInformation(QTextDocument::DocumentTitle);
+    }
+    return pages;
+}
+
+} // namespace
+
+class gui_helpwindow : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_home;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_home.isValid());
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(m_home.filePath(u"cache"_s)));
+    }
+
+    void EveryWindowHasItsPage()
+    {
+        GuiDesk desk;
+        Reader reader(u"topic frmMain"_s);
+        for (const QString &window : TheWindows.Names()) {
+            reader.Window.Answer(u"topic "_s + window);
+            QCOMPARE(reader.Page(), window);
+            QVERIFY(!reader.Window.windowTitle().startsWith(u" - "_s));
+            QCOMPARE(reader.Side(), 0); // the contents
+        }
+    }
+
+    void AContextOpensThePageOfItsWindow()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        desk.TakeAll();
+        Reader reader(u"topic frmMain"_s);
+        for (const auto &[context, window] : {std::pair(4, u"frmProjects"_s),
+                                              {18, u"frmTotalHours"_s},
+                                              {22, u"frmCreditors"_s},
+                                              {23, u"frmRegulars"_s},
+                                              {24, u"frmExtras"_s},
+                                              {25, u"frmProjects"_s},
+                                              {26, u"frmAverageNetPercentage"_s},
+                                              {29, u"frmAverageNetPercentage"_s},
+                                              {30, u"frmCalculateWages"_s}}) {
+            reader.Window.Answer(u"context %1"_s.arg(context));
+            QCOMPARE(reader.Page(), window);
+        }
+        // What F1 says of a window's context agrees with its page.
+        for (const QString &window : TheWindows.Names())
+            if (const int context = TheWindows.Touch(window).HelpContext()) {
+                reader.Window.Answer(u"context %1"_s.arg(context));
+                QCOMPARE(reader.Page(), window);
+            }
+        desk.TakeAll();
+    }
+
+    void WhatHasNoPageOpensTheFirst_data()
+    {
+        QTest::addColumn<QString>("question");
+        for (const char *question : {"topic frmNothing", "context 99", "topic", "", "nonsense"})
+            QTest::newRow(question) << QString::fromLatin1(question);
+    }
+    void WhatHasNoPageOpensTheFirst()
+    {
+        QFETCH(QString, question);
+        Reader reader(question);
+        QCOMPARE(reader.Page(), u"index"_s);
+    }
+
+    void TheContentsComeWithTheSearch()
+    {
+        Reader reader(u"contents"_s);
+        QCOMPARE(reader.Page(), u"index"_s);
+        QCOMPARE(reader.Side(), 2);
+        QVERIFY(reader.Part<QLineEdit>(u"searchField"_s).hasFocus());
+    }
+
+    void BrowseButtonsGoThroughTheContents()
+    {
+        Reader reader(u"contents"_s);
+        QStringList forth, back;
+        QVERIFY(!reader.Action(u"previous"_s).isEnabled());
+        while (reader.Action(u"next"_s).isEnabled() && forth.size() < 200) {
+            forth += reader.Page();
+            reader.Action(u"next"_s).trigger();
+        }
+        forth += reader.Page();
+        while (reader.Action(u"previous"_s).isEnabled() && back.size() < 200) {
+            back.prepend(reader.Page());
+            reader.Action(u"previous"_s).trigger();
+        }
+        back.prepend(reader.Page());
+        QCOMPARE(forth.join(u" "_s), back.join(u" "_s));
+        QCOMPARE(forth.size(), QDir(QStringLiteral(PROJECT_FOLDER "/help/pages")).entryList({u"*.html"_s}).size());
+        QCOMPARE(QSet<QString>(forth.begin(), forth.end()).size(), forth.size());
+        QCOMPARE(reader.Action(u"previous"_s).text(), u"<<"_s);
+        QCOMPARE(reader.Action(u"next"_s).text(), u">>"_s);
+    }
+
+    void BackAndForwardFollowTheReader()
+    {
+        Reader reader(u"topic frmMain"_s);
+        QVERIFY(!reader.Action(u"forward"_s).isEnabled());
+        reader.Window.Answer(u"topic frmTip"_s);
+        reader.Action(u"back"_s).trigger();
+        QCOMPARE(reader.Page(), u"frmMain"_s);
+        reader.Action(u"forward"_s).trigger();
+        QCOMPARE(reader.Page(), u"frmTip"_s);
+    }
+
+    void TheContentsMarkThePage()
+    {
+        Reader reader(u"topic frmCreditors"_s);
+        const auto &contents = reader.Part<QHelpContentWidget>(u"contents"_s);
+        QCOMPARE(contents.currentIndex().data().toString() + u" - Help"_s, reader.Window.windowTitle());
+        reader.Action(u"next"_s).trigger();
+        QCOMPARE(contents.currentIndex().data().toString() + u" - Help"_s, reader.Window.windowTitle());
+    }
+
+    void SearchFindsEveryWindowByItsName()
+    {
+        GuiDesk desk;
+        Reader reader(u"contents"_s);
+        const QMap<QString, QString> pages = WindowPages(reader);
+        for (auto page = pages.begin(); page != pages.end(); ++page) {
+            const QStringList found = reader.Search(page.value());
+            QVERIFY2(found.contains(page.key()),
+                     qPrintable(u"%1 by \"%2\": %3"_s.arg(page.key(), page.value(), found.join(u' '))));
+        }
+    }
+
+    void SearchFindsEveryWindowByItsTitleBar()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        desk.TakeAll();
+        Reader reader(u"contents"_s);
+        for (const QString &window : TheWindows.Names()) {
+            const QString title = TheWindows.Touch(window).windowTitle();
+            const QStringList found = reader.Search(title);
+            QVERIFY2(found.contains(window), qPrintable(u"%1 by \"%2\": %3"_s.arg(window, title, found.join(u' '))));
+        }
+        desk.TakeAll();
+    }
+
+    void WhatIsNowhereIsNotFound()
+    {
+        Reader reader(u"contents"_s);
+        QCOMPARE(reader.Search(u"xylophone"_s), QStringList());
+    }
+
+    void SignsOfAQueryAreNoCommands_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("points and a question mark") << u"How Do I...?"_s << u"How Do I"_s;
+        QTest::newRow("a phrase") << u"\"pay  period\" date"_s << u"\"pay period\" date"_s;
+        QTest::newRow("a lone quotation mark") << u"pay\" period"_s << u"pay period"_s;
+        QTest::newRow("an apostrophe") << u"Corvelle's"_s << u"Corvelle s"_s;
+        QTest::newRow("nothing") << u"?!"_s << QString();
+    }
+    void SignsOfAQueryAreNoCommands()
+    {
+        QFETCH(QString, query);
+        QTEST(SearchWords(query), "words");
+    }
+
+    void TheIndexNamesThePages()
+    {
+        Reader reader(u"topic frmMain"_s);
+        auto &filter = reader.Part<QLineEdit>(u"indexFilter"_s);
+        reader.Part<QTabWidget>(u"sides"_s).setCurrentIndex(1);
+        QVERIFY(filter.hasFocus());
+        filter.setText(u"Loan Payment"_s);
+        Settle();
+        QTest::keyClick(&filter, Qt::Key_Return);
+        QTRY_COMPARE(reader.Page(), u"frmPaymentCalculator"_s);
+        QVERIFY(!reader.Book.Engine().indexModel()->stringList().contains(QString()));
+    }
+
+    void EscClosesIt_data()
+    {
+        QTest::addColumn<QString>("control");
+        for (const char *control : {"pages", "contents", "searchField", "indexFilter"})
+            QTest::newRow(control) << QString::fromLatin1(control);
+    }
+    void EscClosesIt()
+    {
+        QFETCH(QString, control);
+        Reader reader(u"topic frmMain"_s);
+        auto &widget = reader.Part<QWidget>(control);
+        auto &sides = reader.Part<QTabWidget>(u"sides"_s);
+        for (int side = 0; side < sides.count(); ++side)
+            if (sides.widget(side)->isAncestorOf(&widget))
+                sides.setCurrentIndex(side);
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        widget.setFocus();
+        QTest::keyClick(&widget, Qt::Key_Escape);
+        QTRY_VERIFY(!reader.Window.isVisible());
+    }
+
+    void LettersGrowAndShrink()
+    {
+        Reader reader(u"topic frmMain"_s);
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        const double usual = pages.font().pointSizeF();
+        reader.Action(u"larger"_s).trigger();
+        reader.Action(u"larger"_s).trigger();
+        QVERIFY(pages.font().pointSizeF() > usual + 1.5);
+        reader.Action(u"smaller"_s).trigger();
+        QVERIFY(pages.font().pointSizeF() > usual + 0.5);
+        reader.Action(u"normal"_s).trigger();
+        QCOMPARE(pages.font().pointSizeF(), usual);
+        QWheelEvent wheel(QPointF(50, 50), pages.viewport()->mapToGlobal(QPointF(50, 50)), {}, {0, 120}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(pages.viewport(), &wheel);
+        QVERIFY(pages.font().pointSizeF() > usual);
+    }
+
+    void EveryControlHasAName()
+    {
+        Reader reader(u"topic frmMain"_s);
+        for (const char *name : {"pages", "contents", "index", "indexFilter", "searchField", "searchResults"})
+            QVERIFY2(!reader.Part<QWidget>(QString::fromLatin1(name)).accessibleName().isEmpty(), name);
+        for (const char *name : {"previousButton", "nextButton"})
+            QVERIFY2(reader.Part<QWidget>(QString::fromLatin1(name)).accessibleName().endsWith(u" page"_s), name);
+    }
+
+    void QuotedMessagesAndTablesAreLaidOut()
+    {
+        Reader reader(u"topic frmPaymentCalculator"_s);
+        const QString text = reader.Part<HelpPages>(u"pages"_s).toPlainText();
+        QVERIFY(text.contains(u"\u201cBorrowed Amount does not contain a valid currency amount\u201d"_s));
+    }
+
+    void ALinkStaysInTheHelp()
+    {
+        Reader reader(u"topic frmPaymentCalculator"_s);
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        pages.setSource(QUrl(u"file:///etc/passwd"_s));
+        QCOMPARE(reader.Page(), u"frmPaymentCalculator"_s);
+        pages.setSource(pages.source().resolved(QUrl(u"nothing.html"_s)));
+        QVERIFY(pages.toPlainText().startsWith(u"There is no such page"_s));
+    }
+
+    // The working copy
+
+    void TheFoldersOfTheProgramAreOnlyRead()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"budget help.hlp"_s);
+        QVERIFY(QFile::copy(HelpFile, file));
+        QFile::setPermissions(file, QFile::ReadOwner);
+        QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+        {
+            Reader reader(u"topic frmMain"_s, file);
+            QCOMPARE(reader.Page(), u"frmMain"_s);
+            QVERIFY(!reader.Search(u"budget"_s).isEmpty());
+            QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                     QStringList{u"budget help.hlp"_s});
+        }
+        QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    void NothingStaysBehind()
+    {
+        const QDir cache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation));
+        QVERIFY(cache.path().startsWith(m_home.path()));
+        const auto folders = [&] { return cache.entryList({u"reading-*"_s}, QDir::Dirs); };
+        QVERIFY(cache.mkpath(u"reading-4194999-abcdef/deep"_s)); // of a process that has been ended
+        {
+            Reader reader(u"topic frmMain"_s);
+            QCOMPARE(folders().size(), 1);
+            QVERIFY(folders()[0].startsWith(u"reading-%1-"_s.arg(QCoreApplication::applicationPid())));
+        }
+        QCOMPARE(folders(), QStringList());
+    }
+
+    void WithoutACacheItIsReadAllTheSame()
+    {
+        const QByteArray before = qgetenv("XDG_CACHE_HOME");
+        qputenv("XDG_CACHE_HOME", "/proc/nothing");
+        {
+            Reader reader(u"topic frmMain"_s);
+            QCOMPARE(reader.Page(), u"frmMain"_s);
+        }
+        qputenv("XDG_CACHE_HOME", before);
+    }
+
+    void WhatCannotBeReadIsTold()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"budget help.hlp"_s);
+        QCOMPARE(HelpBook(file).Error(), u"The help file is missing:\n"_s + file);
+        QFile damaged(file);
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        damaged.write("nothing that could be read");
+        damaged.close();
+        QCOMPARE(HelpBook(file).Error(), u"The help file is damaged:\n"_s + file);
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        QFile whole(HelpFile);
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        damaged.write(whole.read(whole.size() / 3));
+        damaged.close();
+        QCOMPARE(HelpBook(file).Error(), u"The help file is damaged:\n"_s + file);
+    }
+};
+
+REGISTER_TEST(gui_helpwindow)
+#include "gui_helpwindow.moc"
