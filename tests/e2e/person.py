@@ -81,6 +81,8 @@ class Person:
 
     def start(self):
         where = os.path.join(self.folder, "locator")
+        if os.path.exists(where):
+            os.remove(where)  # of the start before
         environment = dict(os.environ, QT_PLUGIN_PATH=self.plugins, QT_QPA_GENERIC_PLUGINS="locator", LOCATOR_SOCKET=where)
         self.process = subprocess.Popen([os.path.join(self.house, "Tallymere")], env=environment)
         self.until(lambda: os.path.exists(where), "the program's locator does not answer")
