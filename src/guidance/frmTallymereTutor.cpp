@@ -6,6 +6,7 @@
 #include "platform/controls/Icons.h"
 
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QWindow>
 

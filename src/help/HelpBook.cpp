@@ -15,7 +15,7 @@ namespace {
 const QString FolderPrefix = u"reading-"_s;
 
 /// Takes away what processes have left behind that were ended before they could do it themselves.
-void RemoveLeftovers(QDir cache)
+void RemoveLeftovers(const QDir &cache)
 {
     for (const QString &name : cache.entryList({FolderPrefix + u'*'}, QDir::Dirs)) {
         const auto process = pid_t(name.mid(FolderPrefix.size()).section(u'-', 0, 0).toLongLong());
