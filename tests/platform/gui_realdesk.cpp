@@ -7,7 +7,6 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrinterInfo>
@@ -347,11 +346,13 @@ private Q_SLOTS:
         QTimer answerer;
         connect(&answerer, &QTimer::timeout, this, [&] {
             auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-            const auto *list = dialog ? dialog->findChild<QListView *>(u"listView"_s) : nullptr;
-            if (!list || list->model()->rowCount(list->rootIndex()) == 0)
-                return; // it still reads the folder, and then marks the file whose name is given
+            auto *field = dialog ? dialog->findChild<QLineEdit *>(u"fileNameEdit"_s) : nullptr;
+            if (!field)
+                return;
+            field->setFocus(); // where the user types; else a file that the dialog marks would count, and not the text
+            if (!field->hasFocus())
+                return;
             answerer.stop();
-            auto *field = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
             QCOMPARE(field->text(), u"weekly.lst"_s);
             QTest::keyClicks(field, typed);
             QTest::keyClick(field, Qt::Key_Return);
