@@ -81,9 +81,14 @@ void Stage::childEvent(QChildEvent *event)
     QWidget::childEvent(event);
     if (!event->removed())
         return;
-    auto *piece = static_cast<QWidget *>(event->child()); // as an address: it may be at its end
-    m_places.remove(piece);
-    delete m_glides.take(piece);
+    const QObject *gone = event->child(); // compared as an address: it may be at its end, and need not be a piece
+    m_places.removeIf([gone](const auto &place) { return place.key() == gone; });
+    m_glides.removeIf([gone](const auto &glide) {
+        if (glide.key() != gone)
+            return false;
+        delete glide.value();
+        return true;
+    });
 }
 
 void Stage::Put(QWidget *piece)
