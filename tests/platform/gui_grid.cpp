@@ -511,6 +511,31 @@ private Q_SLOTS:
         QVERIFY(edge(1, 0) && edge(1, 1));
     }
 
+    void ADisabledGridIsRead()
+    {
+        Grid grid;
+        Fill(grid, 3);
+        QPalette palette = LightPalette();
+        palette.setColor(QPalette::Disabled, QPalette::Text, Qt::lightGray);
+        const QColor bar = Qt::magenta; // whether enabled or not
+        palette.setColor(QPalette::Highlight, bar);
+        grid.setPalette(palette);
+        Present(grid);
+        grid.SetCurrentRow(2);
+        QCoreApplication::processEvents();
+        const auto rows = [&] { return grid.viewport()->grab().toImage(); };
+        QVERIFY(Shows(rows(), bar));
+        const QColor ink = grid.palette().color(QPalette::Active, QPalette::Text);
+        grid.setEnabled(false);
+        QCoreApplication::processEvents();
+        QVERIFY(!Shows(rows(), bar));
+        QVERIFY(Shows(rows(), ink));
+        QVERIFY(Shows(grid.horizontalHeader()->viewport()->grab().toImage(), ink));
+        grid.setEnabled(true);
+        QCoreApplication::processEvents();
+        QVERIFY(Shows(rows(), bar));
+    }
+
     void NoKeyClicksBeforeTheUserHasChosen_data()
     {
         QTest::addColumn<int>("key");

@@ -287,7 +287,7 @@ public:
 protected:
     void paintSection(QPainter *painter, const QRect &rect, int column) const override
     {
-        const QColor ink = palette().color(QPalette::Text);
+        const QColor ink = palette().color(QPalette::Active, QPalette::Text); // also while the grid is disabled
         painter->fillRect(rect, palette().color(QPalette::Base));
         painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1,
                           QColor(ink.red(), ink.green(), ink.blue(), HairlineAlpha));
@@ -309,10 +309,29 @@ protected:
     }
 };
 
+/// Rows that can be read while their grid is disabled, as it is beside the window that the user works in. None of them
+/// is the selected one then.
+class GridRowLook : public RowLook
+{
+public:
+    using RowLook::RowLook;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyleOptionViewItem row = option;
+        if (!(row.state & QStyle::State_Enabled)) {
+            painter->fillRect(row.rect, row.palette.brush(QPalette::Disabled, QPalette::Base)); // over the view's bar
+            row.state.setFlag(QStyle::State_Enabled);
+            row.state.setFlag(QStyle::State_Selected, false);
+        }
+        RowLook::paint(painter, row, index);
+    }
+};
+
 Grid::Grid(QWidget *parent) : RowView(parent), m_model(new GridModel(this))
 {
     setHorizontalHeader(new GridHeading(this));
-    setItemDelegate(new RowLook(this, [this] { return HasChosen(); }));
+    setItemDelegate(new GridRowLook(this, [this] { return HasChosen(); }));
     setModel(m_model);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
