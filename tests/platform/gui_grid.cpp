@@ -368,6 +368,35 @@ private Q_SLOTS:
         QVERIFY(grid.horizontalScrollBar()->maximum() > 0);
     }
 
+    void TheWidestColumnGivesWhatAScrollBarTakes()
+    {
+        Grid grid;
+        Fill(grid, 1);
+        const int letter = grid.fontMetrics().averageCharWidth();
+        grid.SetColumnWidth(0, 15 * 400);
+        grid.SetColumnWidth(1, 15 * 240); // 128 letters as they were measured
+        Present(grid);
+        const QHeaderView &heading = *grid.horizontalHeader();
+        grid.resize(128 * letter + 2 * grid.frameWidth(), grid.height());
+        QCoreApplication::processEvents();
+        QCOMPARE(grid.viewport()->width(), 128 * letter);
+        const int first = heading.sectionSize(0), second = heading.sectionSize(1);
+        QCOMPARE(first + second, 128 * letter);
+        for (int row = 1; row <= 40; ++row)
+            grid.AddItem(QStringLiteral("item\t1"), row);
+        QCoreApplication::processEvents();
+        QTRY_VERIFY(grid.verticalScrollBar()->isVisible());
+        QVERIFY(grid.viewport()->width() < 128 * letter);
+        QCOMPARE(grid.horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(heading.sectionSize(1), second);
+        QCOMPARE(heading.sectionSize(0), grid.viewport()->width() - second);
+        // Where more than that is missing, the columns are scrolled.
+        grid.resize(grid.width() - 24, grid.height());
+        QCoreApplication::processEvents();
+        QCOMPARE(heading.sectionSize(0), first);
+        QVERIFY(grid.horizontalScrollBar()->maximum() > 0);
+    }
+
     void NoGridIsWiderThanItsScreen()
     {
         Grid grid;

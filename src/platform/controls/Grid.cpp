@@ -538,14 +538,20 @@ void Grid::ShareWidth()
     const int total = std::accumulate(m_twips.begin(), m_twips.end(), 0);
     if (total == 0 || m_model->columnCount() != Columns())
         return;
-    const int width = qMax(viewport()->width(), qMax(ClaimedWidth(), WidthWith(MeasuredLetter)));
+    const int room = viewport()->width();
+    const int claim = qMax(ClaimedWidth(), WidthWith(MeasuredLetter));
+    const int width = qMax(room, claim);
+    // Where only the bar for scrolling down is in the way, the widest column gives what it takes, or the last one would
+    // lose a digit.
+    const int given = claim - room <= ScrollBarWidth ? qMax(0, claim - room) : 0;
+    const auto widest = std::max_element(m_twips.begin(), m_twips.end()) - m_twips.begin();
     int used = 0;
     for (int column = 0; column < Columns(); ++column) {
         const bool last = column == Columns() - 1;
         // The margins of a row's cells are the same in a narrow column and a wide one.
         const int letters = width - 2 * RowLook::Margin * Columns();
         const int share = last ? width - used : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total;
-        horizontalHeader()->resizeSection(column, share);
+        horizontalHeader()->resizeSection(column, column == widest ? share - given : share);
         used += share;
     }
 }
