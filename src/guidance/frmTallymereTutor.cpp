@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 const QString WidestLine = u"Use the browse (<< and >>) buttons at the top to move "_s; // of each page's footer
-constexpr int Lines = 14;          // of a page that are seen without scrolling
+constexpr int Lines = 24;          // of a page that are seen without scrolling, where the screen has room
 constexpr int LeastLines = 5;      // the user may make the window as low as that
 constexpr int TitleBarHeight = 40; // pixels; a guess, before the window manager has put its frame around the window
 } // namespace

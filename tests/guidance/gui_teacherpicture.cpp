@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int ShownSide = 120; // of the picture in the tutor's window
+constexpr int ShownSide = 120; // of the picture in the list of tasks
 const QString Project = QStringLiteral(PROJECT_FOLDER);
 
 QString DrawingOf(Teacher pose)
