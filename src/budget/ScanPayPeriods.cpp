@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// Raises error 13, before anything is changed, if one of the dates that would be sorted is none.
@@ -48,7 +50,7 @@ void NewExtraPayPeriod()
     payPeriod = {};
     payPeriod.PayPeriodDate = Scan.ScanPickedDate;
     payPeriod.NumberOfExtraItems = 1;
-    payPeriod.ExtraItems.At(1).ExtraItem = QStringLiteral("New Item");
+    payPeriod.ExtraItems.At(1).ExtraItem = u"New Item"_s;
 }
 
 void SortExtraPayPeriods()

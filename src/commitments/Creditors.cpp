@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint16 TakenMark = 99;
@@ -61,10 +63,9 @@ EntryOutcome Commit(QStringList &panel, const QString &caption, int record)
 
 } // namespace
 
-const CommitmentList CreditorList{.Title = QStringLiteral("Creditors"),
+const CommitmentList CreditorList{.Title = u"Creditors"_s,
                                   .HelpContext = 22,
-                                  .Fields = {QStringLiteral("txtCreditorDueDate"), QStringLiteral("txtCreditorAmount"),
-                                             QStringLiteral("txtCreditor")},
+                                  .Fields = {u"txtCreditorDueDate"_s, u"txtCreditorAmount"_s, u"txtCreditor"_s},
                                   .Input = InputCreditors,
                                   .Save = SaveCreditors,
                                   .Names = Names,

@@ -5,6 +5,8 @@
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 enum Field { Amount, Item };
@@ -73,9 +75,9 @@ void Remove(int slot)
 
 } // namespace
 
-const CommitmentList ExtraItemList{.Title = QStringLiteral("Extras"),
+const CommitmentList ExtraItemList{.Title = u"Extras"_s,
                                    .HelpContext = 24,
-                                   .Fields = {QStringLiteral("txtExtraItemAmount"), QStringLiteral("txtExtraItem")},
+                                   .Fields = {u"txtExtraItemAmount"_s, u"txtExtraItem"_s},
                                    .Input = InputPayPeriods,
                                    .Save = SavePayPeriods,
                                    .Names = Names,

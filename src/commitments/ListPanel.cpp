@@ -6,12 +6,14 @@
 #include <QScopeGuard>
 #include <QStringListModel>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// The height of a row, also while the list has none.
 int RowHeight(const ListBox &list)
 {
-    const QStringListModel row({QStringLiteral("X")});
+    const QStringListModel row({u"X"_s});
     QStyleOptionViewItem look;
     look.initFrom(&list);
     look.font = list.font();

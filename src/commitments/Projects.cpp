@@ -8,6 +8,8 @@
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 enum Field { Name, Amount, CompletionDate };
@@ -70,10 +72,9 @@ void Remove(int)
 
 } // namespace
 
-const CommitmentList ProjectList{.Title = QStringLiteral("Projects"),
+const CommitmentList ProjectList{.Title = u"Projects"_s,
                                  .HelpContext = 25,
-                                 .Fields = {QStringLiteral("txtProject"), QStringLiteral("txtProjectAmount"),
-                                            QStringLiteral("txtProjectCompletionDate")},
+                                 .Fields = {u"txtProject"_s, u"txtProjectAmount"_s, u"txtProjectCompletionDate"_s},
                                  .Input = InputProjects,
                                  .Save = SaveProjects,
                                  .Names = Names,
@@ -94,11 +95,10 @@ std::optional<Message> ValidateProjectFunds(Currency amount)
 {
     if (Forecast.ForecastPickAccumulated >= amount)
         return {};
-    return Message{
-        QStringLiteral("Tallymere did not find enough funds by the selected Completion Date. Double-click on the "
-                       "Completion Date box to select a later completion date which has at least the Project Amount "
-                       "available in the Accumulated column."),
-        ProjectList.Title, Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp};
+    return Message{u"Tallymere did not find enough funds by the selected Completion Date. Double-click on the "
+                   "Completion Date box to select a later completion date which has at least the Project Amount "
+                   "available in the Accumulated column."_s,
+                   ProjectList.Title, Icon::Warning, Buttons::OkHelp, NotEnoughFundsHelp};
 }
 
 void AddProject(const QString &name, Currency amount)
@@ -149,10 +149,9 @@ void DeleteProject()
 
 Statement ProjectStatement(int project)
 {
-    Statement statement{
-        .Heading = State.ProjectNames(project),
-        .Opening = {{QStringLiteral("Pay Period"), QStringLiteral("Installment"), QStringLiteral("Accumulated")}},
-        .Name = State.ProjectNames(project)};
+    Statement statement{.Heading = State.ProjectNames(project),
+                        .Opening = {{u"Pay Period"_s, u"Installment"_s, u"Accumulated"_s}},
+                        .Name = State.ProjectNames(project)};
     Currency total;
     for (int entry = 1; entry <= EntriesOf(project); ++entry) {
         const Currency amount = State.ProjectEntryAmounts(project)(entry);

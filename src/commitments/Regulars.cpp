@@ -6,6 +6,8 @@
 #include "platform/values/Format.h"
 #include "platform/values/Numbers.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 enum Field { Amount, Item };
@@ -42,9 +44,9 @@ EntryOutcome Commit(QStringList &panel, const QString &caption, int record)
 
 } // namespace
 
-const CommitmentList RegularList{.Title = QStringLiteral("Regulars"),
+const CommitmentList RegularList{.Title = u"Regulars"_s,
                                  .HelpContext = 23,
-                                 .Fields = {QStringLiteral("txtRegularAmount"), QStringLiteral("txtRegularItem")},
+                                 .Fields = {u"txtRegularAmount"_s, u"txtRegularItem"_s},
                                  .Input = InputRegulars,
                                  .Save = SaveRegulars,
                                  .Names = Names,

@@ -8,6 +8,8 @@
 #include "platform/windows/KeyPress.h"
 #include "platform/windows/WindowRegister.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 frmProjects::frmProjects() : ListWindow(ProjectList)
 {
     TakeControls({.List = ui.lstProjects,
@@ -79,7 +81,7 @@ void frmProjects::AddClicked()
 void frmProjects::TellHowToPick()
 {
     if (!ui.txtProject->text().isEmpty() && !ui.txtProjectAmount->text().isEmpty())
-        ui.txtProjectCompletionDate->setToolTip(QStringLiteral("Double-click to select valid date"));
+        ui.txtProjectCompletionDate->setToolTip(u"Double-click to select valid date"_s);
 }
 
 void frmProjects::EntrySaved()
@@ -103,8 +105,7 @@ void frmProjects::RowClicked()
 void frmProjects::ViewProject()
 {
     TheDesk.Beep();
-    const QString question =
-        QStringLiteral("Do you wish to print project %1?").arg(State.ProjectNames(Projects.SelectedProject));
+    const QString question = u"Do you wish to print project %1?"_s.arg(State.ProjectNames(Projects.SelectedProject));
     State.PrintProjectView = ShowMessage(question, ProjectList.Title, Icon::Question, Buttons::YesNo) == Answer::Yes;
     TheWindows.Show(WindowName::frmViewProject);
 }

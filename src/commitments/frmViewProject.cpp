@@ -4,6 +4,8 @@
 #include "foundation/StatementGrid.h"
 #include "platform/windows/Caption.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 constexpr int StartRows = 2; // the heading and one row; every installment brings its own
 constexpr int DateTwips = 1750;
@@ -18,9 +20,9 @@ bool ProjectIsThere()
 
 frmViewProject::frmViewProject()
 {
-    ui.grdViewProject->SetColumns({{QStringLiteral("Pay Period"), DateTwips},
-                                   {QStringLiteral("Installment"), AmountTwips, Qt::AlignRight},
-                                   {QStringLiteral("Accumulated"), AmountTwips, Qt::AlignRight}},
+    ui.grdViewProject->SetColumns({{u"Pay Period"_s, DateTwips},
+                                   {u"Installment"_s, AmountTwips, Qt::AlignRight},
+                                   {u"Accumulated"_s, AmountTwips, Qt::AlignRight}},
                                   StartRows);
     OnGotFocus(ui.grdViewProject, [this] { FillGrid(); });
 }

@@ -2,6 +2,8 @@
 
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // With pay at the month's end every date from the 28th on counts as the month's end, February or not.
@@ -81,5 +83,5 @@ QString OrdinalDueLabel(const QString &name, int day)
         return day == digit || (day != 10 + digit && endsInDigit);
     };
     const char *suffix = takes(1) ? "st" : takes(2) ? "nd" : takes(3) ? "rd" : "th";
-    return name + QStringLiteral(" - ") + text + QLatin1String(suffix);
+    return name + u" - "_s + text + QLatin1String(suffix);
 }

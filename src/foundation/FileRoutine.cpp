@@ -3,6 +3,8 @@
 #include "platform/desk/Desk.h"
 #include "platform/values/Numbers.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 constexpr int MostMessages = 25;
 }
@@ -77,9 +79,8 @@ void Loader::Failed(const RuntimeError &error, qint64 times)
 void Loader::ShowTheRest() const
 {
     if (m_errors > MostMessages)
-        ShowMessage(
-            QStringLiteral("Further errors in this file, not shown one by one: %1").arg(m_errors - MostMessages),
-            m_title, Icon::Stop);
+        ShowMessage(u"Further errors in this file, not shown one by one: %1"_s.arg(m_errors - MostMessages), m_title,
+                    Icon::Stop);
 }
 
 void Loader::List(qint16 &count, const std::function<void()> &redim, const std::function<void(int)> &fields)

@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 GridColour ColourOf(const StatementRow &row, Currency amount)
@@ -78,7 +80,7 @@ void ShowOpening(Grid &grid, const StatementRow &opening, bool numbered)
 {
     QStringList cells = CellsOf(opening);
     if (numbered)
-        cells.prepend(QStringLiteral("No."));
+        cells.prepend(u"No."_s);
     for (int column = 0; column < int(cells.size()); ++column) {
         grid.SetBold(0, column, true);
         grid.SetText(0, column, cells[column]);

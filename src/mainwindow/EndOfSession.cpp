@@ -8,9 +8,11 @@
 
 #include <QScopedValueRollback>
 
+using namespace Qt::Literals::StringLiterals;
+
 void SaveWithoutQuestion()
 {
-    const Form *main = TheWindows.Loaded(QStringLiteral("frmMain"));
+    const Form *main = TheWindows.Loaded(u"frmMain"_s);
     if (!main || !main->isVisible() || State.InitializingVariables)
         return; // a start that was given up leaves settings that are half read
     const QScopedValueRollback quiet(TheDesk.ShowMessage, {[](const Message &message) {

@@ -138,7 +138,7 @@ BENCHMARK(Scrolling)->Arg(360)->Arg(26000)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv, QStringLiteral("Tallymere"));
+    Application application(argc, argv, u"Tallymere"_s);
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <benchmark/benchmark.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int MostRecords = 32767;
@@ -81,7 +83,7 @@ void PutSettings()
     State.PaycheckAmount = Currency::FromTenThousandths(10000000);
     State.PayFrequency = Biweekly;
     State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    State.BudgetPeriodStart = DateText(QStringLiteral("1/1/2004"));
+    State.BudgetPeriodStart = DateText(u"1/1/2004"_s);
 }
 
 // ---------------------------------------------------------------- the generator
@@ -99,7 +101,7 @@ void PairOfRuns(benchmark::State &benchmark)
     int pairs = 0;
     for ([[maybe_unused]] auto pass : benchmark) {
         if (++pairs % 1000 == 0)
-            State.BudgetPeriodStart = DateText(QStringLiteral("1/1/2004"));
+            State.BudgetPeriodStart = DateText(u"1/1/2004"_s);
         GenerateBudget();
         GenerateBudget();
     }

@@ -185,7 +185,7 @@ BENCHMARK(WindowByCreditors)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMil
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv, QStringLiteral("Tallymere"));
+    Application application(argc, argv, u"Tallymere"_s);
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

@@ -146,7 +146,7 @@ BENCHMARK(ScrollAPage)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv, QStringLiteral("Tallymere"));
+    Application application(argc, argv, u"Tallymere"_s);
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

@@ -6,6 +6,8 @@
 #include "budget/BudgetGenerator.h"
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// Whole units of money.
@@ -18,7 +20,7 @@ constexpr Currency Count(qint64 tenThousandths)
     return Currency::FromTenThousandths(tenThousandths);
 }
 
-const QString NextCredit = QStringLiteral("CREDIT - Budget");
+const QString NextCredit = u"CREDIT - Budget"_s;
 
 /// A biweekly household of 1,000 without commitments, budgeted from January 1, 2004.
 class Household : public FakeDesk
@@ -31,7 +33,7 @@ public:
         State.FirstPayDate = 1;
         State.SecondPayDate = 15;
         State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-        State.BudgetPeriodStart = DateText(QStringLiteral("1/1/2004"));
+        State.BudgetPeriodStart = DateText(u"1/1/2004"_s);
         QObject::connect(&TheBudgetOutlet, &StatementOutlet::Ready, &m_window, [this](const Statement &budget) {
             Shown = budget;
             ++Runs;
@@ -104,9 +106,9 @@ QString Told(const Statement &page)
         const QString amount = count % Currency::Unit == 0 ? QString::number(count / Currency::Unit)
                                                            : QString::number(count) + QLatin1String("/10000");
         told += LabelOf(line) + QLatin1Char(' ') + amount +
-                (line.TheKind == StatementRow::Credit ? QStringLiteral(" credit") : QString());
+                (line.TheKind == StatementRow::Credit ? u" credit"_s : QString());
     }
-    return told.join(QStringLiteral("; "));
+    return told.join(u"; "_s);
 }
 
 struct Figures {
@@ -133,45 +135,45 @@ private Q_SLOTS:
     void EveryRunTurnsTheDirection()
     {
         Household household;
-        QCOMPARE(household.Run().Heading, QStringLiteral("Looking Ahead - January 15, 2004"));
+        QCOMPARE(household.Run().Heading, u"Looking Ahead - January 15, 2004"_s);
         QVERIFY(State.LookingAhead);
-        QCOMPARE(household.Run().Heading, QStringLiteral("Budget - January 1, 2004"));
+        QCOMPARE(household.Run().Heading, u"Budget - January 1, 2004"_s);
         QVERIFY(!State.LookingAhead);
-        QCOMPARE(household.Run().Heading, QStringLiteral("Looking Ahead - January 29, 2004"));
-        QCOMPARE(household.Run().Heading, QStringLiteral("Budget - January 15, 2004"));
-        QCOMPARE(household.Run().Heading, QStringLiteral("Looking Ahead - February 12, 2004"));
+        QCOMPARE(household.Run().Heading, u"Looking Ahead - January 29, 2004"_s);
+        QCOMPARE(household.Run().Heading, u"Budget - January 15, 2004"_s);
+        QCOMPARE(household.Run().Heading, u"Looking Ahead - February 12, 2004"_s);
     }
 
     void OnlyABudgetRunMovesThePeriodOn()
     {
         Household household;
         household.Run();
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/1/2004"));
-        QCOMPARE(State.PayPeriodDate.Text(), QStringLiteral("1/1/2004"));
-        QCOMPARE(State.NextPeriodDate.Text(), QStringLiteral("1/15/2004"));
-        QCOMPARE(State.NextNextPeriodDate.Text(), QStringLiteral("1/29/2004"));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/1/2004"_s);
+        QCOMPARE(State.PayPeriodDate.Text(), u"1/1/2004"_s);
+        QCOMPARE(State.NextPeriodDate.Text(), u"1/15/2004"_s);
+        QCOMPARE(State.NextNextPeriodDate.Text(), u"1/29/2004"_s);
         household.Run();
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/15/2004"));
-        QCOMPARE(State.PayPeriodDate.Text(), QStringLiteral("1/1/2004"));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/15/2004"_s);
+        QCOMPARE(State.PayPeriodDate.Text(), u"1/1/2004"_s);
         household.Run();
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/15/2004"));
-        QCOMPARE(State.PayPeriodDate.Text(), QStringLiteral("1/15/2004"));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/15/2004"_s);
+        QCOMPARE(State.PayPeriodDate.Text(), u"1/15/2004"_s);
     }
 
     void TheStartIsNormalised()
     {
         Household household;
-        State.BudgetPeriodStart = DateText(QStringLiteral("January 01, 2004"));
+        State.BudgetPeriodStart = DateText(u"January 01, 2004"_s);
         household.Run();
-        QCOMPARE(State.PayPeriodDate.Text(), QStringLiteral("1/1/2004"));
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("January 01, 2004"));
+        QCOMPARE(State.PayPeriodDate.Text(), u"1/1/2004"_s);
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"January 01, 2004"_s);
     }
 
     void AReversedAlternationBudgetsFirst()
     {
         Household household;
         State.LookingAhead = true; // what a window's activation prevents
-        QCOMPARE(household.Run().Heading, QStringLiteral("Budget - January 1, 2004"));
+        QCOMPARE(household.Run().Heading, u"Budget - January 1, 2004"_s);
     }
 
     // ------------------------------------------------------------ lines
@@ -181,7 +183,7 @@ private Q_SLOTS:
         Household household;
         const Statement page = household.RunPair();
         QCOMPARE(Told(page), QString());
-        QCOMPARE(ResultLabelOf(page), QStringLiteral("SAVINGS"));
+        QCOMPARE(ResultLabelOf(page), u"SAVINGS"_s);
         QCOMPARE(ResultOf(page), Dollars(1000));
     }
 
@@ -204,10 +206,10 @@ private Q_SLOTS:
         const Statement page = household.Run();
         // Ahead: 1000 - 130 - 1170 = -300. Now: 1000 - 600 - 130 - 20 + 5 - 10 = 245, received 7 makes 252.
         // Levelled: (252 - 300) / 2 = -24; passed on: 300 - 24 = 276.
-        QCOMPARE(Told(page), QStringLiteral("Car - 14th 200; Rent - 1st 400; Food 100; Bus 30; Gift 20; "
-                                            "CREDIT - Refund -5 credit; Roof 10; CREDIT - Budget -7 credit; "
-                                            "Budget - January 15, 2004 276"));
-        QCOMPARE(ResultLabelOf(page), QStringLiteral("DEFICIT"));
+        QCOMPARE(Told(page), u"Car - 14th 200; Rent - 1st 400; Food 100; Bus 30; Gift 20; "
+                             "CREDIT - Refund -5 credit; Roof 10; CREDIT - Budget -7 credit; "
+                             "Budget - January 15, 2004 276"_s);
+        QCOMPARE(ResultLabelOf(page), u"DEFICIT"_s);
         QCOMPARE(ResultOf(page), Dollars(-24));
     }
 
@@ -225,7 +227,7 @@ private Q_SLOTS:
         household.AddCreditor("Rent", 1, Dollars(400));
         household.AddCreditor("Car", 15, Dollars(200));
         const Statement page = household.Run();
-        QCOMPARE(Told(page), QStringLiteral("Car - 15th 200; Food 100; Then 21; Roof 11"));
+        QCOMPARE(Told(page), u"Car - 15th 200; Food 100; Then 21; Roof 11"_s);
         QCOMPARE(ResultOf(page), Dollars(668));
     }
 
@@ -236,9 +238,9 @@ private Q_SLOTS:
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Tax", Dollars(1100));
         const Statement page = household.Run();
-        QCOMPARE(Told(page), QStringLiteral("Tax 1100"));
+        QCOMPARE(Told(page), u"Tax 1100"_s);
         QCOMPARE(ResultOf(page), Dollars(-100));
-        QCOMPARE(ResultLabelOf(page), QStringLiteral("DEFICIT"));
+        QCOMPARE(ResultLabelOf(page), u"DEFICIT"_s);
         QCOMPARE(State.BudgetCredit, Dollars(50));
         QCOMPARE(State.NextPeriodShortfall, Dollars(-100));
     }
@@ -248,12 +250,12 @@ private Q_SLOTS:
         Household household;
         household.AddRegular("All", Dollars(1000));
         const Statement ahead = household.Run();
-        QCOMPARE(ResultLabelOf(ahead), QStringLiteral("SAVINGS"));
+        QCOMPARE(ResultLabelOf(ahead), u"SAVINGS"_s);
         QCOMPARE(ResultOf(ahead), Currency());
         QCOMPARE(State.NextPeriodShortfall, Currency());
         const Statement now = household.Run();
-        QCOMPARE(Told(now), QStringLiteral("All 1000")); // no "Budget - <date>" line
-        QCOMPARE(ResultLabelOf(now), QStringLiteral("SAVINGS"));
+        QCOMPARE(Told(now), u"All 1000"_s); // no "Budget - <date>" line
+        QCOMPARE(ResultLabelOf(now), u"SAVINGS"_s);
         QCOMPARE(ResultOf(now), Currency());
     }
 
@@ -276,7 +278,7 @@ private Q_SLOTS:
         household.AddExtra("First", Dollars(2));
         household.AddPayPeriod("1/1/2004");
         household.AddExtra("Second", Dollars(4));
-        QCOMPARE(Told(household.RunPair()), QStringLiteral("First 2"));
+        QCOMPARE(Told(household.RunPair()), u"First 2"_s);
     }
 
     void AnEmptyFirstRecordStopsTheSearch()
@@ -294,7 +296,7 @@ private Q_SLOTS:
         household.AddPayPeriod("1/1/2004");
         household.AddExtra("Refund", Dollars(-20));
         const Statement page = household.RunPair();
-        QCOMPARE(Told(page), QStringLiteral("CREDIT - Refund -20 credit"));
+        QCOMPARE(Told(page), u"CREDIT - Refund -20 credit"_s);
         QCOMPARE(ResultOf(page), Dollars(1020));
     }
 
@@ -303,7 +305,7 @@ private Q_SLOTS:
         Household household;
         household.AddPayPeriod("1/1/2004");
         household.AddExtra("Nothing", Currency());
-        QCOMPARE(Told(household.RunPair()), QStringLiteral("Nothing 0"));
+        QCOMPARE(Told(household.RunPair()), u"Nothing 0"_s);
     }
 
     void ItemsBehindTheCountAreNotLookedAt()
@@ -311,9 +313,9 @@ private Q_SLOTS:
         Household household;
         household.AddPayPeriod("1/1/2004");
         household.AddExtra("In", Dollars(1));
-        State.ExtraPayPeriods(1).ExtraItems.At(0) = {QStringLiteral("Zero"), Dollars(2)};
-        State.ExtraPayPeriods(1).ExtraItems.At(2) = {QStringLiteral("Behind"), Dollars(4)};
-        QCOMPARE(Told(household.RunPair()), QStringLiteral("In 1"));
+        State.ExtraPayPeriods(1).ExtraItems.At(0) = {u"Zero"_s, Dollars(2)};
+        State.ExtraPayPeriods(1).ExtraItems.At(2) = {u"Behind"_s, Dollars(4)};
+        QCOMPARE(Told(household.RunPair()), u"In 1"_s);
     }
 
     void TwoHundredItemsAreWalked()
@@ -338,7 +340,7 @@ private Q_SLOTS:
         household.AddEntry("01-01-2004", Dollars(4));
         household.AddProject("Trip");
         household.AddEntry("January 1, 2004", Dollars(-8)); // not a credit: only extra items are
-        QCOMPARE(Told(household.RunPair()), QStringLiteral("Roof 1; Roof 4; Trip -8"));
+        QCOMPARE(Told(household.RunPair()), u"Roof 1; Roof 4; Trip -8"_s);
         QCOMPARE(State.BudgetBalance, Dollars(1003));
     }
 
@@ -347,7 +349,7 @@ private Q_SLOTS:
         Household household;
         household.AddProject("Roof");
         State.ProjectAmounts(1) = Dollars(500);
-        State.ProjectEntryDates(1).At(0) = DateText(QStringLiteral("1/1/2004"));
+        State.ProjectEntryDates(1).At(0) = DateText(u"1/1/2004"_s);
         State.ProjectEntryAmounts(1).At(0) = Dollars(5);
         const Statement page = household.RunPair();
         QCOMPARE(Told(page), QString());
@@ -390,7 +392,7 @@ private Q_SLOTS:
         household.Run();
         QCOMPARE(State.NextPeriodShortfall, Count(-deficit));
         const Statement page = household.Run();
-        QCOMPARE(LabelOf(LinesOf(page).back()), QStringLiteral("Budget - January 15, 2004"));
+        QCOMPARE(LabelOf(LinesOf(page).back()), u"Budget - January 15, 2004"_s);
         QCOMPARE(AmountOf(LinesOf(page).back()), Count(passedOn));
         QCOMPARE(LinesOf(page).back().TheKind, StatementRow::Ordinary); // also a negative one
         QCOMPARE(ResultOf(page), Count(levelled));
@@ -415,11 +417,11 @@ private Q_SLOTS:
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Then", Dollars(1100));
         Statement page = household.RunPair();
-        QCOMPARE(Told(page), QStringLiteral("Now 500; Budget - January 15, 2004 300"));
-        QCOMPARE(ResultLabelOf(page), QStringLiteral("SAVINGS"));
+        QCOMPARE(Told(page), u"Now 500; Budget - January 15, 2004 300"_s);
+        QCOMPARE(ResultLabelOf(page), u"SAVINGS"_s);
         QCOMPARE(ResultOf(page), Dollars(200));
         page = household.RunPair();
-        QCOMPARE(Told(page), QStringLiteral("Then 1100; CREDIT - Budget -300 credit"));
+        QCOMPARE(Told(page), u"Then 1100; CREDIT - Budget -300 credit"_s);
         QCOMPARE(ResultOf(page), Dollars(200));
         // A shortfall is passed on once, and a surplus never.
         page = household.RunPair();
@@ -438,9 +440,9 @@ private Q_SLOTS:
         QCOMPARE(State.BudgetCredit, Dollars(600));
         const Statement second = household.RunPair();
         // -200 + 600 = 400 received; (400 - 400) / 2 = 0; passed on 400.
-        QCOMPARE(Told(second), QStringLiteral("A 1200; CREDIT - Budget -600 credit; Budget - January 29, 2004 400"));
+        QCOMPARE(Told(second), u"A 1200; CREDIT - Budget -600 credit; Budget - January 29, 2004 400"_s);
         QCOMPARE(ResultOf(second), Currency());
-        QCOMPARE(Told(household.RunPair()), QStringLiteral("B 1400; CREDIT - Budget -400 credit"));
+        QCOMPARE(Told(household.RunPair()), u"B 1400; CREDIT - Budget -400 credit"_s);
         QCOMPARE(State.BudgetBalance, Currency());
     }
 
@@ -452,9 +454,9 @@ private Q_SLOTS:
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Then", Dollars(1100)); // D = 100: both stay at -100
         const Statement page = household.RunPair();
-        QCOMPARE(Told(page), QStringLiteral("Now 1100; Budget - January 15, 2004 0"));
+        QCOMPARE(Told(page), u"Now 1100; Budget - January 15, 2004 0"_s);
         QCOMPARE(ResultOf(page), Dollars(-100));
-        QCOMPARE(Told(household.RunPair()), QStringLiteral("Then 1100")); // a credit of 0 is none
+        QCOMPARE(Told(household.RunPair()), u"Then 1100"_s); // a credit of 0 is none
     }
 
     void TheLevelledBalanceRoundsOnce_data()
@@ -541,21 +543,19 @@ private Q_SLOTS:
             return list;
         };
         QTest::newRow("biweekly from the 25th to the 8th: the 28th and the 3rd, not the 8th")
-            << QStringLiteral("1/25/2004") << 14 << days(1, 7) + days(25, 31);
-        QTest::newRow("February 20 of a leap year has a 29th")
-            << QStringLiteral("2/20/2004") << 14 << days(1, 4) + days(20, 29);
+            << u"1/25/2004"_s << 14 << days(1, 7) + days(25, 31);
+        QTest::newRow("February 20 of a leap year has a 29th") << u"2/20/2004"_s << 14 << days(1, 4) + days(20, 29);
         QTest::newRow("February 20 of a common year has a 29th, too")
-            << QStringLiteral("2/20/2005") << 14 << days(1, 5) + days(20, 29);
-        QTest::newRow("a month of 30 days leaves out the 31st")
-            << QStringLiteral("4/25/2004") << 14 << days(1, 8) + days(25, 30);
-        QTest::newRow("inside one month") << QStringLiteral("1/8/2004") << 14 << days(8, 21);
-        QTest::newRow("weekly") << QStringLiteral("12/29/2003") << 7 << days(1, 4) + days(29, 31);
-        QTest::newRow("semimonthly, first half") << QStringLiteral("1/1/2004") << 15 << days(1, 14);
-        QTest::newRow("semimonthly, second half") << QStringLiteral("1/15/2004") << 15 << days(15, 31);
-        QTest::newRow("semimonthly, second half of February") << QStringLiteral("2/15/2005") << 15 << days(15, 29);
-        QTest::newRow("monthly: all of them") << QStringLiteral("1/15/2004") << 30 << days(1, 31);
+            << u"2/20/2005"_s << 14 << days(1, 5) + days(20, 29);
+        QTest::newRow("a month of 30 days leaves out the 31st") << u"4/25/2004"_s << 14 << days(1, 8) + days(25, 30);
+        QTest::newRow("inside one month") << u"1/8/2004"_s << 14 << days(8, 21);
+        QTest::newRow("weekly") << u"12/29/2003"_s << 7 << days(1, 4) + days(29, 31);
+        QTest::newRow("semimonthly, first half") << u"1/1/2004"_s << 15 << days(1, 14);
+        QTest::newRow("semimonthly, second half") << u"1/15/2004"_s << 15 << days(15, 31);
+        QTest::newRow("semimonthly, second half of February") << u"2/15/2005"_s << 15 << days(15, 29);
+        QTest::newRow("monthly: all of them") << u"1/15/2004"_s << 30 << days(1, 31);
         QTest::newRow("biweekly over a common February meets the same day in between")
-            << QStringLiteral("2/14/2005") << 14 << days(14, 27);
+            << u"2/14/2005"_s << 14 << days(14, 27);
     }
     void PlacementInARun()
     {
@@ -578,11 +578,11 @@ private Q_SLOTS:
     void ALookAheadRunUsesTheWindowOfTheNextPeriod()
     {
         Household household;
-        State.BudgetPeriodStart = DateText(QStringLiteral("4/15/2004")); // next: April 29 to May 13
+        State.BudgetPeriodStart = DateText(u"4/15/2004"_s); // next: April 29 to May 13
         for (const int day : {28, 29, 30, 31, 1, 12, 13, 15})
             household.AddCreditor("x", day, Dollars(1));
         // April, in which that window starts, has 30 days.
-        QCOMPARE(Told(household.Run()), QStringLiteral("x - 29th 1; x - 30th 1; x - 1st 1; x - 12th 1"));
+        QCOMPARE(Told(household.Run()), u"x - 29th 1; x - 30th 1; x - 1st 1; x - 12th 1"_s);
     }
 
     void SemimonthlyPayWithAFirstPayDayOf0PaysNobodyAndStands()
@@ -592,11 +592,11 @@ private Q_SLOTS:
         Household household;
         State.PayFrequency = Semimonthly;
         State.FirstPayDate = 0;
-        State.BudgetPeriodStart = DateText(QStringLiteral("1/31/2004"));
+        State.BudgetPeriodStart = DateText(u"1/31/2004"_s);
         household.AddCreditor("x", 31, Dollars(1));
         household.AddCreditor("x", 1, Dollars(1));
         QCOMPARE(Told(household.RunPair()), QString());
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/31/2004"));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/31/2004"_s);
     }
 
     void WithMonthlyPayEverythingIsInEveryPeriod()
@@ -608,10 +608,10 @@ private Q_SLOTS:
         household.AddCreditor("Car", 5, Dollars(2));
         household.AddRegular("Food", Dollars(4));
         for (int run = 0; run < 24; ++run) {
-            QCOMPARE(Told(household.Run()), QStringLiteral("Rent - 31st 1; Car - 5th 2; Food 4"));
+            QCOMPARE(Told(household.Run()), u"Rent - 31st 1; Car - 5th 2; Food 4"_s);
             QCOMPARE(State.BudgetBalance, Dollars(993));
         }
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/31/2005"));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/31/2005"_s);
     }
 
     void RegularItemsAreInEveryRunWhateverTheFrequency()
@@ -621,8 +621,8 @@ private Q_SLOTS:
             State.PayFrequency = frequency;
             household.AddRegular("Food", Dollars(4));
             household.AddRegular("Bus", Dollars(-3)); // not a credit: only extra items are
-            QCOMPARE(Told(household.Run()), QStringLiteral("Food 4; Bus -3"));
-            QCOMPARE(Told(household.Run()), QStringLiteral("Food 4; Bus -3"));
+            QCOMPARE(Told(household.Run()), u"Food 4; Bus -3"_s);
+            QCOMPARE(Told(household.Run()), u"Food 4; Bus -3"_s);
         }
     }
 
@@ -632,7 +632,7 @@ private Q_SLOTS:
         household.AddCreditor("Rent", 1, Count(6500001));
         household.AddCreditor("Rent", 1, Dollars(-30));
         const Statement page = household.RunPair();
-        QCOMPARE(Told(page), QStringLiteral("Rent - 1st 6500001/10000; Rent - 1st -30"));
+        QCOMPARE(Told(page), u"Rent - 1st 6500001/10000; Rent - 1st -30"_s);
         QCOMPARE(ResultOf(page), Count(10000000 - 6500001 + 300000));
     }
 
@@ -651,11 +651,11 @@ private Q_SLOTS:
         household.AddEntry("1/1/2004", Dollars(7));
         const Statement page = household.RunPair();
         QCOMPARE(LinesOf(page).size(), std::size_t(200 + 100 + 1));
-        QCOMPARE(LabelOf(LinesOf(page)[199]), QStringLiteral("Gift"));
-        QCOMPARE(LabelOf(LinesOf(page)[200]), QStringLiteral("Roof"));
-        QCOMPARE(LabelOf(LinesOf(page)[300]), QStringLiteral("Trip"));
+        QCOMPARE(LabelOf(LinesOf(page)[199]), u"Gift"_s);
+        QCOMPARE(LabelOf(LinesOf(page)[200]), u"Roof"_s);
+        QCOMPARE(LabelOf(LinesOf(page)[300]), u"Trip"_s);
         QCOMPARE(ResultOf(page), Dollars(1000 - 200 - 200 - 7));
-        QCOMPARE(State.BudgetPeriodStart.Text(), QStringLiteral("1/15/2004"));
+        QCOMPARE(State.BudgetPeriodStart.Text(), u"1/15/2004"_s);
         QCOMPARE(Told(household.Run()), QString());
     }
 
@@ -747,11 +747,11 @@ private Q_SLOTS:
                    QString::fromLatin1(amount);
         };
         // 28 signs: column (80 - 28) / 2 = 26, and so 25 blanks. 32 signs: column 24. 24 signs: column 28.
-        const QString title = QString(25, QLatin1Char(' ')) + QStringLiteral("The Corvelle's Tallymere 1.0");
+        const QString title = QString(25, QLatin1Char(' ')) + u"The Corvelle's Tallymere 1.0"_s;
         const QStringList expected{
             title,
             QString(),
-            QString(23, QLatin1Char(' ')) + QStringLiteral("Looking Ahead - January 15, 2004"),
+            QString(23, QLatin1Char(' ')) + u"Looking Ahead - January 15, 2004"_s,
             QString(),
             amountLine("Paycheck Amount", "$1,000.00"),
             rule,
@@ -763,7 +763,7 @@ private Q_SLOTS:
             QString(),
             title,
             QString(),
-            QString(27, QLatin1Char(' ')) + QStringLiteral("Budget - January 1, 2004"),
+            QString(27, QLatin1Char(' ')) + u"Budget - January 1, 2004"_s,
             QString(),
             amountLine("Paycheck Amount", "$1,000.00"),
             rule,
@@ -787,9 +787,9 @@ private Q_SLOTS:
         State.PrintBudget = true;
         household.Run();
         QCOMPARE(ThePrinter.PendingLines().value(4),
-                 QStringLiteral("              Paycheck Amount                          $1,000.00"));
+                 u"              Paycheck Amount                          $1,000.00"_s);
         QCOMPARE(ThePrinter.PendingLines().value(5),
-                 QStringLiteral("              __________________________________________________"));
+                 u"              __________________________________________________"_s);
     }
 
     void AForecastPrintsNeitherHeadingNorResult()
@@ -799,10 +799,9 @@ private Q_SLOTS:
         household.AddRegular("Food", Dollars(4));
         household.Run();
         QCOMPARE(ThePrinter.PendingLines(),
-                 QStringList({QStringLiteral("                         The Corvelle's Tallymere 1.0"), QString(),
-                              QStringLiteral("              Food                                         $4.00"),
-                              QStringLiteral("              __________________________________________________"),
-                              QString()}));
+                 QStringList({u"                         The Corvelle's Tallymere 1.0"_s, QString(),
+                              u"              Food                                         $4.00"_s,
+                              u"              __________________________________________________"_s, QString()}));
         QCOMPARE(household.Shown.Heading, QString());
     }
 
@@ -810,12 +809,12 @@ private Q_SLOTS:
     {
         Household household;
         State.PrintBudget = true;
-        State.PrintFontName = QStringLiteral("Serif");
+        State.PrintFontName = u"Serif"_s;
         State.PrintFontSize = 11;
         household.Run();
         ThePrinter.EndDoc();
         const PrintFont font = household.TakePrinted().Font;
-        QCOMPARE(font.Name, QStringLiteral("Serif"));
+        QCOMPARE(font.Name, u"Serif"_s);
         QCOMPARE(font.Size, 11.0F);
     }
 
@@ -842,7 +841,7 @@ private Q_SLOTS:
         Household household;
         QFETCH(int, place);
         if (place == 0)
-            State.BudgetPeriodStart = DateText(QStringLiteral("some day"));
+            State.BudgetPeriodStart = DateText(u"some day"_s);
         if (place == 1)
             household.AddPayPeriod("some day");
         if (place == 2) {
@@ -864,7 +863,7 @@ private Q_SLOTS:
         household.AddPayPeriod("1/15/2004");
         household.AddExtra("Then", Dollars(1));
         household.AddPayPeriod("some day");
-        QCOMPARE(Told(household.Run()), QStringLiteral("Then 1"));
+        QCOMPARE(Told(household.Run()), u"Then 1"_s);
     }
 
     void AmountsBeyondTheRangeAreAnOverflow_data()
@@ -893,7 +892,7 @@ private Q_SLOTS:
     void BeyondTheYear9999IsAnInvalidCall()
     {
         Household household;
-        State.BudgetPeriodStart = DateText(QStringLiteral("12/24/9999"));
+        State.BudgetPeriodStart = DateText(u"12/24/9999"_s);
         QCOMPARE(ErrorOf(GenerateBudget), 5);
     }
 };

@@ -24,7 +24,7 @@ void TakeProject(const QString &name, const QList<double> &installments)
     State.ProjectEntryDates.Redim(1);
     State.ProjectEntryAmounts.Redim(1);
     for (int i = 0; i < installments.size(); ++i) {
-        State.ProjectEntryDates(1).At(i + 1) = QStringLiteral("01-0%1-2004").arg(i + 1);
+        State.ProjectEntryDates(1).At(i + 1) = u"01-0%1-2004"_s.arg(i + 1);
         State.ProjectEntryAmounts(1).At(i + 1) = Dollars(installments[i]);
     }
     Projects.SelectedProject = 1;

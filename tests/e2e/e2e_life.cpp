@@ -11,27 +11,29 @@
 #include <QTemporaryDir>
 #include <QWindow>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// One call of xdotool; keys and buttons are pressed and let go when it returns.
 bool Do(const QStringList &words)
 {
     QProcess tool;
-    tool.start(QStringLiteral("xdotool"), words);
+    tool.start(u"xdotool"_s, words);
     return tool.waitForFinished(10000) && tool.exitCode() == 0;
 }
 bool Key(const QString &key)
 {
-    return Do({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), key});
+    return Do({u"key"_s, u"--clearmodifiers"_s, key});
 }
 bool TypeText(const QString &text)
 {
-    return Do({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+    return Do({u"type"_s, u"--delay"_s, u"5"_s, text});
 }
 bool ClickAt(QPoint point)
 {
-    return Do({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(point.x()),
-               QString::number(point.y()), QStringLiteral("click"), QStringLiteral("1")});
+    return Do(
+        {u"mousemove"_s, u"--sync"_s, QString::number(point.x()), QString::number(point.y()), u"click"_s, u"1"_s});
 }
 bool ClickTitleBar(const Form &form)
 {
@@ -52,7 +54,7 @@ bool ClickBody(const Form &form)
 WId TopWindow()
 {
     QProcess tool;
-    tool.start(QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST_STACKING")});
+    tool.start(u"xprop"_s, {u"-root"_s, u"_NET_CLIENT_LIST_STACKING"_s});
     tool.waitForFinished(10000);
     const QByteArray answer = tool.readAllStandardOutput();
     return answer.mid(answer.lastIndexOf("0x")).trimmed().toULongLong(nullptr, 16);
@@ -60,19 +62,19 @@ WId TopWindow()
 
 QStringList Comes(const QString &name)
 {
-    return {name + QStringLiteral(" Activate"), name + QStringLiteral(" GotFocus First")};
+    return {name + u" Activate"_s, name + u" GotFocus First"_s};
 }
 QStringList Goes(const QString &name)
 {
-    return {name + QStringLiteral(" LostFocus First"), name + QStringLiteral(" Deactivate")};
+    return {name + u" LostFocus First"_s, name + u" Deactivate"_s};
 }
 QStringList OpensFrom(const QString &old, const QString &name)
 {
-    return QStringList{name + QStringLiteral(" Load")} + Goes(old) + Comes(name);
+    return QStringList{name + u" Load"_s} + Goes(old) + Comes(name);
 }
 QStringList Closes(const QString &name)
 {
-    return {name + QStringLiteral(" QueryUnload by code"), name + QStringLiteral(" Unload")};
+    return {name + u" QueryUnload by code"_s, name + u" Unload"_s};
 }
 
 /// Shows a window and waits until the window system has followed and has nothing more to say.
@@ -100,7 +102,7 @@ class Stranger
 public:
     Stranger()
     {
-        m_process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--stranger")});
+        m_process.start(QCoreApplication::applicationFilePath(), {u"--stranger"_s});
         m_stands =
             m_process.waitForStarted(10000) && QTest::qWaitFor([] { return !QGuiApplication::focusWindow(); }, 10000);
     }
@@ -120,7 +122,7 @@ private:
 int BeAStranger(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    QLabel window(QStringLiteral("Another program"));
+    QLabel window(u"Another program"_s);
     window.setGeometry(860, 500, 300, 200);
     window.setFocusPolicy(Qt::StrongFocus);
     window.show();
@@ -138,7 +140,7 @@ class e2e_life : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { Do({QStringLiteral("mousemove"), QStringLiteral("1200"), QStringLiteral("900")}); }
+    void init() { Do({u"mousemove"_s, u"1200"_s, u"900"_s}); }
 
     void ShowingMovesTheUserAndHisKeys()
     {
@@ -263,14 +265,14 @@ private Q_SLOTS:
         ShowAtRest("B", Below);
         TakeLog();
         // Its load puts the window in front away, so that the window manager turns to the one behind it meanwhile.
-        WhenHeard[QStringLiteral("C Load")] = [] { TheWindows.Hide(QStringLiteral("B")); };
-        WhenHeard[QStringLiteral("C GotFocus First")] = [] { QTest::qSleep(900); };
+        WhenHeard[u"C Load"_s] = [] { TheWindows.Hide(u"B"_s); };
+        WhenHeard[u"C GotFocus First"_s] = [] { QTest::qSleep(900); };
         Show("C");
         QTRY_COMPARE(QApplication::activeWindow(), &toys["C"]);
         QTest::qWait(900);
         const QStringList log = TakeLog();
-        QCOMPARE(log.count(QStringLiteral("C GotFocus First")), 1);
-        QCOMPARE(log.last(), QStringLiteral("C GotFocus First"));
+        QCOMPARE(log.count(u"C GotFocus First"_s), 1);
+        QCOMPARE(log.last(), u"C GotFocus First"_s);
         QCOMPARE(QApplication::activeWindow(), &toys["C"]);
     }
 
@@ -315,7 +317,7 @@ private Q_SLOTS:
         ToyBox toys;
         QTemporaryDir folder;
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(QStringLiteral("Toys"), folder.path());
+        InstallRealDesk(u"Toys"_s, folder.path());
         TheDesk.EndProgram = end;
         ShowAtRest("C", Below);
         ShowAtRest("A", Left);
@@ -346,11 +348,11 @@ private Q_SLOTS:
         ToyBox toys;
         QTemporaryDir folder;
         const auto end = TheDesk.EndProgram;
-        InstallRealDesk(QStringLiteral("Toys"), folder.path());
+        InstallRealDesk(u"Toys"_s, folder.path());
         TheDesk.EndProgram = end;
         ShowAtRest("A", Left);
         ShowAtRest("B", Right);
-        When("B Deactivate", [] { TheDesk.PrintDocument({{}, {QStringLiteral("a line")}, QStringLiteral("Budget")}); });
+        When("B Deactivate", [] { TheDesk.PrintDocument({{}, {u"a line"_s}, u"Budget"_s}); });
         QStringList before;
         QTimer answering;
         connect(&answering, &QTimer::timeout, this, [&] {
@@ -479,14 +481,13 @@ private Q_SLOTS:
         When("B Click", [] { Hide("B"); });
         TakeLog();
         const QPoint place = toys["B"].Button->mapToGlobal(toys["B"].Button->rect().center());
-        QVERIFY(Do({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(place.x()),
-                    QString::number(place.y()), QStringLiteral("click"), QStringLiteral("--repeat"),
-                    QStringLiteral("2"), QStringLiteral("--delay"), QStringLiteral("60"), QStringLiteral("1")}));
+        QVERIFY(Do({u"mousemove"_s, u"--sync"_s, QString::number(place.x()), QString::number(place.y()), u"click"_s,
+                    u"--repeat"_s, u"2"_s, u"--delay"_s, u"60"_s, u"1"_s}));
         QTRY_VERIFY(Log.contains("B Click"));
         QTest::qWait(QApplication::doubleClickInterval() + 100);
         QVERIFY(!toys["B"].isVisible());
         QVERIFY(!Log.contains("A Click"));
-        QVERIFY(Do({QStringLiteral("click"), QStringLiteral("1")})); // the pointer is there already
+        QVERIFY(Do({u"click"_s, u"1"_s})); // the pointer is there already
         QTRY_VERIFY(Log.contains("A Click"));
     }
 
@@ -580,7 +581,7 @@ int main(int argc, char **argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--stranger") == 0)
         return BeAStranger(argc, argv);
-    Application application(argc, argv, QStringLiteral("Toys"));
+    Application application(argc, argv, u"Toys"_s);
     e2e_life test;
     return QTest::qExec(&test, argc, argv);
 }

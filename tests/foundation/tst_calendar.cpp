@@ -5,13 +5,15 @@
 #include "foundation/Calendar.h"
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// mm-dd-yyyy as the program's short form m/d/yyyy.
 QString Short(const QString &dashes)
 {
     const QStringList parts = dashes.split(QLatin1Char('-'));
-    return QStringLiteral("%1/%2/%3").arg(parts[0].toInt()).arg(parts[1].toInt()).arg(parts[2].toInt());
+    return u"%1/%2/%3"_s.arg(parts[0].toInt()).arg(parts[1].toInt()).arg(parts[2].toInt());
 }
 
 /// The next pay period's text. The calendar on days without text has to agree with it.
@@ -132,14 +134,14 @@ private Q_SLOTS:
         QFETCH(int, frequency);
         QFETCH(int, monthEndPay);
         State.MonthEndPay = qint16(monthEndPay);
-        QCOMPARE(Next(QStringLiteral("01-15-2004"), frequency), QString());
+        QCOMPARE(Next(u"01-15-2004"_s, frequency), QString());
     }
     void UnknownSettingsNeverLookAtTheDate()
     {
         FakeDesk desk;
         State.MonthEndPay = 1;
         for (const qint16 frequency : {qint16(21), Monthly}) {
-            QCOMPARE(NextPayPeriod(DateText(QStringLiteral("payday")), frequency).Text(), QString());
+            QCOMPARE(NextPayPeriod(DateText(u"payday"_s), frequency).Text(), QString());
             QVERIFY(NextPayPeriod(DateText(), frequency).IsEmpty());
             QVERIFY(!NextPayPeriod(QDate(), frequency).isValid());
         }
@@ -155,13 +157,13 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         QFETCH(QString, from);
-        QCOMPARE(Next(from, Weekly), QStringLiteral("1/15/2004"));
+        QCOMPARE(Next(from, Weekly), u"1/15/2004"_s);
     }
 
     void TheResultIsTakenAgain()
     {
         FakeDesk desk;
-        QCOMPARE(Next(Next(QStringLiteral("12-24-2003"), Weekly), Weekly), QStringLiteral("1/7/2004"));
+        QCOMPARE(Next(Next(u"12-24-2003"_s, Weekly), Weekly), u"1/7/2004"_s);
     }
 
     void TextThatIsNoDateIsATypeMismatch_data()
@@ -169,8 +171,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("date");
         QTest::addColumn<int>("frequency");
         for (const int frequency : {7, 14, 15, 30}) {
-            QTest::addRow("no date, %d", frequency) << QStringLiteral("payday") << frequency;
-            QTest::addRow("impossible date, %d", frequency) << QStringLiteral("2/30/2004") << frequency;
+            QTest::addRow("no date, %d", frequency) << u"payday"_s << frequency;
+            QTest::addRow("impossible date, %d", frequency) << u"2/30/2004"_s << frequency;
             QTest::addRow("empty, %d", frequency) << QString() << frequency;
         }
     }
@@ -187,13 +189,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("from");
         QTest::addColumn<int>("frequency");
         QTest::addColumn<int>("monthEndPay");
-        const QString eve = QStringLiteral("12/31/9999");
+        const QString eve = u"12/31/9999"_s;
         QTest::newRow("weekly") << eve << 7 << 0;
-        QTest::newRow("biweekly") << QStringLiteral("12/18/9999") << 14 << 0;
+        QTest::newRow("biweekly") << u"12/18/9999"_s << 14 << 0;
         QTest::newRow("semimonthly") << eve << 15 << 0;
         QTest::newRow("monthly") << eve << 30 << 0;
         QTest::newRow("monthly, month's end") << eve << 30 << -1;
-        QTest::newRow("the month behind the month's end") << QStringLiteral("11/15/9999") << 30 << -1;
+        QTest::newRow("the month behind the month's end") << u"11/15/9999"_s << 30 << -1;
     }
     void BeyondTheYear9999IsAnInvalidCall()
     {
@@ -210,14 +212,14 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         State.FirstPayDate = 15;
-        QCOMPARE(Next(QStringLiteral("11/15/9999"), Semimonthly), QStringLiteral("11/30/9999"));
-        QCOMPARE(ErrorOf([&] { Next(QStringLiteral("12/15/9999"), Semimonthly); }), 5);
+        QCOMPARE(Next(u"11/15/9999"_s, Semimonthly), u"11/30/9999"_s);
+        QCOMPARE(ErrorOf([&] { Next(u"12/15/9999"_s, Semimonthly); }), 5);
     }
     void TheLastDayOfTheYear9999IsReached()
     {
         FakeDesk desk;
-        QCOMPARE(Next(QStringLiteral("10/15/9999"), Weekly), QStringLiteral("10/22/9999"));
-        QCOMPARE(Next(QStringLiteral("12/24/9999"), Weekly), QStringLiteral("12/31/9999"));
+        QCOMPARE(Next(u"10/15/9999"_s, Weekly), u"10/22/9999"_s);
+        QCOMPARE(Next(u"12/24/9999"_s, Weekly), u"12/31/9999"_s);
     }
 
     void DueLabels_data()

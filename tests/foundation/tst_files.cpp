@@ -14,6 +14,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr Currency Count(qint64 tenThousandths)
@@ -65,11 +67,11 @@ int SizeOf(const DataList &list)
 void PutOneOfEach()
 {
     State.NumberOfCreditors = State.NumberOfRegulars = State.NumberOfExtraPayPeriods = State.NumberOfProjects = 1;
-    State.Creditors = {{QStringLiteral("Rent"), 1, Count(6500000)}};
-    State.Regulars = {{QStringLiteral("Food"), Count(1000000)}};
+    State.Creditors = {{u"Rent"_s, 1, Count(6500000)}};
+    State.Regulars = {{u"Food"_s, Count(1000000)}};
     State.ExtraPayPeriods.Redim(1);
-    State.ExtraPayPeriods(1).PayPeriodDate = DateText(QStringLiteral("01-15-2004"));
-    State.ProjectNames = {QStringLiteral("Roof")};
+    State.ExtraPayPeriods(1).PayPeriodDate = DateText(u"01-15-2004"_s);
+    State.ProjectNames = {u"Roof"_s};
     State.ProjectAmounts = {Count(10000000)};
     State.ProjectEntryCounts = {qint16(0)};
     State.ProjectEntryDates.Redim(1);
@@ -158,13 +160,12 @@ private Q_SLOTS:
     void CreditorsAreDueDayNameAmount()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("creditor.txt"), "0\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "0\r\n");
         State.NumberOfCreditors = 3;
-        State.Creditors = {{QStringLiteral("Rent"), 1, Count(12500000)},
-                           {QStringLiteral("Car, blue"), 15, Count(-37500)},
-                           {QString(), 28, Count(125000)}};
+        State.Creditors = {
+            {u"Rent"_s, 1, Count(12500000)}, {u"Car, blue"_s, 15, Count(-37500)}, {QString(), 28, Count(125000)}};
         SaveCreditors();
-        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")),
+        QCOMPARE(desk.ReadFile(u"creditor.txt"_s),
                  QByteArray("3\r\n1\r\n\"Rent\"\r\n1250\r\n15\r\n\"Car, blue\"\r\n-3.75\r\n28\r\n\"\"\r\n12.5\r\n"));
 
         const auto saved = State.Creditors;
@@ -178,12 +179,11 @@ private Q_SLOTS:
     void RegularsAreItemAmount()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("regulars.txt"), "0\r\n");
+        desk.WriteFile(u"regulars.txt"_s, "0\r\n");
         State.NumberOfRegulars = 2;
-        State.Regulars = {{QStringLiteral("Groceries"), Count(1000000)}, {QStringLiteral("Bus"), Count(1)}};
+        State.Regulars = {{u"Groceries"_s, Count(1000000)}, {u"Bus"_s, Count(1)}};
         SaveRegulars();
-        QCOMPARE(desk.ReadFile(QStringLiteral("regulars.txt")),
-                 QByteArray("2\r\n\"Groceries\"\r\n100\r\n\"Bus\"\r\n0.0001\r\n"));
+        QCOMPARE(desk.ReadFile(u"regulars.txt"_s), QByteArray("2\r\n\"Groceries\"\r\n100\r\n\"Bus\"\r\n0.0001\r\n"));
         const auto saved = State.Regulars;
         State.Regulars.Redim(0);
         InputRegulars();
@@ -193,61 +193,61 @@ private Q_SLOTS:
     void PayPeriodsAreDateCountAndItems()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("extra.txt"), "0\r\n");
+        desk.WriteFile(u"extra.txt"_s, "0\r\n");
         State.NumberOfExtraPayPeriods = 2;
         State.ExtraPayPeriods.Redim(2);
-        State.ExtraPayPeriods(1).PayPeriodDate = DateText(QStringLiteral("5/24/1997"));
+        State.ExtraPayPeriods(1).PayPeriodDate = DateText(u"5/24/1997"_s);
         State.ExtraPayPeriods(1).NumberOfExtraItems = 2;
-        State.ExtraPayPeriods(1).ExtraItems.At(1) = {QStringLiteral("Gift"), Count(0)};
-        State.ExtraPayPeriods(1).ExtraItems.At(2) = {QStringLiteral("Refund"), Count(-200000)};
-        State.ExtraPayPeriods(2).PayPeriodDate = DateText(QStringLiteral("some day"));
+        State.ExtraPayPeriods(1).ExtraItems.At(1) = {u"Gift"_s, Count(0)};
+        State.ExtraPayPeriods(1).ExtraItems.At(2) = {u"Refund"_s, Count(-200000)};
+        State.ExtraPayPeriods(2).PayPeriodDate = DateText(u"some day"_s);
         SavePayPeriods();
-        QCOMPARE(desk.ReadFile(QStringLiteral("extra.txt")),
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s),
                  QByteArray("2\r\n\"5/24/1997\"\r\n2\r\n\"Gift\"\r\n0\r\n\"Refund\"\r\n-20\r\n\"some day\"\r\n0\r\n"));
         InputPayPeriods();
         QCOMPARE(State.NumberOfExtraPayPeriods, qint16(2));
         // The first reload brings every date into the one form; what is no date passes through.
-        QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), QStringLiteral("05-24-1997"));
-        QCOMPARE(State.ExtraPayPeriods(2).PayPeriodDate.Text(), QStringLiteral("some day"));
+        QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), u"05-24-1997"_s);
+        QCOMPARE(State.ExtraPayPeriods(2).PayPeriodDate.Text(), u"some day"_s);
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(2));
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(0), ExtraItemRecord());
-        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1), (ExtraItemRecord{QStringLiteral("Gift"), Count(0)}));
-        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(2), (ExtraItemRecord{QStringLiteral("Refund"), Count(-200000)}));
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1), (ExtraItemRecord{u"Gift"_s, Count(0)}));
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(2), (ExtraItemRecord{u"Refund"_s, Count(-200000)}));
         QCOMPARE(State.ExtraPayPeriods(2).NumberOfExtraItems, qint16(0));
         SavePayPeriods();
-        QVERIFY(desk.ReadFile(QStringLiteral("extra.txt")).startsWith("2\r\n\"05-24-1997\"\r\n"));
+        QVERIFY(desk.ReadFile(u"extra.txt"_s).startsWith("2\r\n\"05-24-1997\"\r\n"));
     }
 
     void ProjectsAreNameAmountCountAndEntries()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("projects.txt"), "0\r\n");
+        desk.WriteFile(u"projects.txt"_s, "0\r\n");
         State.NumberOfProjects = 2;
-        State.ProjectNames = {QStringLiteral("Roof"), QStringLiteral("Trip")};
+        State.ProjectNames = {u"Roof"_s, u"Trip"_s};
         State.ProjectAmounts = {Count(10005000), Count(0)};
         State.ProjectEntryCounts = {qint16(2), qint16(0)};
         State.ProjectEntryDates.Redim(2);
         State.ProjectEntryAmounts.Redim(2);
-        State.ProjectEntryDates(1).At(1) = DateText(QStringLiteral("1/1/2004"));
+        State.ProjectEntryDates(1).At(1) = DateText(u"1/1/2004"_s);
         State.ProjectEntryAmounts(1).At(1) = Count(5002500);
-        State.ProjectEntryDates(1).At(2) = DateText(QStringLiteral("1/15/2004"));
+        State.ProjectEntryDates(1).At(2) = DateText(u"1/15/2004"_s);
         State.ProjectEntryAmounts(1).At(2) = Count(5002500);
         SaveProjects();
-        QCOMPARE(desk.ReadFile(QStringLiteral("projects.txt")),
+        QCOMPARE(desk.ReadFile(u"projects.txt"_s),
                  QByteArray("2\r\n\"Roof\"\r\n1000.5\r\n2\r\n\"1/1/2004\"\r\n500.25\r\n\"1/15/2004\"\r\n500.25\r\n"
                             "\"Trip\"\r\n0\r\n0\r\n"));
         State = SharedState();
         State.ApplicationPath = desk.Folder();
         InputProjects();
         QCOMPARE(State.NumberOfProjects, qint16(2));
-        QCOMPARE(State.ProjectNames(1), QStringLiteral("Roof"));
+        QCOMPARE(State.ProjectNames(1), u"Roof"_s);
         QCOMPARE(State.ProjectAmounts(1), Count(10005000));
         QCOMPARE(State.ProjectEntryCounts(1), qint16(2));
         QCOMPARE(State.ProjectEntryDates(1)(0).Text(), QString());
         // Unlike those of the pay periods these dates keep the form that they have in the file.
-        QCOMPARE(State.ProjectEntryDates(1)(2).Text(), QStringLiteral("1/15/2004"));
+        QCOMPARE(State.ProjectEntryDates(1)(2).Text(), u"1/15/2004"_s);
         QCOMPARE(State.ProjectEntryAmounts(1)(2), Count(5002500));
-        QCOMPARE(State.ProjectNames(2), QStringLiteral("Trip"));
+        QCOMPARE(State.ProjectNames(2), u"Trip"_s);
         QCOMPARE(State.ProjectEntryCounts(2), qint16(0));
         for (const int size : {State.ProjectNames.Size(), State.ProjectAmounts.Size(), State.ProjectEntryCounts.Size(),
                                State.ProjectEntryDates.Size(), State.ProjectEntryAmounts.Size()})
@@ -257,30 +257,30 @@ private Q_SLOTS:
     void SettingsAreNineLines()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("environm.ini"), "");
+        desk.WriteFile(u"environm.ini"_s, "");
         State.ForecastPeriods = 26;
         State.PaycheckAmount = Count(10000000);
         State.PayFrequency = 14;
         State.FirstPayDate = 1;
         State.SecondPayDate = 15;
         State.SalesTax = 0.06F;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         State.AverageNetPercentage = 0.9F;
         SaveEnvironmentSettings();
-        QCOMPARE(desk.ReadFile(QStringLiteral("environm.ini")),
+        QCOMPARE(desk.ReadFile(u"environm.ini"_s),
                  QByteArray("26\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n"));
     }
 
     void MonthEndPayIsWrittenAsAnInteger()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("environm.ini"), "");
+        desk.WriteFile(u"environm.ini"_s, "");
         State.PayFrequency = 30;
         State.MonthEndPay = -1;
         State.SalesTax = 0.0625F;
         State.AverageNetPercentage = 1.0F / 3;
         SaveEnvironmentSettings();
-        QCOMPARE(desk.ReadFile(QStringLiteral("environm.ini")),
+        QCOMPARE(desk.ReadFile(u"environm.ini"_s),
                  QByteArray("0\r\n0\r\n30\r\n0\r\n0\r\n-1\r\n0.0625\r\n\"\"\r\n0.33333334\r\n"));
     }
 
@@ -295,13 +295,13 @@ private Q_SLOTS:
         State.SecondPayDate = 0;
         State.MonthEndPay = 0;
         State.SalesTax = 0.06F;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         State.AverageNetPercentage = 0.8437F;
         SaveEnvironmentSettings();
-        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("environm.ini")});
+        QCOMPARE(desk.TakeFiles(), QStringList{u"environm.ini"_s});
         State = SharedState();
         InitializeVariables();
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         QCOMPARE(State.ForecastPeriods, qint16(1000));
         QCOMPARE(State.PaycheckAmount, Count(12345678));
         QCOMPARE(State.PayFrequency, qint16(15));
@@ -309,19 +309,19 @@ private Q_SLOTS:
         QCOMPARE(State.SecondPayDate, qint16(0));
         QCOMPARE(State.MonthEndPay, qint16(0));
         QVERIFY(State.SalesTax == 0.06F);
-        QCOMPARE(State.CurrentStoreFile, QStringLiteral("untitled.lst"));
+        QCOMPARE(State.CurrentStoreFile, u"untitled.lst"_s);
         QVERIFY(State.AverageNetPercentage == 0.8437F);
     }
 
     void AmountsAtTheEndsOfTheRangeComeBack()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("regulars.txt"), "0\r\n");
+        desk.WriteFile(u"regulars.txt"_s, "0\r\n");
         State.NumberOfRegulars = 2;
-        State.Regulars = {{QStringLiteral("most"), Count(std::numeric_limits<qint64>::max())},
-                          {QStringLiteral("least"), Count(std::numeric_limits<qint64>::min())}};
+        State.Regulars = {{u"most"_s, Count(std::numeric_limits<qint64>::max())},
+                          {u"least"_s, Count(std::numeric_limits<qint64>::min())}};
         SaveRegulars();
-        QCOMPARE(desk.ReadFile(QStringLiteral("regulars.txt")),
+        QCOMPARE(desk.ReadFile(u"regulars.txt"_s),
                  QByteArray("2\r\n\"most\"\r\n922337203685477.5807\r\n\"least\"\r\n-922337203685477.5808\r\n"));
         const auto saved = State.Regulars;
         InputRegulars();
@@ -352,10 +352,10 @@ private Q_SLOTS:
         list.Load();
         QCOMPARE(State.*list.Count, qint16(0));
         QCOMPARE(SizeOf(list), 1);
-        QCOMPARE(State.Creditors(1).CreditorName, QStringLiteral("Rent"));
-        QCOMPARE(State.Regulars(1).RegularItem, QStringLiteral("Food"));
-        QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), QStringLiteral("01-15-2004"));
-        QCOMPARE(State.ProjectNames(1), QStringLiteral("Roof"));
+        QCOMPARE(State.Creditors(1).CreditorName, u"Rent"_s);
+        QCOMPARE(State.Regulars(1).RegularItem, u"Food"_s);
+        QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), u"01-15-2004"_s);
+        QCOMPARE(State.ProjectNames(1), u"Roof"_s);
     }
 
     void ALoadReplacesTheWholeArray_data() { ListRows(); }
@@ -369,11 +369,10 @@ private Q_SLOTS:
         list.Load();
         QCOMPARE(State.*list.Count, qint16(2));
         QCOMPARE(SizeOf(list), 2);
-        QVERIFY(State.Creditors(1).CreditorName != QStringLiteral("Rent") || list.Load != InputCreditors);
-        QVERIFY(State.Regulars(1).RegularItem != QStringLiteral("Food") || list.Load != InputRegulars);
-        QVERIFY(State.ExtraPayPeriods(1).PayPeriodDate.Text() != QStringLiteral("01-15-2004") ||
-                list.Load != InputPayPeriods);
-        QVERIFY(State.ProjectNames(1) != QStringLiteral("Roof") || list.Load != InputProjects);
+        QVERIFY(State.Creditors(1).CreditorName != u"Rent"_s || list.Load != InputCreditors);
+        QVERIFY(State.Regulars(1).RegularItem != u"Food"_s || list.Load != InputRegulars);
+        QVERIFY(State.ExtraPayPeriods(1).PayPeriodDate.Text() != u"01-15-2004"_s || list.Load != InputPayPeriods);
+        QVERIFY(State.ProjectNames(1) != u"Roof"_s || list.Load != InputProjects);
     }
 
     // ------------------------------------------------------------ how values are read
@@ -405,10 +404,10 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         QFETCH(QByteArray, file);
-        desk.WriteFile(QStringLiteral("creditor.txt"), file);
+        desk.WriteFile(u"creditor.txt"_s, file);
         InputCreditors();
         QCOMPARE(State.NumberOfCreditors, qint16(1));
-        QCOMPARE(State.Creditors(1), (CreditorRecord{QStringLiteral("Rent"), 5, Count(125000)}));
+        QCOMPARE(State.Creditors(1), (CreditorRecord{u"Rent"_s, 5, Count(125000)}));
     }
 
     void FractionsWithAndWithoutAZeroBeforeThePoint_data()
@@ -422,11 +421,11 @@ private Q_SLOTS:
         FakeDesk desk;
         QFETCH(QByteArray, fraction);
         desk.LayHousehold();
-        desk.WriteFile(QStringLiteral("environm.ini"),
+        desk.WriteFile(u"environm.ini"_s,
                        "26\n" + fraction + "\n14\n1\n15\n0\n" + fraction + "\n\"untitled.lst\"\n.9\n");
-        desk.WriteFile(QStringLiteral("regulars.txt"), "1\n\"Stamp\"\n" + fraction + "\n");
+        desk.WriteFile(u"regulars.txt"_s, "1\n\"Stamp\"\n" + fraction + "\n");
         InitializeVariables();
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         QCOMPARE(State.PaycheckAmount, Count(600));
         QVERIFY(State.SalesTax == 0.06F);
         QVERIFY(State.AverageNetPercentage == 0.9F);
@@ -436,42 +435,41 @@ private Q_SLOTS:
     void AThousandsSeparatorMakesTwoValues()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("regulars.txt"), "2\nRent\n1,250.00\nBus\n3\n");
+        desk.WriteFile(u"regulars.txt"_s, "2\nRent\n1,250.00\nBus\n3\n");
         InputRegulars();
-        QCOMPARE(State.Regulars(1), (RegularRecord{QStringLiteral("Rent"), Count(10000)}));
-        QCOMPARE(State.Regulars(2).RegularItem, QStringLiteral("250.00"));
+        QCOMPARE(State.Regulars(1), (RegularRecord{u"Rent"_s, Count(10000)}));
+        QCOMPARE(State.Regulars(2).RegularItem, u"250.00"_s);
         QCOMPARE(State.Regulars(2).RegularAmount, Currency());
-        QCOMPARE(desk.TakeMessage(), Told(Mismatch, QStringLiteral("Input Regulars"))); // "Bus" for an amount
+        QCOMPARE(desk.TakeMessage(), Told(Mismatch, u"Input Regulars"_s)); // "Bus" for an amount
     }
 
     void ADoubleQuoteCutsTheTextAndMisreadsTheRest()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("regulars.txt"), "0\r\n");
+        desk.WriteFile(u"regulars.txt"_s, "0\r\n");
         State.NumberOfRegulars = 2;
-        State.Regulars = {{QStringLiteral("12\" pipe, long"), Count(50000)}, {QStringLiteral("Bus"), Count(30000)}};
+        State.Regulars = {{u"12\" pipe, long"_s, Count(50000)}, {u"Bus"_s, Count(30000)}};
         SaveRegulars();
-        QCOMPARE(desk.ReadFile(QStringLiteral("regulars.txt")),
-                 QByteArray("2\r\n\"12\" pipe, long\"\r\n5\r\n\"Bus\"\r\n3\r\n"));
+        QCOMPARE(desk.ReadFile(u"regulars.txt"_s), QByteArray("2\r\n\"12\" pipe, long\"\r\n5\r\n\"Bus\"\r\n3\r\n"));
         InputRegulars();
-        QCOMPARE(State.Regulars(1).RegularItem, QStringLiteral("12"));
+        QCOMPARE(State.Regulars(1).RegularItem, u"12"_s);
         QCOMPARE(State.Regulars(1).RegularAmount, Currency()); // long" is no number
-        QCOMPARE(State.Regulars(2).RegularItem, QStringLiteral("5"));
+        QCOMPARE(State.Regulars(2).RegularItem, u"5"_s);
         QCOMPARE(State.Regulars(2).RegularAmount, Currency()); // nor is Bus
-        ExpectOnly(desk, 2, Told(Mismatch, QStringLiteral("Input Regulars")));
+        ExpectOnly(desk, 2, Told(Mismatch, u"Input Regulars"_s));
     }
 
     void NamesComeBackWithEverySign_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("comma") << QStringLiteral("Smith, Jones, & Co");
+        QTest::newRow("comma") << u"Smith, Jones, & Co"_s;
         QTest::newRow("empty") << QString();
-        QTest::newRow("blanks at both ends") << QStringLiteral("  Rent  ");
-        QTest::newRow("accents") << QStringLiteral("Café Žižkov €");
-        QTest::newRow("beyond the basic plane") << QStringLiteral("\U0001F3E0 Rent");
-        QTest::newRow("looks like a number") << QStringLiteral("1250");
-        QTest::newRow("looks like a Boolean") << QStringLiteral("#TRUE#");
-        QTest::newRow("a mark that is no sign") << QStringLiteral("\uFEFFRent");
+        QTest::newRow("blanks at both ends") << u"  Rent  "_s;
+        QTest::newRow("accents") << u"Café Žižkov €"_s;
+        QTest::newRow("beyond the basic plane") << u"\U0001F3E0 Rent"_s;
+        QTest::newRow("looks like a number") << u"1250"_s;
+        QTest::newRow("looks like a Boolean") << u"#TRUE#"_s;
+        QTest::newRow("a mark that is no sign") << u"\uFEFFRent"_s;
         QTest::newRow("long") << QString(10000, QLatin1Char('x'));
         QTest::newRow("all that a field can hold") << QString(32767, QChar(0x20AC)); // 98,301 bytes
     }
@@ -499,31 +497,31 @@ private Q_SLOTS:
     void OldFilesInWindows1252Load()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("regulars.txt"), "2\r\n\"Caf\xE9 \x80\"\r\n1\r\n\"Caf\xC3\xA9\"\r\n2\r\n");
+        desk.WriteFile(u"regulars.txt"_s, "2\r\n\"Caf\xE9 \x80\"\r\n1\r\n\"Caf\xC3\xA9\"\r\n2\r\n");
         InputRegulars();
-        QCOMPARE(State.Regulars(1).RegularItem, QStringLiteral("Café €"));
-        QCOMPARE(State.Regulars(2).RegularItem, QStringLiteral("Café"));
+        QCOMPARE(State.Regulars(1).RegularItem, u"Café €"_s);
+        QCOMPARE(State.Regulars(2).RegularItem, u"Café"_s);
     }
 
     void ExtraDatesTakeTheOneForm_data()
     {
         QTest::addColumn<QString>("inFile");
         QTest::addColumn<QString>("loaded");
-        QTest::newRow("as written") << QStringLiteral("05-24-1997") << QStringLiteral("05-24-1997");
-        QTest::newRow("short form") << QStringLiteral("5/24/1997") << QStringLiteral("05-24-1997");
-        QTest::newRow("two figures of the year") << QStringLiteral("5/24/97") << QStringLiteral("05-24-1997");
-        QTest::newRow("words") << QStringLiteral("May 24, 1997") << QStringLiteral("05-24-1997");
-        QTest::newRow("without a year the present one") << QStringLiteral("5/24") << QStringLiteral("05-24-2004");
-        QTest::newRow("an impossible date") << QStringLiteral("2/30/2004") << QStringLiteral("2/30/2004");
-        QTest::newRow("no date") << QStringLiteral("pay day") << QStringLiteral("pay day");
-        QTest::newRow("a bare number") << QStringLiteral("24") << QStringLiteral("24");
+        QTest::newRow("as written") << u"05-24-1997"_s << u"05-24-1997"_s;
+        QTest::newRow("short form") << u"5/24/1997"_s << u"05-24-1997"_s;
+        QTest::newRow("two figures of the year") << u"5/24/97"_s << u"05-24-1997"_s;
+        QTest::newRow("words") << u"May 24, 1997"_s << u"05-24-1997"_s;
+        QTest::newRow("without a year the present one") << u"5/24"_s << u"05-24-2004"_s;
+        QTest::newRow("an impossible date") << u"2/30/2004"_s << u"2/30/2004"_s;
+        QTest::newRow("no date") << u"pay day"_s << u"pay day"_s;
+        QTest::newRow("a bare number") << u"24"_s << u"24"_s;
         QTest::newRow("nothing") << QString() << QString();
     }
     void ExtraDatesTakeTheOneForm()
     {
         FakeDesk desk;
         QFETCH(QString, inFile);
-        desk.WriteFile(QStringLiteral("extra.txt"), "1\r\n\"" + inFile.toUtf8() + "\"\r\n0\r\n");
+        desk.WriteFile(u"extra.txt"_s, "1\r\n\"" + inFile.toUtf8() + "\"\r\n0\r\n");
         InputPayPeriods();
         QTEST(State.ExtraPayPeriods(1).PayPeriodDate.Text(), "loaded");
     }
@@ -531,9 +529,9 @@ private Q_SLOTS:
     void ANumberReadDirectlyThatIsNoneIs0()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("projects.txt"), "1\r\n\"Roof\"\r\nmuch\r\nmany\r\n");
+        desk.WriteFile(u"projects.txt"_s, "1\r\n\"Roof\"\r\nmuch\r\nmany\r\n");
         InputProjects();
-        QCOMPARE(State.ProjectNames(1), QStringLiteral("Roof"));
+        QCOMPARE(State.ProjectNames(1), u"Roof"_s);
         QCOMPARE(State.ProjectAmounts(1), Currency());
         QCOMPARE(State.ProjectEntryCounts(1), qint16(0));
     }
@@ -589,21 +587,21 @@ private Q_SLOTS:
     void AMissingFolder()
     {
         FakeDesk desk;
-        State.ApplicationPath = desk.Path(QStringLiteral("nowhere"));
+        State.ApplicationPath = desk.Path(u"nowhere"_s);
         InputCreditors();
-        QCOMPARE(desk.TakeMessage(), Told("Error 76: Path not found", QStringLiteral("Input Creditors")));
-        QCOMPARE(desk.TakeMessage(), Told(BadFile, QStringLiteral("Input Creditors")));
+        QCOMPARE(desk.TakeMessage(), Told("Error 76: Path not found", u"Input Creditors"_s));
+        QCOMPARE(desk.TakeMessage(), Told(BadFile, u"Input Creditors"_s));
     }
 
     void AFolderInPlaceOfTheFile()
     {
         FakeDesk desk;
-        QVERIFY(QDir().mkpath(desk.Path(QStringLiteral("creditor.txt"))));
+        QVERIFY(QDir().mkpath(desk.Path(u"creditor.txt"_s)));
         InputCreditors();
-        QCOMPARE(desk.TakeMessage(), Told(NoAccess, QStringLiteral("Input Creditors")));
-        QCOMPARE(desk.TakeMessage(), Told(BadFile, QStringLiteral("Input Creditors")));
+        QCOMPARE(desk.TakeMessage(), Told(NoAccess, u"Input Creditors"_s));
+        QCOMPARE(desk.TakeMessage(), Told(BadFile, u"Input Creditors"_s));
         SaveCreditors();
-        QCOMPARE(desk.TakeMessage(), Told(NoAccess, QStringLiteral("Save Creditors")));
+        QCOMPARE(desk.TakeMessage(), Told(NoAccess, u"Save Creditors"_s));
     }
 
     void AnEmptyFile_data() { ListRows(); }
@@ -647,12 +645,12 @@ private Q_SLOTS:
     void TheRestOfAShortFileStaysEmpty()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("creditor.txt"), "2\r\n5\r\n\"Rent\"\r\n650\r\n9\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "2\r\n5\r\n\"Rent\"\r\n650\r\n9\r\n");
         InputCreditors();
         QCOMPARE(State.NumberOfCreditors, qint16(2));
-        QCOMPARE(State.Creditors(1), (CreditorRecord{QStringLiteral("Rent"), 5, Count(6500000)}));
+        QCOMPARE(State.Creditors(1), (CreditorRecord{u"Rent"_s, 5, Count(6500000)}));
         QCOMPARE(State.Creditors(2), (CreditorRecord{QString(), 9, Currency()}));
-        ExpectOnly(desk, 2, Told(PastEnd, QStringLiteral("Input Creditors")));
+        ExpectOnly(desk, 2, Told(PastEnd, u"Input Creditors"_s));
     }
 
     void ADamagedNumberTellsOnceAndKeeps0_data()
@@ -688,16 +686,16 @@ private Q_SLOTS:
         QCOMPARE(State.*list.Count, qint16(1));
         if (list.Load == InputCreditors) {
             const bool dayIsDamaged = State.Creditors(1).CreditorDueDate == 0;
-            QCOMPARE(State.Creditors(1).CreditorName, QStringLiteral("Rent"));
+            QCOMPARE(State.Creditors(1).CreditorName, u"Rent"_s);
             QCOMPARE(State.Creditors(1).CreditorDueDate, qint16(dayIsDamaged ? 0 : 5));
             QCOMPARE(State.Creditors(1).CreditorAmount, dayIsDamaged ? Count(6500000) : Currency());
         } else if (list.Load == InputRegulars) {
-            QCOMPARE(State.Regulars(1), (RegularRecord{QStringLiteral("Food"), Currency()}));
+            QCOMPARE(State.Regulars(1), (RegularRecord{u"Food"_s, Currency()}));
         } else if (list.Load == InputPayPeriods) {
-            QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), QStringLiteral("01-01-2004"));
+            QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), u"01-01-2004"_s);
             QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItemAmount, Currency());
         } else {
-            QCOMPARE(State.ProjectNames(1), QStringLiteral("Roof"));
+            QCOMPARE(State.ProjectNames(1), u"Roof"_s);
             QCOMPARE(State.ProjectEntryAmounts(1)(1), Currency());
         }
     }
@@ -725,30 +723,30 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeMessage(), Told(OutOfRange, LoadTitle(list)));
         QCOMPARE(State.*list.Count, qint16(-1));
         QCOMPARE(SizeOf(list), 1); // and what was there stays
-        QCOMPARE(State.Creditors(1).CreditorName, QStringLiteral("Rent"));
-        QCOMPARE(State.Regulars(1).RegularItem, QStringLiteral("Food"));
-        QCOMPARE(State.ProjectNames(1), QStringLiteral("Roof"));
+        QCOMPARE(State.Creditors(1).CreditorName, u"Rent"_s);
+        QCOMPARE(State.Regulars(1).RegularItem, u"Food"_s);
+        QCOMPARE(State.ProjectNames(1), u"Roof"_s);
     }
 
     void ANegativeCountOfItemsReadsNone()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("extra.txt"), "2\n1/1/2004\n-3\n1/15/2004\n1\nGift\n20\n");
+        desk.WriteFile(u"extra.txt"_s, "2\n1/1/2004\n-3\n1/15/2004\n1\nGift\n20\n");
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(-3));
         QCOMPARE(ItemsOf(State.ExtraPayPeriods(1)), 0);
         QCOMPARE(ItemsOf(State.ExtraPayPeriods(2)), 1);
-        QCOMPARE(State.ExtraPayPeriods(2).ExtraItems(1), (ExtraItemRecord{QStringLiteral("Gift"), Count(200000)}));
+        QCOMPARE(State.ExtraPayPeriods(2).ExtraItems(1), (ExtraItemRecord{u"Gift"_s, Count(200000)}));
     }
 
     void ANegativeCountOfEntriesReadsNone()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("projects.txt"), "2\nRoof\n100\n-3\nTrip\n50\n1\n1/1/2004\n20\n");
+        desk.WriteFile(u"projects.txt"_s, "2\nRoof\n100\n-3\nTrip\n50\n1\n1/1/2004\n20\n");
         InputProjects();
         QCOMPARE(State.ProjectEntryCounts(1), qint16(-3));
         QCOMPARE(EntriesOf(1), 0);
-        QCOMPARE(State.ProjectNames(2), QStringLiteral("Trip"));
+        QCOMPARE(State.ProjectNames(2), u"Trip"_s);
         QCOMPARE(EntriesOf(2), 1);
         QCOMPARE(State.ProjectEntryAmounts(2)(1), Count(200000));
     }
@@ -760,17 +758,16 @@ private Q_SLOTS:
         for (int item = 1; item <= 201; ++item)
             file += "\"Item " + QByteArray::number(item) + "\"\r\n" + QByteArray::number(item) + "\r\n";
         file += "\"1/15/2004\"\r\n0\r\n";
-        desk.WriteFile(QStringLiteral("extra.txt"), file);
+        desk.WriteFile(u"extra.txt"_s, file);
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(201));
         QCOMPARE(ItemsOf(State.ExtraPayPeriods(1)), 200);
-        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(200),
-                 (ExtraItemRecord{QStringLiteral("Item 200"), Count(2000000)}));
+        QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(200), (ExtraItemRecord{u"Item 200"_s, Count(2000000)}));
         // The failed reads took nothing: the 201st item's name and amount are the next record's date and count.
-        QCOMPARE(State.ExtraPayPeriods(2).PayPeriodDate.Text(), QStringLiteral("Item 201"));
+        QCOMPARE(State.ExtraPayPeriods(2).PayPeriodDate.Text(), u"Item 201"_s);
         QCOMPARE(State.ExtraPayPeriods(2).NumberOfExtraItems, qint16(201));
-        QCOMPARE(State.ExtraPayPeriods(2).ExtraItems(1), (ExtraItemRecord{QStringLiteral("1/15/2004"), Currency()}));
-        const QString title = QStringLiteral("Input Pay Periods");
+        QCOMPARE(State.ExtraPayPeriods(2).ExtraItems(1), (ExtraItemRecord{u"1/15/2004"_s, Currency()}));
+        const QString title = u"Input Pay Periods"_s;
         QCOMPARE(desk.TakeMessage(), Told(OutOfRange, title));
         QCOMPARE(desk.TakeMessage(), Told(OutOfRange, title));
         // The second record has two values and then misses 199 items, and has one item beyond the bound itself.
@@ -787,15 +784,15 @@ private Q_SLOTS:
         for (int entry = 1; entry <= 101; ++entry)
             file += "\"1/1/2004\"\r\n" + QByteArray::number(entry) + "\r\n";
         file += "\"Trip\"\r\n5\r\n0\r\n";
-        desk.WriteFile(QStringLiteral("projects.txt"), file);
+        desk.WriteFile(u"projects.txt"_s, file);
         InputProjects();
         QCOMPARE(State.ProjectEntryCounts(1), qint16(101));
         QCOMPARE(EntriesOf(1), 100);
         QCOMPARE(State.ProjectEntryAmounts(1)(100), Count(1000000));
-        QCOMPARE(State.ProjectNames(2), QStringLiteral("1/1/2004"));
+        QCOMPARE(State.ProjectNames(2), u"1/1/2004"_s);
         QCOMPARE(State.ProjectAmounts(2), Count(1010000));
         QCOMPARE(State.ProjectEntryCounts(2), qint16(0)); // "Trip" is no number
-        ExpectOnly(desk, 2, Told(OutOfRange, QStringLiteral("Input Projects")));
+        ExpectOnly(desk, 2, Told(OutOfRange, u"Input Projects"_s));
     }
 
     void TheGreatestCountOfItemsIsToldFor()
@@ -804,9 +801,9 @@ private Q_SLOTS:
         QByteArray file = "1\n1/1/2004\n32767\n";
         for (int value = 1; value <= 200; ++value)
             file += "x\n1\n";
-        desk.WriteFile(QStringLiteral("extra.txt"), file);
+        desk.WriteFile(u"extra.txt"_s, file);
         InputPayPeriods();
-        const QString title = QStringLiteral("Input Pay Periods");
+        const QString title = u"Input Pay Periods"_s;
         for (int shown = 1; shown <= 25; ++shown)
             QCOMPARE(desk.TakeMessage(), Told(OutOfRange, title));
         QCOMPARE(desk.TakeMessage(),
@@ -816,22 +813,22 @@ private Q_SLOTS:
     void TwentyFiveMessagesComeOneByOne()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("creditor.txt"), "9\n5\nRent\n1\n5\n"); // 27 values, 4 of them there
+        desk.WriteFile(u"creditor.txt"_s, "9\n5\nRent\n1\n5\n"); // 27 values, 4 of them there
         InputCreditors();
-        ExpectOnly(desk, 23, Told(PastEnd, QStringLiteral("Input Creditors")));
-        desk.WriteFile(QStringLiteral("creditor.txt"), "9\n5\nRent\n");
+        ExpectOnly(desk, 23, Told(PastEnd, u"Input Creditors"_s));
+        desk.WriteFile(u"creditor.txt"_s, "9\n5\nRent\n");
         InputCreditors();
-        ExpectOnly(desk, 25, Told(PastEnd, QStringLiteral("Input Creditors")));
+        ExpectOnly(desk, 25, Told(PastEnd, u"Input Creditors"_s));
     }
 
     void OneMoreThan25IsTheLastBox()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("creditor.txt"), "9\n5\n");
+        desk.WriteFile(u"creditor.txt"_s, "9\n5\n");
         InputCreditors();
         const Message last = desk.Messages.takeLast();
-        ExpectOnly(desk, 25, Told(PastEnd, QStringLiteral("Input Creditors")));
-        QCOMPARE(last, Told("Further errors in this file, not shown one by one: 1", QStringLiteral("Input Creditors")));
+        ExpectOnly(desk, 25, Told(PastEnd, u"Input Creditors"_s));
+        QCOMPARE(last, Told("Further errors in this file, not shown one by one: 1", u"Input Creditors"_s));
     }
 
     void ADamagedCountOf32767HoldsNobodyPrisoner_data() { ListRows(); }
@@ -845,8 +842,8 @@ private Q_SLOTS:
         QCOMPARE(SizeOf(list), 32767);
         const Message last = desk.Messages.takeLast();
         ExpectOnly(desk, 25, Told(PastEnd, LoadTitle(list)));
-        QCOMPARE(last.Text, QStringLiteral("Further errors in this file, not shown one by one: %1")
-                                .arg(32767 * list.ValuesOfRecord - 25));
+        QCOMPARE(last.Text,
+                 u"Further errors in this file, not shown one by one: %1"_s.arg(32767 * list.ValuesOfRecord - 25));
     }
 
     // ------------------------------------------------------------ full records
@@ -854,13 +851,13 @@ private Q_SLOTS:
     void APayPeriodWith200ItemsComesBack()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("extra.txt"), "0\r\n");
+        desk.WriteFile(u"extra.txt"_s, "0\r\n");
         PutOneOfEach();
         State.ExtraPayPeriods(1).NumberOfExtraItems = 200;
         for (int item = 1; item <= 200; ++item)
             State.ExtraPayPeriods(1).ExtraItems.At(item) = {QString::number(item), Count(item)};
         SavePayPeriods();
-        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("extra.txt")});
+        QCOMPARE(desk.TakeFiles(), QStringList{u"extra.txt"_s});
         InputPayPeriods();
         QCOMPARE(State.ExtraPayPeriods(1).NumberOfExtraItems, qint16(200));
         for (int item = 1; item <= 200; ++item)
@@ -872,18 +869,18 @@ private Q_SLOTS:
     void AProjectWith100EntriesComesBack()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("projects.txt"), "0\r\n");
+        desk.WriteFile(u"projects.txt"_s, "0\r\n");
         PutOneOfEach();
         State.ProjectEntryCounts(1) = 100;
         for (int entry = 1; entry <= 100; ++entry) {
-            State.ProjectEntryDates(1).At(entry) = DateText(QStringLiteral("1/1/%1").arg(2000 + entry));
+            State.ProjectEntryDates(1).At(entry) = DateText(u"1/1/%1"_s.arg(2000 + entry));
             State.ProjectEntryAmounts(1).At(entry) = Count(entry);
         }
         SaveProjects();
-        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("projects.txt")});
+        QCOMPARE(desk.TakeFiles(), QStringList{u"projects.txt"_s});
         InputProjects();
         QCOMPARE(State.ProjectEntryCounts(1), qint16(100));
-        QCOMPARE(State.ProjectEntryDates(1)(100).Text(), QStringLiteral("1/1/2100"));
+        QCOMPARE(State.ProjectEntryDates(1)(100).Text(), u"1/1/2100"_s);
         QCOMPARE(State.ProjectEntryAmounts(1)(100), Count(100));
     }
 
@@ -906,8 +903,8 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         SaveEnvironmentSettings();
-        QCOMPARE(desk.TakeMessage(), Told(FileNotFound, QStringLiteral("Save Environment Settings")));
-        QVERIFY(desk.ReadFile(QStringLiteral("environm.ini")).isNull());
+        QCOMPARE(desk.TakeMessage(), Told(FileNotFound, u"Save Environment Settings"_s));
+        QVERIFY(desk.ReadFile(u"environm.ini"_s).isNull());
     }
 
     void AReadOnlyFileStaysAsItWas_data() { ListRows(); }
@@ -948,35 +945,35 @@ private Q_SLOTS:
     void ReadOnlySettingsStayAsTheyWere()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("environm.ini"), "as it was");
-        WriteProtect(desk.Path(QStringLiteral("environm.ini")));
+        desk.WriteFile(u"environm.ini"_s, "as it was");
+        WriteProtect(desk.Path(u"environm.ini"_s));
         SaveEnvironmentSettings();
-        QCOMPARE(desk.TakeMessage(), Told(NoAccess, QStringLiteral("Save Environment Settings")));
-        QCOMPARE(desk.ReadFile(QStringLiteral("environm.ini")), QByteArray("as it was"));
+        QCOMPARE(desk.TakeMessage(), Told(NoAccess, u"Save Environment Settings"_s));
+        QCOMPARE(desk.ReadFile(u"environm.ini"_s), QByteArray("as it was"));
     }
 
     void AReadOnlyFileLoads()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("regulars.txt"), "1\r\n\"Food\"\r\n5\r\n");
-        WriteProtect(desk.Path(QStringLiteral("regulars.txt")));
+        desk.WriteFile(u"regulars.txt"_s, "1\r\n\"Food\"\r\n5\r\n");
+        WriteProtect(desk.Path(u"regulars.txt"_s));
         InputRegulars();
-        QCOMPARE(State.Regulars(1), (RegularRecord{QStringLiteral("Food"), Count(50000)}));
+        QCOMPARE(State.Regulars(1), (RegularRecord{u"Food"_s, Count(50000)}));
     }
 
     void AWriterEndsAtTheFirstFailureAndTheNextOneIsNotBlocked()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n1\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n1\r\n");
         PutOneOfEach();
         State.NumberOfCreditors = 2; // more than there are
         SaveCreditors();
-        QCOMPARE(desk.TakeMessage(), Told(OutOfRange, QStringLiteral("Save Creditors")));
+        QCOMPARE(desk.TakeMessage(), Told(OutOfRange, u"Save Creditors"_s));
         // The values are collected first, so an error among them comes before the old file goes.
-        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")), QByteArray("1\r\n5\r\n\"Rent\"\r\n1\r\n"));
+        QCOMPARE(desk.ReadFile(u"creditor.txt"_s), QByteArray("1\r\n5\r\n\"Rent\"\r\n1\r\n"));
         State.NumberOfCreditors = 1;
         SaveCreditors();
-        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")), QByteArray("1\r\n1\r\n\"Rent\"\r\n650\r\n"));
+        QCOMPARE(desk.ReadFile(u"creditor.txt"_s), QByteArray("1\r\n1\r\n\"Rent\"\r\n650\r\n"));
     }
 
     void MoreThanARecordHoldsIsNotSaved_data()
@@ -1007,43 +1004,42 @@ private Q_SLOTS:
     void AFailureBehindTheDeleteIsToldAndTheMemoryStands()
     {
         FakeDesk desk;
-        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n1\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n1\r\n");
         State.NumberOfCreditors = 2;
-        State.Creditors = {{QString(10000, QLatin1Char('x')), 1, Count(6500000)},
-                           {QStringLiteral("Car"), 15, Count(37500)}};
+        State.Creditors = {{QString(10000, QLatin1Char('x')), 1, Count(6500000)}, {u"Car"_s, 15, Count(37500)}};
         const auto inMemory = State.Creditors;
         qsizetype written = 0;
         {
             const SmallFiles limit(4096);
             SaveCreditors();
-            written = desk.ReadFile(QStringLiteral("creditor.txt")).size();
+            written = desk.ReadFile(u"creditor.txt"_s).size();
         }
-        QCOMPARE(desk.TakeMessage(), Told("Error 57: Device I/O error", QStringLiteral("Save Creditors")));
+        QCOMPARE(desk.TakeMessage(), Told("Error 57: Device I/O error", u"Save Creditors"_s));
         QVERIFY(written <= 4096);
-        QVERIFY(!desk.ReadFile(QStringLiteral("creditor.txt")).contains("Rent")); // the old file was gone by then
+        QVERIFY(!desk.ReadFile(u"creditor.txt"_s).contains("Rent")); // the old file was gone by then
         QCOMPARE(State.NumberOfCreditors, qint16(2));
         QVERIFY(State.Creditors == inMemory);
         SaveCreditors(); // once there is room, the memory is saved whole
-        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")),
+        QCOMPARE(desk.ReadFile(u"creditor.txt"_s),
                  "2\r\n1\r\n\"" + QByteArray(10000, 'x') + "\"\r\n650\r\n15\r\n\"Car\"\r\n3.75\r\n");
     }
 
     void AFullDiskIsTold()
     {
-        if (!QFile::exists(QStringLiteral("/dev/full")))
+        if (!QFile::exists(u"/dev/full"_s))
             QSKIP("this system has no device that is always full");
         FakeDesk desk;
-        QVERIFY(QDir().mkpath(desk.Path(QStringLiteral("stores"))));
+        QVERIFY(QDir().mkpath(desk.Path(u"stores"_s)));
         // No plain file, so nothing is deleted before the device is written to.
-        QVERIFY(QFile::link(QStringLiteral("/dev/full"), desk.Path(QStringLiteral("stores/full.lst"))));
-        State.CurrentStoreFile = QStringLiteral("full.lst");
+        QVERIFY(QFile::link(u"/dev/full"_s, desk.Path(u"stores/full.lst"_s)));
+        State.CurrentStoreFile = u"full.lst"_s;
         State.NumberOfCurrentItems = 1;
         State.CurrentShoppingList.Redim(1);
-        State.CurrentShoppingList(1).Item = QStringLiteral("Milk");
+        State.CurrentShoppingList(1).Item = u"Milk"_s;
         SaveCurrentShoppingList();
-        QCOMPARE(desk.TakeMessage(), Told("Error 61: Disk full", QStringLiteral("Save Current Shopping List")));
+        QCOMPARE(desk.TakeMessage(), Told("Error 61: Disk full", u"Save Current Shopping List"_s));
         QCOMPARE(State.NumberOfCurrentItems, qint16(1));
-        QCOMPARE(State.CurrentShoppingList(1).Item, QStringLiteral("Milk"));
+        QCOMPARE(State.CurrentShoppingList(1).Item, u"Milk"_s);
     }
 
     // ------------------------------------------------------------ names and locales
@@ -1069,8 +1065,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("saved");
         QTest::addColumn<QString>("other");
-        QTest::newRow("the small one is saved") << QStringLiteral("aldo.lst") << QStringLiteral("ALDO.LST");
-        QTest::newRow("the capital one is saved") << QStringLiteral("ALDO.LST") << QStringLiteral("aldo.lst");
+        QTest::newRow("the small one is saved") << u"aldo.lst"_s << u"ALDO.LST"_s;
+        QTest::newRow("the capital one is saved") << u"ALDO.LST"_s << u"aldo.lst"_s;
     }
     void StoreListsWhoseNamesDifferInCaseAloneAreTwo()
     {
@@ -1080,16 +1076,16 @@ private Q_SLOTS:
         const auto list = [](const QByteArray &item) {
             return "1\r\n\"" + item + "\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n2\r\n";
         };
-        desk.WriteFile(QStringLiteral("stores/") + saved, list("Milk"));
-        desk.WriteFile(QStringLiteral("stores/") + other, list("Eggs"));
+        desk.WriteFile(u"stores/"_s + saved, list("Milk"));
+        desk.WriteFile(u"stores/"_s + other, list("Eggs"));
         State.CurrentStoreFile = saved;
         InputCurrentShoppingList();
-        QCOMPARE(State.CurrentShoppingList(1).Item, QStringLiteral("Milk"));
-        State.CurrentShoppingList(1).Item = QStringLiteral("Bread");
+        QCOMPARE(State.CurrentShoppingList(1).Item, u"Milk"_s);
+        State.CurrentShoppingList(1).Item = u"Bread"_s;
         SaveCurrentShoppingList();
-        QCOMPARE(desk.ReadFile(QStringLiteral("stores/") + saved), list("Bread"));
-        QCOMPARE(desk.ReadFile(QStringLiteral("stores/") + other), list("Eggs"));
-        QCOMPARE(QDir(desk.Path(QStringLiteral("stores"))).entryList(QDir::Files).size(), 2);
+        QCOMPARE(desk.ReadFile(u"stores/"_s + saved), list("Bread"));
+        QCOMPARE(desk.ReadFile(u"stores/"_s + other), list("Eggs"));
+        QCOMPARE(QDir(desk.Path(u"stores"_s)).entryList(QDir::Files).size(), 2);
     }
 
     void AHouseholdFromAnOldDiskStarts()
@@ -1100,11 +1096,10 @@ private Q_SLOTS:
         QDir renamed(desk.Folder());
         for (const QString &name : folder.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot))
             QVERIFY(renamed.rename(name, name.toUpper()));
-        QVERIFY(QFile::rename(desk.Path(QStringLiteral("STORES/untitled.lst")),
-                              desk.Path(QStringLiteral("STORES/UNTITLED.LST"))));
+        QVERIFY(QFile::rename(desk.Path(u"STORES/untitled.lst"_s), desk.Path(u"STORES/UNTITLED.LST"_s)));
         desk.TakeFiles(); // their names are changed
         InitializeVariables();
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         QVERIFY(!State.InitializingVariables);
         QVERIFY(!State.MathCalculatorMissing);
         QCOMPARE(State.ForecastPeriods, qint16(26));
@@ -1125,16 +1120,15 @@ private Q_SLOTS:
         const InLocale inLocale(locale);
         desk.LayHousehold();
         const QMap<QString, QByteArray> files{
-            {QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n1234.5678\r\n"},
-            {QStringLiteral("regulars.txt"), "1\r\n\"Food\"\r\n-0.5\r\n"},
-            {QStringLiteral("extra.txt"), "1\r\n\"05-24-1997\"\r\n1\r\n\"Gift\"\r\n12.5\r\n"},
-            {QStringLiteral("projects.txt"), "1\r\n\"Roof\"\r\n1000.25\r\n1\r\n\"1/15/2004\"\r\n0.0001\r\n"},
-            {QStringLiteral("environm.ini"),
-             "26\r\n1061.5385\r\n14\r\n1\r\n15\r\n0\r\n0.0625\r\n\"untitled.lst\"\r\n0.9\r\n"}};
+            {u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n1234.5678\r\n"},
+            {u"regulars.txt"_s, "1\r\n\"Food\"\r\n-0.5\r\n"},
+            {u"extra.txt"_s, "1\r\n\"05-24-1997\"\r\n1\r\n\"Gift\"\r\n12.5\r\n"},
+            {u"projects.txt"_s, "1\r\n\"Roof\"\r\n1000.25\r\n1\r\n\"1/15/2004\"\r\n0.0001\r\n"},
+            {u"environm.ini"_s, "26\r\n1061.5385\r\n14\r\n1\r\n15\r\n0\r\n0.0625\r\n\"untitled.lst\"\r\n0.9\r\n"}};
         for (auto file = files.begin(); file != files.end(); ++file)
             desk.WriteFile(file.key(), file.value());
         InitializeVariables();
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
         QCOMPARE(State.Creditors(1).CreditorAmount, Count(12345678));
         QCOMPARE(State.Regulars(1).RegularAmount, Count(-5000));
         QCOMPARE(State.ExtraPayPeriods(1).ExtraItems(1).ExtraItemAmount, Count(125000));
@@ -1157,12 +1151,12 @@ private Q_SLOTS:
         const char *names[] = {"creditor.txt", "extra.txt", "mastshop.txt", "projects.txt", "regulars.txt"};
         for (const char *name : names)
             desk.WriteFile(QLatin1String(name), "1\r\nold\r\n");
-        desk.WriteFile(QStringLiteral("environm.ini"), "stays");
+        desk.WriteFile(u"environm.ini"_s, "stays");
         PutOneOfEach();
         InitializeFiles();
         for (const char *name : names)
             QCOMPARE(desk.ReadFile(QLatin1String(name)), QByteArray("0\r\n"));
-        QCOMPARE(desk.ReadFile(QStringLiteral("environm.ini")), QByteArray("stays"));
+        QCOMPARE(desk.ReadFile(u"environm.ini"_s), QByteArray("stays"));
         QCOMPARE(State.NumberOfCreditors, qint16(1)); // the lists in memory are not its matter
     }
 
@@ -1184,7 +1178,7 @@ private Q_SLOTS:
             if (QLatin1String(name) != missing)
                 desk.WriteFile(QLatin1String(name), "old");
         InitializeFiles();
-        QCOMPARE(desk.TakeMessage(), Told(FileNotFound, QStringLiteral("Initialize Files")));
+        QCOMPARE(desk.TakeMessage(), Told(FileNotFound, u"Initialize Files"_s));
         for (int i = 0; i < 5; ++i)
             QCOMPARE(desk.ReadFile(QLatin1String(names[i])), i < reset    ? QByteArray("0\r\n")
                                                              : i == reset ? QByteArray()
@@ -1196,12 +1190,12 @@ private Q_SLOTS:
         FakeDesk desk;
         for (const char *name : {"creditor.txt", "extra.txt", "mastshop.txt", "projects.txt", "regulars.txt"})
             desk.WriteFile(QLatin1String(name), "old");
-        WriteProtect(desk.Path(QStringLiteral("extra.txt")));
+        WriteProtect(desk.Path(u"extra.txt"_s));
         InitializeFiles();
-        QCOMPARE(desk.TakeMessage(), Told(NoAccess, QStringLiteral("Initialize Files")));
-        QCOMPARE(desk.ReadFile(QStringLiteral("creditor.txt")), QByteArray("0\r\n"));
-        QCOMPARE(desk.ReadFile(QStringLiteral("extra.txt")), QByteArray("old"));
-        QCOMPARE(desk.ReadFile(QStringLiteral("mastshop.txt")), QByteArray("old"));
+        QCOMPARE(desk.TakeMessage(), Told(NoAccess, u"Initialize Files"_s));
+        QCOMPARE(desk.ReadFile(u"creditor.txt"_s), QByteArray("0\r\n"));
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("old"));
+        QCOMPARE(desk.ReadFile(u"mastshop.txt"_s), QByteArray("old"));
     }
 };
 

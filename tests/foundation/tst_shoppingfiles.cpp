@@ -6,14 +6,16 @@
 #include "foundation/State.h"
 #include "platform/values/Locale.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString MasterFile = QStringLiteral("mastshop.txt");
-const QString ListFile = QStringLiteral("stores\\untitled.lst");
-const QString InputMaster = QStringLiteral("Input Master Shopping List");
-const QString InputCurrent = QStringLiteral("Input Current Shopping List");
-const QString SaveMaster = QStringLiteral("Save Master Shopping List");
-const QString SaveCurrent = QStringLiteral("Save Current Shopping List");
+const QString MasterFile = u"mastshop.txt"_s;
+const QString ListFile = u"stores\\untitled.lst"_s;
+const QString InputMaster = u"Input Master Shopping List"_s;
+const QString InputCurrent = u"Input Current Shopping List"_s;
+const QString SaveMaster = u"Save Master Shopping List"_s;
+const QString SaveCurrent = u"Save Current Shopping List"_s;
 
 constexpr Currency Count(qint64 tenThousandths)
 {
@@ -34,17 +36,10 @@ const char TooLarge[] = "Error 6: Overflow";
 const char OutOfRange[] = "Error 9: Subscript out of range";
 const char NoAccess[] = "Error 75: Path/File access error";
 
-const MasterItemRecord Milk{QStringLiteral("Milk, whole"), QStringLiteral("gallon"), Count(24900),
-                            QStringLiteral("Corner"), true};
-const MasterItemRecord Bread{QStringLiteral("Bread"), QString(), Count(0), QString(), false};
-const CurrentItemRecord MilkOnTheList{QStringLiteral("Milk"),
-                                      QStringLiteral("gallon"),
-                                      Count(24900),
-                                      QStringLiteral("Corner"),
-                                      1.5F,
-                                      true,
-                                      Count(2500),
-                                      Count(37091)};
+const MasterItemRecord Milk{u"Milk, whole"_s, u"gallon"_s, Count(24900), u"Corner"_s, true};
+const MasterItemRecord Bread{u"Bread"_s, QString(), Count(0), QString(), false};
+const CurrentItemRecord MilkOnTheList{u"Milk"_s, u"gallon"_s, Count(24900), u"Corner"_s,
+                                      1.5F,      true,        Count(2500),  Count(37091)};
 
 void ExpectOnly(FakeDesk &desk, int count, const Message &message)
 {
@@ -88,7 +83,7 @@ private Q_SLOTS:
     void AStoreListIsEightLinesAnItem()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(ListFile, "0\r\n");
         State.NumberOfCurrentItems = 1;
         State.CurrentShoppingList = {MilkOnTheList};
@@ -117,13 +112,13 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         QFETCH(float, quantity);
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(ListFile, "0\r\n");
         State.NumberOfCurrentItems = 1;
         State.CurrentShoppingList = {MilkOnTheList};
         State.CurrentShoppingList(1).Quantity = quantity;
         SaveCurrentShoppingList();
-        QCOMPARE(desk.TakeFiles(), QStringList{QStringLiteral("stores/untitled.lst")});
+        QCOMPARE(desk.TakeFiles(), QStringList{u"stores/untitled.lst"_s});
         InputCurrentShoppingList();
         QVERIFY(State.CurrentShoppingList(1).Quantity == quantity);
     }
@@ -131,14 +126,14 @@ private Q_SLOTS:
     void TheListIsTheOneOfTheSettings()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("Saturday.lst");
+        State.CurrentStoreFile = u"Saturday.lst"_s;
         desk.WriteFile(ListFile, "0\r\n");
         State.NumberOfCurrentItems = 1;
         State.CurrentShoppingList = {MilkOnTheList};
         SaveCurrentShoppingList();
-        QVERIFY(desk.ReadFile(QStringLiteral("stores/Saturday.lst")).startsWith("1\r\n\"Milk\""));
+        QVERIFY(desk.ReadFile(u"stores/Saturday.lst"_s).startsWith("1\r\n\"Milk\""));
         QCOMPARE(desk.ReadFile(ListFile), QByteArray("0\r\n"));
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         InputCurrentShoppingList();
         QCOMPARE(State.NumberOfCurrentItems, qint16(0));
     }
@@ -148,7 +143,7 @@ private Q_SLOTS:
     void EmptyListsAreTheOneLine0()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(MasterFile, "old");
         desk.WriteFile(ListFile, "old");
         SaveMasterShoppingList();
@@ -160,7 +155,7 @@ private Q_SLOTS:
     void ACountOf0LeavesTheListInMemory()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         State.NumberOfMasterItems = State.NumberOfCurrentItems = 1;
         State.MasterShoppingList = {Milk};
         State.CurrentShoppingList = {MilkOnTheList};
@@ -193,7 +188,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, word);
         desk.WriteFile(MasterFile, "1\r\nMilk\r\ngallon\r\n2.49\r\nCorner\r\n" + word + "\r\n");
         InputMasterShoppingList();
-        QCOMPARE(State.MasterShoppingList(1).Store, QStringLiteral("Corner"));
+        QCOMPARE(State.MasterShoppingList(1).Store, u"Corner"_s);
         QTEST(State.MasterShoppingList(1).Taxable, "taxable");
     }
 
@@ -225,7 +220,7 @@ private Q_SLOTS:
         QFETCH(int, line);
         QFETCH(QByteArray, text);
         QFETCH(QString, message);
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         QByteArrayList lines{"2", "Milk", "gallon", "2.49", "Corner", "1.5", "#TRUE#", "0.25", "3.7091"};
         lines += lines.mid(1);
         lines[line] = text;
@@ -261,7 +256,7 @@ private Q_SLOTS:
         FakeDesk desk;
         const QLocale before = UserLocale();
         SetUserLocale(QLocale(QLocale::German, QLocale::Germany));
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         const QByteArray list =
             "1\r\n\"Milk\"\r\n\"gallon\"\r\n2.49\r\n\"Corner\"\r\n1.5\r\n#TRUE#\r\n0.25\r\n3.7091\r\n";
         desk.WriteFile(ListFile, list);
@@ -277,8 +272,8 @@ private Q_SLOTS:
     void MissingFilesGiveTwoMessages()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
-        desk.WriteFile(QStringLiteral("stores\\other.lst"), "0\r\n");
+        State.CurrentStoreFile = u"untitled.lst"_s;
+        desk.WriteFile(u"stores\\other.lst"_s, "0\r\n");
         InputMasterShoppingList();
         QCOMPARE(desk.TakeMessage(), Told(FileNotFound, InputMaster));
         QCOMPARE(desk.TakeMessage(), Told(BadFile, InputMaster));
@@ -292,7 +287,7 @@ private Q_SLOTS:
     void MissingFilesInALaterReloadClearTheLists()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         State.NumberOfMasterItems = State.NumberOfCurrentItems = 1;
         State.MasterShoppingList = {Milk};
         State.CurrentShoppingList = {MilkOnTheList};
@@ -309,7 +304,7 @@ private Q_SLOTS:
     void ShortFilesTellOnceForEachMissingValue()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(MasterFile, "2\r\nMilk\r\ngallon\r\n2.49\r\nCorner\r\n");
         InputMasterShoppingList();
         ExpectOnly(desk, 1 + 5, Told(PastEnd, InputMaster));
@@ -317,13 +312,13 @@ private Q_SLOTS:
         desk.WriteFile(ListFile, "1\r\nMilk\r\ngallon\r\n");
         InputCurrentShoppingList();
         ExpectOnly(desk, 6, Told(PastEnd, InputCurrent));
-        QCOMPARE(State.CurrentShoppingList(1).Unit, QStringLiteral("gallon"));
+        QCOMPARE(State.CurrentShoppingList(1).Unit, u"gallon"_s);
     }
 
     void ADamagedCountOf32767HoldsNobodyPrisoner()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(MasterFile, "32767");
         InputMasterShoppingList();
         QCOMPARE(desk.Messages.size(), 26);
@@ -341,7 +336,7 @@ private Q_SLOTS:
     void DamagedCounts()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         State.MasterShoppingList = {Milk};
         State.CurrentShoppingList = {MilkOnTheList};
         for (const auto &[count, message] : {std::pair("-2\r\n", OutOfRange), std::pair("40000\r\n", TooLarge)}) {
@@ -372,16 +367,16 @@ private Q_SLOTS:
     void AMissingCurrentListIsMade()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("new.lst");
+        State.CurrentStoreFile = u"new.lst"_s;
         desk.WriteFile(ListFile, "0\r\n");
         SaveCurrentShoppingList();
-        QCOMPARE(desk.ReadFile(QStringLiteral("stores\\new.lst")), QByteArray("0\r\n"));
+        QCOMPARE(desk.ReadFile(u"stores\\new.lst"_s), QByteArray("0\r\n"));
     }
 
     void AMissingFolderOfListsIsTold()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("new.lst");
+        State.CurrentStoreFile = u"new.lst"_s;
         SaveCurrentShoppingList();
         QCOMPARE(desk.TakeMessage(), Told(PathNotFound, SaveCurrent));
     }
@@ -389,7 +384,7 @@ private Q_SLOTS:
     void ReadOnlyFilesStayAsTheyWere()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(MasterFile, "as it was");
         desk.WriteFile(ListFile, "as it was");
         WriteProtect(desk.Path(MasterFile));
@@ -405,7 +400,7 @@ private Q_SLOTS:
     void AnErrorAmongTheValuesComesBeforeTheFileIsTouched()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.WriteFile(MasterFile, "as it was");
         desk.WriteFile(ListFile, "as it was");
         State.NumberOfMasterItems = State.NumberOfCurrentItems = 2; // one more than there are
@@ -425,17 +420,15 @@ private Q_SLOTS:
     void AnUpperCaseNameIsFoundAndNotDoubled()
     {
         FakeDesk desk;
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
-        desk.WriteFile(QStringLiteral("STORES/UNTITLED.LST"), "1\r\nA\r\nB\r\n1\r\nC\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
+        State.CurrentStoreFile = u"untitled.lst"_s;
+        desk.WriteFile(u"STORES/UNTITLED.LST"_s, "1\r\nA\r\nB\r\n1\r\nC\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
         InputCurrentShoppingList();
-        QCOMPARE(State.CurrentShoppingList(1).Item, QStringLiteral("A"));
+        QCOMPARE(State.CurrentShoppingList(1).Item, u"A"_s);
         SaveCurrentShoppingList();
-        const QDir stores(desk.Path(QStringLiteral("STORES")));
+        const QDir stores(desk.Path(u"STORES"_s));
         QCOMPARE(stores.entryList(QDir::Files).size(), 1);
-        QCOMPARE(desk.TakeFiles(),
-                 (QStringList{QStringLiteral("STORES/UNTITLED.LST"), QStringLiteral("STORES/untitled.lst")}));
-        QCOMPARE(QDir(desk.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-                 QStringList(QStringLiteral("STORES")));
+        QCOMPARE(desk.TakeFiles(), (QStringList{u"STORES/UNTITLED.LST"_s, u"STORES/untitled.lst"_s}));
+        QCOMPARE(QDir(desk.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList(u"STORES"_s));
     }
 };
 

@@ -6,14 +6,16 @@
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString Title = QStringLiteral("Initialize Variables");
-const QString Settings = QStringLiteral("environm.ini");
-const QString Tutor = QStringLiteral("help\\Instruction.txt");
-const QString Footer = QStringLiteral("\n\nFor more information press F1\n"
-                                      "Use the browse (<< and >>) buttons at the top to move \n"
-                                      "forward and backward through the instructions");
+const QString Title = u"Initialize Variables"_s;
+const QString Settings = u"environm.ini"_s;
+const QString Tutor = u"help\\Instruction.txt"_s;
+const QString Footer = u"\n\nFor more information press F1\n"
+                       "Use the browse (<< and >>) buttons at the top to move \n"
+                       "forward and backward through the instructions"_s;
 
 Message Told(const char *text, const QString &title = Title)
 {
@@ -37,7 +39,7 @@ void ExpectAnAbandonedStart(FakeDesk &desk)
 void Start(FakeDesk &desk)
 {
     InitializeVariables();
-    QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("start")});
+    QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
 }
 
 } // namespace
@@ -53,18 +55,18 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         desk.LayHousehold();
-        State.ApplicationPath = State.StoresDirectory = State.HelpFile = QStringLiteral("elsewhere");
+        State.ApplicationPath = State.StoresDirectory = State.HelpFile = u"elsewhere"_s;
         Start(desk);
         QCOMPARE(State.ApplicationPath, desk.Folder());
-        QCOMPARE(State.StoresDirectory, desk.Folder() + QStringLiteral("\\stores\\"));
-        QCOMPARE(State.HelpFile, desk.Folder() + QStringLiteral("\\help\\budget help.hlp"));
+        QCOMPARE(State.StoresDirectory, desk.Folder() + u"\\stores\\"_s);
+        QCOMPARE(State.HelpFile, desk.Folder() + u"\\help\\budget help.hlp"_s);
     }
 
     void TheNineSettingsAreReadInOrder()
     {
         FakeDesk desk;
         desk.LayHousehold();
-        desk.WriteFile(QStringLiteral("stores\\Saturday.lst"), "0\r\n");
+        desk.WriteFile(u"stores\\Saturday.lst"_s, "0\r\n");
         desk.WriteFile(Settings, "52\r\n1061.5385\r\n30\r\n3\r\n18\r\n-1\r\n0.0725\r\n\"Saturday.lst\"\r\n0.8437\r\n");
         Start(desk);
         QCOMPARE(State.ForecastPeriods, qint16(52));
@@ -74,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(State.SecondPayDate, qint16(18));
         QCOMPARE(State.MonthEndPay, qint16(-1));
         QCOMPARE(State.SalesTax, 0.0725F);
-        QCOMPARE(State.CurrentStoreFile, QStringLiteral("Saturday.lst"));
+        QCOMPARE(State.CurrentStoreFile, u"Saturday.lst"_s);
         QCOMPARE(State.AverageNetPercentage, 0.8437F);
     }
 
@@ -100,9 +102,9 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.LayHousehold();
         desk.Now = QDateTime(QDate(2004, 2, 9), QTime(23, 59));
-        State.CurrentPayPeriod = QStringLiteral("1/1/1999"); // what the user had set in the last run
+        State.CurrentPayPeriod = u"1/1/1999"_s; // what the user had set in the last run
         Start(desk);
-        QCOMPARE(State.CurrentPayPeriod, QStringLiteral("02-09-2004"));
+        QCOMPARE(State.CurrentPayPeriod, u"02-09-2004"_s);
         QVERIFY(!State.CurrentPayPeriodConfirmed);
     }
 
@@ -118,12 +120,12 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         desk.LayHousehold();
-        State.PrintFontName = QStringLiteral("Serif");
+        State.PrintFontName = u"Serif"_s;
         State.PrintFontSize = 12;
         State.PrintFontBold = State.PrintFontItalic = State.PrintFontUnderline = State.PrintFontStrikethru = true;
         State.PrintFontColor = 0xFF;
         Start(desk);
-        QCOMPARE(State.PrintFontName, QStringLiteral("Courier"));
+        QCOMPARE(State.PrintFontName, u"Courier"_s);
         QCOMPARE(State.PrintFontSize, 8.0F);
         QVERIFY(!State.PrintFontBold);
         QVERIFY(!State.PrintFontItalic);
@@ -131,54 +133,52 @@ private Q_SLOTS:
         QVERIFY(!State.PrintFontStrikethru);
         QCOMPARE(State.PrintFontColor, 0);
         ApplyPrintSettings();
-        QCOMPARE(ThePrinter.Font, (PrintFont{QStringLiteral("Courier"), 8, false, false, false, false, 0}));
+        QCOMPARE(ThePrinter.Font, (PrintFont{u"Courier"_s, 8, false, false, false, false, 0}));
     }
 
     void EveryPrintSettingReachesThePrinter()
     {
         FakeDesk desk;
-        State.PrintFontName = QStringLiteral("Serif");
+        State.PrintFontName = u"Serif"_s;
         State.PrintFontSize = 11.5F;
         State.PrintFontBold = State.PrintFontUnderline = true;
         State.PrintFontColor = 0x0000FF;
         ApplyPrintSettings();
-        QCOMPARE(ThePrinter.Font, (PrintFont{QStringLiteral("Serif"), 11.5F, true, false, true, false, 0x0000FF}));
+        QCOMPARE(ThePrinter.Font, (PrintFont{u"Serif"_s, 11.5F, true, false, true, false, 0x0000FF}));
         State.PrintFontBold = State.PrintFontUnderline = false;
         State.PrintFontItalic = State.PrintFontStrikethru = true;
         ApplyPrintSettings();
-        QCOMPARE(ThePrinter.Font, (PrintFont{QStringLiteral("Serif"), 11.5F, false, true, false, true, 0x0000FF}));
+        QCOMPARE(ThePrinter.Font, (PrintFont{u"Serif"_s, 11.5F, false, true, false, true, 0x0000FF}));
     }
 
     void AllSixListsAreLoaded()
     {
         FakeDesk desk;
         desk.LayHousehold();
-        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
-        desk.WriteFile(QStringLiteral("regulars.txt"), "1\r\n\"Food\"\r\n100\r\n");
-        desk.WriteFile(QStringLiteral("extra.txt"), "1\r\n\"1/15/2004\"\r\n0\r\n");
-        desk.WriteFile(QStringLiteral("projects.txt"), "1\r\n\"Roof\"\r\n1000\r\n0\r\n");
-        desk.WriteFile(QStringLiteral("mastshop.txt"), "1\r\n\"Milk\"\r\n\"\"\r\n2\r\n\"\"\r\n#TRUE#\r\n");
-        desk.WriteFile(QStringLiteral("stores\\untitled.lst"),
-                       "1\r\n\"Eggs\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n650\r\n");
+        desk.WriteFile(u"regulars.txt"_s, "1\r\n\"Food\"\r\n100\r\n");
+        desk.WriteFile(u"extra.txt"_s, "1\r\n\"1/15/2004\"\r\n0\r\n");
+        desk.WriteFile(u"projects.txt"_s, "1\r\n\"Roof\"\r\n1000\r\n0\r\n");
+        desk.WriteFile(u"mastshop.txt"_s, "1\r\n\"Milk\"\r\n\"\"\r\n2\r\n\"\"\r\n#TRUE#\r\n");
+        desk.WriteFile(u"stores\\untitled.lst"_s, "1\r\n\"Eggs\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
         Start(desk);
-        QCOMPARE(State.Creditors(1).CreditorName, QStringLiteral("Rent"));
-        QCOMPARE(State.Regulars(1).RegularItem, QStringLiteral("Food"));
-        QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), QStringLiteral("01-15-2004"));
-        QCOMPARE(State.ProjectNames(1), QStringLiteral("Roof"));
-        QCOMPARE(State.MasterShoppingList(1).Item, QStringLiteral("Milk"));
-        QCOMPARE(State.CurrentShoppingList(1).Item, QStringLiteral("Eggs"));
+        QCOMPARE(State.Creditors(1).CreditorName, u"Rent"_s);
+        QCOMPARE(State.Regulars(1).RegularItem, u"Food"_s);
+        QCOMPARE(State.ExtraPayPeriods(1).PayPeriodDate.Text(), u"01-15-2004"_s);
+        QCOMPARE(State.ProjectNames(1), u"Roof"_s);
+        QCOMPARE(State.MasterShoppingList(1).Item, u"Milk"_s);
+        QCOMPARE(State.CurrentShoppingList(1).Item, u"Eggs"_s);
     }
 
     void TheCalculatorIsStartedOnceAndLast()
     {
         FakeDesk desk;
         desk.LayHousehold();
-        desk.WriteFile(QStringLiteral("stores\\untitled.lst"),
-                       "1\r\n\"Eggs\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
+        desk.WriteFile(u"stores\\untitled.lst"_s, "1\r\n\"Eggs\"\r\n\"\"\r\n2\r\n\"\"\r\n1\r\n#TRUE#\r\n0\r\n0\r\n");
         bool initializing = false;
         qint16 items = 0;
         TheDesk.StartCalculator = [&] {
-            desk.CalculatorCalls += QStringLiteral("start");
+            desk.CalculatorCalls += u"start"_s;
             initializing = State.InitializingVariables;
             items = State.NumberOfCurrentItems;
         };
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(State.SecondPayDate, qint16(values > 4 ? 15 : 0));
         QCOMPARE(State.MonthEndPay, qint16(values > 5 ? -1 : 0));
         QCOMPARE(State.SalesTax, values > 6 ? 0.06F : 0.0F);
-        QCOMPARE(State.CurrentStoreFile, values > 7 ? QStringLiteral("untitled.lst") : QString());
+        QCOMPARE(State.CurrentStoreFile, values > 7 ? u"untitled.lst"_s : QString());
         QCOMPARE(State.AverageNetPercentage, 0.0F);
         ExpectAnAbandonedStart(desk);
     }
@@ -290,8 +290,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("error");
         QTest::addColumn<QString>("text");
-        QTest::newRow("5") << 5 << QStringLiteral("Error 5: Invalid procedure call or argument");
-        QTest::newRow("70") << 70 << QStringLiteral("Error 70: Permission denied");
+        QTest::newRow("5") << 5 << u"Error 5: Invalid procedure call or argument"_s;
+        QTest::newRow("70") << 70 << u"Error 70: Permission denied"_s;
     }
     void AnotherErrorOfTheCalculatorIsTold()
     {
@@ -304,7 +304,7 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeMessage(), (Message{text, Title, Icon::Stop, Buttons::Ok, 0}));
         QVERIFY(!State.MathCalculatorMissing);
         QVERIFY(State.InitializingVariables); // the routine was left before its last step
-        QCOMPARE(State.CurrentPayPeriod, QStringLiteral("01-05-2004"));
+        QCOMPARE(State.CurrentPayPeriod, u"01-05-2004"_s);
     }
 
     // ------------------------------------------------------------ the tutor's pages
@@ -314,7 +314,7 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.LayHousehold();
         desk.RemoveFile(Tutor);
-        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n650\r\n");
         Start(desk);
         QVERIFY(State.MathCalculatorMissing); // meant for the calculator, but the handler is one for all
         QVERIFY(!State.InitializingVariables);
@@ -326,8 +326,8 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.LayHousehold();
         desk.RemoveFile(Tutor);
-        QVERIFY(QDir(desk.Folder()).rmdir(QStringLiteral("help")));
-        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
+        QVERIFY(QDir(desk.Folder()).rmdir(u"help"_s));
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n650\r\n");
         Start(desk);
         QVERIFY(State.MathCalculatorMissing);
         QVERIFY(!State.InitializingVariables);
@@ -341,8 +341,8 @@ private Q_SLOTS:
         desk.WriteFile(Tutor, "; the first page\r\nWelcome.\r\n\r\nRead on.\r\n;\r\nSecond.\r\n;\r\n");
         LoadTutorInstructions();
         QCOMPARE(State.TutorInstructions.Size(), 26);
-        QCOMPARE(State.TutorInstructions(1), QStringLiteral("\nWelcome.\n\nRead on.") + Footer);
-        QCOMPARE(State.TutorInstructions(2), QStringLiteral("\nSecond.") + Footer);
+        QCOMPARE(State.TutorInstructions(1), u"\nWelcome.\n\nRead on."_s + Footer);
+        QCOMPARE(State.TutorInstructions(2), u"\nSecond."_s + Footer);
         QCOMPARE(State.TutorInstructions(3), QString());
     }
 
@@ -351,8 +351,8 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.WriteFile(Tutor, ";\nFirst.\n;\nSecond.");
         LoadTutorInstructions();
-        QCOMPARE(State.TutorInstructions(1), QStringLiteral("\nFirst.") + Footer);
-        QCOMPARE(State.TutorInstructions(2), QStringLiteral("\nSecond."));
+        QCOMPARE(State.TutorInstructions(1), u"\nFirst."_s + Footer);
+        QCOMPARE(State.TutorInstructions(2), u"\nSecond."_s);
     }
 
     void OnlyAMarkAtTheStartOfALineParts()
@@ -360,7 +360,7 @@ private Q_SLOTS:
         FakeDesk desk;
         desk.WriteFile(Tutor, ";\n ; no mark\nneither; this\n;\n");
         LoadTutorInstructions();
-        QCOMPARE(State.TutorInstructions(1), QStringLiteral("\n ; no mark\nneither; this") + Footer);
+        QCOMPARE(State.TutorInstructions(1), u"\n ; no mark\nneither; this"_s + Footer);
     }
 
     void AllTwentySixPagesAreRead()
@@ -369,7 +369,7 @@ private Q_SLOTS:
         desk.LayHousehold();
         Start(desk);
         for (int page = 1; page <= 26; ++page)
-            QCOMPARE(State.TutorInstructions(page), QStringLiteral("\nPage %1").arg(page) + Footer);
+            QCOMPARE(State.TutorInstructions(page), u"\nPage %1"_s.arg(page) + Footer);
     }
 
     void AnEmptyTutorFileIsNoError()
@@ -398,14 +398,14 @@ private Q_SLOTS:
         QFETCH(QByteArray, file);
         desk.LayHousehold();
         desk.WriteFile(Tutor, file);
-        desk.WriteFile(QStringLiteral("creditor.txt"), "1\r\n5\r\n\"Rent\"\r\n650\r\n");
+        desk.WriteFile(u"creditor.txt"_s, "1\r\n5\r\n\"Rent\"\r\n650\r\n");
         QCOMPARE(ErrorOf(LoadTutorInstructions), 9); // it has no handler of its own
         InitializeVariables();
         QCOMPARE(desk.TakeMessage(), Told("Error 9: Subscript out of range"));
         QVERIFY(State.InitializingVariables);
         QVERIFY(!State.MathCalculatorMissing);
-        QCOMPARE(State.PrintFontName, QStringLiteral("Courier")); // what came before it stands
-        QCOMPARE(State.NumberOfCreditors, qint16(0));             // what comes behind it was not done
+        QCOMPARE(State.PrintFontName, u"Courier"_s);  // what came before it stands
+        QCOMPARE(State.NumberOfCreditors, qint16(0)); // what comes behind it was not done
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList());
     }
 
@@ -431,7 +431,7 @@ private Q_SLOTS:
         QByteArray settingsAtClosing;
         bool endedAtClosing = false;
         TheDesk.CloseCalculator = [&] {
-            desk.CalculatorCalls += QStringLiteral("close");
+            desk.CalculatorCalls += u"close"_s;
             settingsAtClosing = desk.ReadFile(Settings);
             endedAtClosing = desk.Ended;
         };
@@ -439,7 +439,7 @@ private Q_SLOTS:
         QCOMPARE(settingsAtClosing,
                  QByteArray("13\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n"));
         QVERIFY(!endedAtClosing);
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("close")});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"close"_s});
         QVERIFY(desk.TakeEnd());
     }
 
@@ -449,10 +449,10 @@ private Q_SLOTS:
         desk.LayHousehold();
         Start(desk);
         State.NumberOfCreditors = 1;
-        State.Creditors = {{QStringLiteral("Rent"), 1, Currency()}};
+        State.Creditors = {{u"Rent"_s, 1, Currency()}};
         LeaveProgram();
         QCOMPARE(desk.TakeFiles(), QStringList{Settings});
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("close")});
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"close"_s});
         QVERIFY(desk.TakeEnd());
     }
 
@@ -460,8 +460,8 @@ private Q_SLOTS:
     {
         FakeDesk desk;
         LeaveProgram();
-        QCOMPARE(desk.TakeMessage(), Told("Error 53: File not found", QStringLiteral("Save Environment Settings")));
-        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{QStringLiteral("close")});
+        QCOMPARE(desk.TakeMessage(), Told("Error 53: File not found", u"Save Environment Settings"_s));
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"close"_s});
         QVERIFY(desk.TakeEnd());
     }
 

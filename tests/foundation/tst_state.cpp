@@ -4,6 +4,8 @@
 #include "TestProgram.h"
 #include "foundation/State.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 void ExpectTheStart()
@@ -99,12 +101,12 @@ private Q_SLOTS:
     {
         {
             SharedState used;
-            used.ApplicationPath = used.StoresDirectory = used.HelpFile = QStringLiteral("somewhere");
+            used.ApplicationPath = used.StoresDirectory = used.HelpFile = u"somewhere"_s;
             used.ForecastPeriods = used.PayFrequency = used.FirstPayDate = used.SecondPayDate = used.MonthEndPay = 1;
             used.PaycheckAmount = used.BudgetBalance = used.NextPeriodShortfall = used.BudgetCredit =
                 Currency::FromTenThousandths(1);
             used.SalesTax = used.AverageNetPercentage = used.PrintFontSize = 1;
-            used.CurrentStoreFile = used.CurrentPayPeriod = used.PrintFontName = QStringLiteral("text");
+            used.CurrentStoreFile = used.CurrentPayPeriod = used.PrintFontName = u"text"_s;
             used.NumberOfCreditors = used.NumberOfRegulars = used.NumberOfExtraPayPeriods = used.NumberOfProjects =
                 used.NumberOfMasterItems = used.NumberOfCurrentItems = used.GuidedSetupStep = 1;
             used.Creditors.Redim(1);
@@ -118,7 +120,7 @@ private Q_SLOTS:
             used.MasterShoppingList.Redim(1);
             used.CurrentShoppingList.Redim(1);
             used.BudgetPeriodStart = used.PayPeriodDate = used.NextPeriodDate = used.NextNextPeriodDate =
-                DateText(QStringLiteral("1/1/2004"));
+                DateText(u"1/1/2004"_s);
             used.MonthDays.fill(30);
             used.ClockTime = QTime(1, 2, 3);
             used.InitializingVariables = used.MathCalculatorMissing = used.CurrentPayPeriodConfirmed =
@@ -127,7 +129,7 @@ private Q_SLOTS:
                         used.PrintSavingsForecast = used.PrintProjectView = used.PrintFontBold = used.PrintFontItalic =
                             used.PrintFontUnderline = used.PrintFontStrikethru = true;
             used.WelcomeLevel = used.GuidedSetupRoute = used.PrintFontColor = 1;
-            used.TutorInstructions(26) = QStringLiteral("page");
+            used.TutorInstructions(26) = u"page"_s;
             State = used;
         }
         ResetState();
@@ -137,8 +139,8 @@ private Q_SLOTS:
     void TheBoundsOfTheRecords()
     {
         ExtraPayPeriodRecord payPeriod;
-        payPeriod.ExtraItems.At(200).ExtraItem = QStringLiteral("the last one");
-        QCOMPARE(payPeriod.ExtraItems(200).ExtraItem, QStringLiteral("the last one"));
+        payPeriod.ExtraItems.At(200).ExtraItem = u"the last one"_s;
+        QCOMPARE(payPeriod.ExtraItems(200).ExtraItem, u"the last one"_s);
         QCOMPARE(payPeriod.ExtraItems(0).ExtraItem, QString());
         QCOMPARE(ErrorOf([&] { payPeriod.ExtraItems(201); }), 9);
         QCOMPARE(ErrorOf([&] { payPeriod.ExtraItems(-1); }), 9);

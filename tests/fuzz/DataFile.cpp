@@ -19,6 +19,8 @@
 #include <cstring>
 #include <unistd.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 // Stands before the C library's own routine: waiting for the disk would take most of the time.
 int fsync(int)
 {
@@ -162,7 +164,7 @@ void RunBudgets()
     State.PayFrequency = Semimonthly;
     State.FirstPayDate = 1;
     State.SecondPayDate = 15;
-    State.BudgetPeriodStart = QStringLiteral("01-01-2004");
+    State.BudgetPeriodStart = u"01-01-2004"_s;
     ErrorOf([] {
         for (int run = 0; run < 4; ++run) {
             Statement page;
@@ -192,8 +194,8 @@ void LoadAsFile(const LoaderUnderTest &loader, const QByteArray &bytes)
     const auto reset = [&] {
         ResetState();
         State.ApplicationPath = desk.Folder();
-        State.StoresDirectory = desk.Folder() + QStringLiteral("\\stores\\");
-        State.CurrentStoreFile = QStringLiteral("untitled.lst");
+        State.StoresDirectory = desk.Folder() + u"\\stores\\"_s;
+        State.CurrentStoreFile = u"untitled.lst"_s;
         desk.Messages.clear();
     };
     const QString name = QString::fromLatin1(loader.File);
@@ -221,11 +223,11 @@ void LoadAsFile(const LoaderUnderTest &loader, const QByteArray &bytes)
 
 void LoadTutor(const QByteArray &bytes)
 {
-    TheRecorder().WriteFile(QStringLiteral("help\\Instruction.txt"), bytes);
+    TheRecorder().WriteFile(u"help\\Instruction.txt"_s, bytes);
     State.ApplicationPath = TheRecorder().Folder();
     const int error = ErrorOf(LoadTutorInstructions);
     Require(error == 0 || error == RuntimeError::SubscriptOutOfRange, "the tutor's pages fail with nothing but 9");
-    TheRecorder().WriteFile(QStringLiteral("help\\Instruction.txt"), ";\r\n");
+    TheRecorder().WriteFile(u"help\\Instruction.txt"_s, ";\r\n");
 }
 
 } // namespace

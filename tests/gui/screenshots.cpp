@@ -78,7 +78,7 @@ bool TakePicture(const QString &view, Household household, bool dark, const QStr
 
 int main(int argc, char **argv)
 {
-    Application application(argc, argv, QStringLiteral("Tallymere"));
+    Application application(argc, argv, u"Tallymere"_s);
     if (argc != 2) {
         qWarning("it is: screenshots FOLDER");
         return 2;

@@ -8,6 +8,8 @@
 #include <QtTest>
 #include <csignal>
 
+using namespace Qt::Literals::StringLiterals;
+
 class TestCalculator : public QObject
 {
     Q_OBJECT
@@ -27,7 +29,7 @@ private:
         script.close();
         QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
-    QString NotePath(const QString &name) const { return m_programs.filePath(name + QStringLiteral(".pid")); }
+    QString NotePath(const QString &name) const { return m_programs.filePath(name + u".pid"_s); }
     /// The process of an installed program that was started; 0 if it was not.
     int ProcessOf(const QString &name) const
     {
@@ -36,7 +38,7 @@ private:
     }
     static bool Runs(int process)
     {
-        QFile state(QStringLiteral("/proc/%1/stat").arg(process));
+        QFile state(u"/proc/%1/stat"_s.arg(process));
         if (process == 0 || !state.open(QIODevice::ReadOnly))
             return false;
         const QByteArray line = state.readAll();
@@ -71,10 +73,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("installed");
         QTest::addColumn<QString>("started");
-        const QStringList usual{QStringLiteral("kcalc"),         QStringLiteral("gnome-calculator"),
-                                QStringLiteral("mate-calc"),     QStringLiteral("galculator"),
-                                QStringLiteral("qalculate-gtk"), QStringLiteral("qalculate-qt"),
-                                QStringLiteral("xcalc")};
+        const QStringList usual{u"kcalc"_s,         u"gnome-calculator"_s, u"mate-calc"_s, u"galculator"_s,
+                                u"qalculate-gtk"_s, u"qalculate-qt"_s,     u"xcalc"_s};
         for (int i = 0; i < usual.size(); ++i)
             QTest::addRow("%s comes before all that follow", qPrintable(usual[i])) << usual.mid(i) << usual[i];
     }
@@ -98,21 +98,21 @@ private Q_SLOTS:
 
     void AProgramThatIsNoCalculatorIsNotStarted()
     {
-        Install(QStringLiteral("calc"));
+        Install(u"calc"_s);
         QVERIFY(!CalculatorInstalled());
     }
 
     void OneThatWasInstalledLaterIsFound()
     {
         QCOMPARE(ErrorOf(StartCalculator), 53);
-        Install(QStringLiteral("xcalc"));
+        Install(u"xcalc"_s);
         QCOMPARE(ErrorOf(StartCalculator), 0);
-        QTRY_VERIFY(Runs(ProcessOf(QStringLiteral("xcalc"))));
+        QTRY_VERIFY(Runs(ProcessOf(u"xcalc"_s)));
     }
 
     void StartingDoesNotHoldUpTheProgram()
     {
-        Install(QStringLiteral("xcalc"));
+        Install(u"xcalc"_s);
         QElapsedTimer time;
         time.start();
         StartCalculator();
@@ -121,7 +121,7 @@ private Q_SLOTS:
 
     void OneThatTheUserClosedIsError5AndCanBeStartedAgain()
     {
-        const QString calculator = QStringLiteral("gnome-calculator"); // raises itself when it is started again
+        const QString calculator = u"gnome-calculator"_s; // raises itself when it is started again
         Install(calculator);
         StartCalculator();
         QTRY_VERIFY(Runs(ProcessOf(calculator)));
@@ -135,15 +135,15 @@ private Q_SLOTS:
 
     void ClosingEndsOnlyTheOneThatWasStartedHere()
     {
-        Install(QStringLiteral("xcalc"));
+        Install(u"xcalc"_s);
         QProcess users;
-        users.start(m_programs.filePath(QStringLiteral("xcalc")), {});
+        users.start(m_programs.filePath(u"xcalc"_s), {});
         QVERIFY(users.waitForStarted());
-        QTRY_COMPARE(ProcessOf(QStringLiteral("xcalc")), int(users.processId()));
-        QFile::remove(NotePath(QStringLiteral("xcalc")));
+        QTRY_COMPARE(ProcessOf(u"xcalc"_s), int(users.processId()));
+        QFile::remove(NotePath(u"xcalc"_s));
         StartCalculator();
-        QTRY_VERIFY(Runs(ProcessOf(QStringLiteral("xcalc"))));
-        const int ours = ProcessOf(QStringLiteral("xcalc"));
+        QTRY_VERIFY(Runs(ProcessOf(u"xcalc"_s)));
+        const int ours = ProcessOf(u"xcalc"_s);
         QVERIFY(ours != int(users.processId()));
         CloseCalculator();
         QTRY_VERIFY(!Runs(ours));
@@ -157,7 +157,7 @@ private Q_SLOTS:
 
     void OneThatCouldNotBeBroughtForwardIsClosedWithItsSuccessor()
     {
-        const QString calculator = QStringLiteral("kcalc");
+        const QString calculator = u"kcalc"_s;
         Install(calculator);
         StartCalculator();
         QTRY_VERIFY(Runs(ProcessOf(calculator)));
@@ -173,9 +173,9 @@ private Q_SLOTS:
 
     void AUsersCalculatorCountsAsNoneOfOurs()
     {
-        Install(QStringLiteral("xcalc"));
+        Install(u"xcalc"_s);
         QProcess users;
-        users.start(m_programs.filePath(QStringLiteral("xcalc")), {});
+        users.start(m_programs.filePath(u"xcalc"_s), {});
         QVERIFY(users.waitForStarted());
         QCOMPARE(ErrorOf(BringCalculatorForward), 5);
         CloseCalculator();

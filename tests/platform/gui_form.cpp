@@ -6,6 +6,8 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int Narrow = 220;
@@ -19,9 +21,8 @@ public:
     {
         auto *layout = new QVBoxLayout(this);
         Text->setWordWrap(true);
-        Text->setText(
-            QStringLiteral("After obtaining information, this feature proceeds to display a plan that pays off "
-                           "your bills in the shortest time possible considering the money you have to work with"));
+        Text->setText(u"After obtaining information, this feature proceeds to display a plan that pays off "
+                      "your bills in the shortest time possible considering the money you have to work with"_s);
         List->setMinimumSize(Narrow / 2, 100);
         layout->addWidget(Text);
         layout->addWidget(List, 1);
@@ -77,7 +78,7 @@ private Q_SLOTS:
         window.Squeeze(Narrow);
         const int height = window.height();
         const int tall = window.Need(Narrow);
-        window.Text->setText(QStringLiteral("short"));
+        window.Text->setText(u"short"_s);
         window.Squeeze(Narrow);
         QVERIFY(window.Need(Narrow) < tall);
         QCOMPARE(window.Text->height(), window.Need(Narrow));

@@ -16,6 +16,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct IconRow {
@@ -122,7 +124,7 @@ int DifferingPixels(const QImage &one, const QImage &other)
 
 QByteArray Drawing(const QString &name)
 {
-    QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
+    QFile file(u":/icons/%1.svg"_s.arg(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -135,7 +137,7 @@ class gui_icons : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setStyle(u"Fusion"_s);
         m_startPalette = QApplication::palette();
     }
 
@@ -144,17 +146,17 @@ private Q_SLOTS:
 
     void EveryFileHasARowHere()
     {
-        QVERIFY(!ThemedIcon(QStringLiteral("help")).isNull());
+        QVERIFY(!ThemedIcon(u"help"_s).isNull());
         QStringList expected;
         for (const IconRow &row : AllIcons())
-            expected << QString::fromLatin1(row.Name) + QStringLiteral(".svg");
+            expected << QString::fromLatin1(row.Name) + u".svg"_s;
         expected.sort();
-        QStringList found = QDir(QStringLiteral(":/icons")).entryList(QDir::Files);
+        QStringList found = QDir(u":/icons"_s).entryList(QDir::Files);
         found.sort();
         QCOMPARE(found, expected);
     }
 
-    void AnUnknownNameIsANullIcon() { QVERIFY(ThemedIcon(QStringLiteral("no-such-icon")).isNull()); }
+    void AnUnknownNameIsANullIcon() { QVERIFY(ThemedIcon(u"no-such-icon"_s).isNull()); }
 
     void DrawingsAreOneFamily_data() { IconRows(); }
     void DrawingsAreOneFamily()
@@ -162,12 +164,11 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QVERIFY(!ThemedIcon(name).isNull());
         const QString drawing = QString::fromUtf8(Drawing(name));
-        QVERIFY(drawing.contains(QStringLiteral("viewBox=\"0 0 24 24\"")));
-        QVERIFY(drawing.contains(QStringLiteral("stroke-linecap=\"round\" stroke-linejoin=\"round\"")));
+        QVERIFY(drawing.contains(u"viewBox=\"0 0 24 24\""_s));
+        QVERIFY(drawing.contains(u"stroke-linecap=\"round\" stroke-linejoin=\"round\""_s));
         // A colour of its own would stay when the desktop turns dark.
-        static const QRegularExpression colour(QStringLiteral("(?:fill|stroke)=\"([^\"]*)\""));
-        const QStringList allowed = {QStringLiteral("none"), QStringLiteral("#000001"), QStringLiteral("#000002"),
-                                     QStringLiteral("#000003")};
+        static const QRegularExpression colour(u"(?:fill|stroke)=\"([^\"]*)\""_s);
+        const QStringList allowed = {u"none"_s, u"#000001"_s, u"#000002"_s, u"#000003"_s};
         int colours = 0;
         for (auto found = colour.globalMatch(drawing); found.hasNext(); ++colours) {
             const QString value = found.next().captured(1);
@@ -215,8 +216,7 @@ private Q_SLOTS:
                     continue;
                 const QImage enlarged = Picture(icon, drawn.width() / 2)
                                             .scaled(drawn.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-                QVERIFY2(Sharpness(drawn) > 1.15 * Sharpness(enlarged),
-                         qPrintable(QStringLiteral("%1 at %2").arg(size).arg(scale)));
+                QVERIFY2(Sharpness(drawn) > 1.15 * Sharpness(enlarged), qPrintable(u"%1 at %2"_s.arg(size).arg(scale)));
             }
         }
     }
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QFETCH(bool, hasAccent);
         const QIcon icon = ThemedIcon(name); // one icon lives through all
         QPalette blueInk = LightPalette();
-        blueInk.setColor(QPalette::ButtonText, QColor(QStringLiteral("#102a6b")));
+        blueInk.setColor(QPalette::ButtonText, QColor(u"#102a6b"_s));
         for (const QPalette &palette : {LightPalette(), blueInk, DarkPalette()}) {
             QApplication::setPalette(palette);
             const QImage image = Picture(icon, 48, 2);
@@ -254,7 +254,7 @@ private Q_SLOTS:
 
     void SelectedIsReadableOnTheHighlight()
     {
-        const QImage selected = Picture(ThemedIcon(QStringLiteral("budget")), 48, 2, QIcon::Selected);
+        const QImage selected = Picture(ThemedIcon(u"budget"_s), 48, 2, QIcon::Selected);
         QVERIFY(Shows(selected, LightPalette().color(QPalette::HighlightedText)));
         QVERIFY(!Shows(selected, AccentColour(LightPalette())));
     }
@@ -268,7 +268,7 @@ private Q_SLOTS:
                 const int differing = DifferingPixels(Picture(ThemedIcon(QString::fromLatin1(one.Name)), 16),
                                                       Picture(ThemedIcon(QString::fromLatin1(other.Name)), 16));
                 QVERIFY2(differing >= 32, // an eighth of the picture
-                         qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
+                         qPrintable(u"%1 and %2 differ in %3 pixels"_s
                                         .arg(QString::fromLatin1(one.Name), QString::fromLatin1(other.Name))
                                         .arg(differing)));
             }
@@ -280,10 +280,10 @@ private Q_SLOTS:
         QImage wide(QSize(96, 48), QImage::Format_ARGB32_Premultiplied);
         wide.fill(Qt::transparent);
         QPainter painter(&wide);
-        ThemedIcon(QStringLiteral("help")).paint(&painter, wide.rect());
+        ThemedIcon(u"help"_s).paint(&painter, wide.rect());
         painter.end();
         wide.convertTo(QImage::Format_ARGB32);
-        QCOMPARE(wide.copy(24, 0, 48, 48), Picture(ThemedIcon(QStringLiteral("help")), 48));
+        QCOMPARE(wide.copy(24, 0, 48, 48), Picture(ThemedIcon(u"help"_s), 48));
         QCOMPARE(Coverage(wide.copy(0, 0, 24, 48)), 0);
     }
 
@@ -345,7 +345,7 @@ private Q_SLOTS:
     void GridColoursByIndex()
     {
         const QColor white(Qt::white);
-        const QColor text(QStringLiteral("#123456"));
+        const QColor text(u"#123456"_s);
         QCOMPARE(QBColor(9, white, text), QColor(0, 0, 255));
         QCOMPARE(QBColor(12, Qt::black, text), QColor(255, 0, 0));
         QCOMPARE(QBColor(0, white, text), text);
@@ -357,8 +357,8 @@ private Q_SLOTS:
     void AnImpossibleContrastGivesTheNearestEnd()
     {
         // No colour reaches 15 to 1 on a middle grey.
-        QCOMPARE(ReadableOn(Qt::red, QColor(QStringLiteral("#aaaaaa")), 15), QColor(Qt::black));
-        QCOMPARE(ReadableOn(Qt::red, QColor(QStringLiteral("#555555")), 15), QColor(Qt::white));
+        QCOMPARE(ReadableOn(Qt::red, QColor(u"#aaaaaa"_s), 15), QColor(Qt::black));
+        QCOMPARE(ReadableOn(Qt::red, QColor(u"#555555"_s), 15), QColor(Qt::white));
     }
 
     void PalettesAreLightAndDark()
@@ -405,8 +405,8 @@ private Q_SLOTS:
         QFrame panel(&window);
         panel.setFrameShape(QFrame::Box);
         auto *layout = new QVBoxLayout(&panel);
-        auto *label = new QLabel(QStringLiteral("Easy Access Toolbar"));
-        auto *button = new QPushButton(QStringLiteral("OK"));
+        auto *label = new QLabel(u"Easy Access Toolbar"_s);
+        auto *button = new QPushButton(u"OK"_s);
         layout->addWidget(label);
         layout->addWidget(button);
         StyleTitlePanel(&panel);

@@ -23,7 +23,7 @@ namespace {
 PrintFont Courier(float size)
 {
     PrintFont font;
-    font.Name = QStringLiteral("Courier");
+    font.Name = u"Courier"_s;
     font.Size = size;
     return font;
 }
@@ -32,7 +32,7 @@ QStringList Numbered(int lines)
 {
     QStringList all;
     for (int line = 1; line <= lines; ++line)
-        all += QStringLiteral("Line %1").arg(line);
+        all += u"Line %1"_s.arg(line);
     return all;
 }
 
@@ -192,8 +192,8 @@ private Q_SLOTS:
         job.Font.Name = font;
         job.Font.Size = 8;
         // Wide and narrow letters before the columns, which are 1, 31 and 61
-        job.Lines = {QStringLiteral("aaa%1bbb%1ccc").arg(QString(27, QLatin1Char(' '))),
-                     QStringLiteral("WWWWWWWWWWWW%1iiiiiiiiiiii%1ddd").arg(QString(18, QLatin1Char(' ')))};
+        job.Lines = {u"aaa%1bbb%1ccc"_s.arg(QString(27, QLatin1Char(' '))),
+                     u"WWWWWWWWWWWW%1iiiiiiiiiiii%1ddd"_s.arg(QString(18, QLatin1Char(' ')))};
         const QString path = m_folder.filePath("fonts.pdf");
         QCOMPARE(WritePdf(job, path), 1);
         const Place first = PlaceOf("aaa", path), second = PlaceOf("bbb", path), third = PlaceOf("ccc", path);
@@ -217,7 +217,7 @@ private Q_SLOTS:
         job.Font.Size = 8;
         const QStringList amounts{"$1,111.11", "($8.00)", "12345", "$1,234,567.89"};
         for (const QString &amount : amounts)
-            job.Lines += QStringLiteral("Label %1").arg(amount, 40);
+            job.Lines += u"Label %1"_s.arg(amount, 40);
         job.Lines += QString(6, QLatin1Char(' ')) + QString(40, QLatin1Char('_'));
         const QString path = m_folder.filePath("amounts.pdf");
         QCOMPARE(WritePdf(job, path), 1);
@@ -332,7 +332,7 @@ private Q_SLOTS:
         PrintJob job;
         job.Font.Name = font;
         job.Font.Size = size;
-        job.Lines = {QString(77, QLatin1Char(' ')) + QStringLiteral("end"), QString(80, QLatin1Char('8'))};
+        job.Lines = {QString(77, QLatin1Char(' ')) + u"end"_s, QString(80, QLatin1Char('8'))};
         const QString path = m_folder.filePath("wide.pdf");
         QCOMPARE(WritePdf(job, path, QPageSize::PageSizeId(paper)), 1);
         const Place end = PlaceOf("end", path), all = PlaceOf(QString(80, QLatin1Char('8')), path);
@@ -437,7 +437,7 @@ private Q_SLOTS:
             QSKIP("this machine has a printer, and a test prints nothing on it");
         TheDesk.Now = [] { return QDateTime(QDate(2004, 1, 5), QTime(9, 30, 1)); };
         const QString folder = m_folder.filePath("house/printed"); // not there yet
-        const PrintJob job{Courier(8), Numbered(200), QStringLiteral("Savings Forecast")};
+        const PrintJob job{Courier(8), Numbered(200), u"Savings Forecast"_s};
         const QString first = PrintToPaperOrPdf(job, folder);
         QCOMPARE(first, folder + "/2004-01-05 Savings Forecast.pdf");
         QCOMPARE(PrintToPaperOrPdf(job, folder), folder + "/2004-01-05 Savings Forecast (2).pdf");
@@ -514,7 +514,7 @@ private Q_SLOTS:
     {
         QFETCH(int, failure);
         TestPrinter printer(TestPrinter::Failure(failure), m_folder.filePath("paper.out"));
-        const PrintJob job{Courier(8), Numbered(200), QStringLiteral("Budget")};
+        const PrintJob job{Courier(8), Numbered(200), u"Budget"_s};
         const QString path = PrintToPaperOrPdf(job, m_folder.filePath("failed"), &printer);
         const QStringList pages = PagesOf(path);
         QVERIFY(pages.size() >= 3);

@@ -19,6 +19,8 @@
 #include <sys/statvfs.h>
 #include <sys/syscall.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// What was synchronised with the disk, and the error with which that fails; 0 for none.
@@ -30,7 +32,7 @@ int SynchronisingFails = 0;
 // Stands before the C library's own routine of this name.
 int fsync(int handle)
 {
-    Synchronised += QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(handle));
+    Synchronised += QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(handle));
     if (SynchronisingFails == 0)
         return int(::syscall(SYS_fsync, handle));
     errno = SynchronisingFails;
@@ -74,12 +76,12 @@ QString ReadAs(InputFile &file, char kind)
         case 'i': text = QString::number(file.InputInteger()); break;
         case 'c': text = QString::number(file.InputCurrency().TenThousandths()); break;
         case 'f': text = PlainText(file.InputSingle()); break;
-        case 'b': text = file.InputBoolean() ? QStringLiteral("true") : QStringLiteral("false"); break;
+        case 'b': text = file.InputBoolean() ? u"true"_s : u"false"_s; break;
         case 's': text = file.InputString(); break;
         case 'l': text = file.InputLine(); break;
         }
     });
-    return error == 0 ? text : QStringLiteral("error %1").arg(error);
+    return error == 0 ? text : u"error %1"_s.arg(error);
 }
 
 QStringList ReadKinds(const QByteArray &bytes, const QByteArray &kinds)
@@ -141,7 +143,7 @@ private Q_SLOTS:
     void EachValueIsWrittenOnALineOfItsOwn()
     {
         OutputFile file;
-        file.Open(Path(QStringLiteral("out.txt")));
+        file.Open(Path(u"out.txt"_s));
         file.Write(qint16(-32768));
         file.Write(qint16(0));
         file.Write(Currency::FromTenThousandths(12500000));
@@ -154,58 +156,58 @@ private Q_SLOTS:
         file.Write(0.091717355F);
         file.Write(true);
         file.Write(false);
-        file.Write(QStringLiteral("untitled.lst"));
+        file.Write(u"untitled.lst"_s);
         file.Write(QString());
-        file.Write(QStringLiteral("Discount, Main St."));
-        file.Write(QStringLiteral("12\" pipe"));
-        file.Write(QStringLiteral("caf\u00E9 \u20AC"));
+        file.Write(u"Discount, Main St."_s);
+        file.Write(u"12\" pipe"_s);
+        file.Write(u"caf\u00E9 \u20AC"_s);
         file.Close();
-        QCOMPARE(Get(QStringLiteral("out.txt")), QByteArray("-32768\r\n"
-                                                            "0\r\n"
-                                                            "1250\r\n"
-                                                            "12.5\r\n"
-                                                            "0\r\n"
-                                                            "-3.75\r\n"
-                                                            "0.0007\r\n"
-                                                            "0.06\r\n"
-                                                            "0.9\r\n"
-                                                            "0.091717355\r\n"
-                                                            "#TRUE#\r\n"
-                                                            "#FALSE#\r\n"
-                                                            "\"untitled.lst\"\r\n"
-                                                            "\"\"\r\n"
-                                                            "\"Discount, Main St.\"\r\n"
-                                                            "\"12\" pipe\"\r\n"
-                                                            "\"caf\xC3\xA9 \xE2\x82\xAC\"\r\n"));
+        QCOMPARE(Get(u"out.txt"_s), QByteArray("-32768\r\n"
+                                               "0\r\n"
+                                               "1250\r\n"
+                                               "12.5\r\n"
+                                               "0\r\n"
+                                               "-3.75\r\n"
+                                               "0.0007\r\n"
+                                               "0.06\r\n"
+                                               "0.9\r\n"
+                                               "0.091717355\r\n"
+                                               "#TRUE#\r\n"
+                                               "#FALSE#\r\n"
+                                               "\"untitled.lst\"\r\n"
+                                               "\"\"\r\n"
+                                               "\"Discount, Main St.\"\r\n"
+                                               "\"12\" pipe\"\r\n"
+                                               "\"caf\xC3\xA9 \xE2\x82\xAC\"\r\n"));
     }
 
     void WritingReplacesTheWholeFile()
     {
-        Put(QStringLiteral("out.txt"), "a long line that was there before\r\n");
+        Put(u"out.txt"_s, "a long line that was there before\r\n");
         OutputFile file;
-        file.Open(Path(QStringLiteral("out.txt")));
+        file.Open(Path(u"out.txt"_s));
         file.Write(qint16(0));
         file.Close();
-        QCOMPARE(Get(QStringLiteral("out.txt")), QByteArray("0\r\n"));
+        QCOMPARE(Get(u"out.txt"_s), QByteArray("0\r\n"));
     }
 
     void WhatWasWrittenInOneLocaleReadsBackInEveryOther()
     {
         OutputFile output;
-        output.Open(Path(QStringLiteral("out.txt")));
+        output.Open(Path(u"out.txt"_s));
         output.Write(Currency::FromTenThousandths(12345678));
         output.Write(0.06F);
-        output.Write(QStringLiteral("Rent, and more"));
+        output.Write(u"Rent, and more"_s);
         output.Write(true);
         output.Write(qint16(-1));
         output.Close();
         for (const QLocale &locale : {QLocale(QLocale::French), QLocale(QLocale::English, QLocale::UnitedStates)}) {
             SetUserLocale(locale);
             InputFile input;
-            input.Open(Path(QStringLiteral("out.txt")));
+            input.Open(Path(u"out.txt"_s));
             QCOMPARE(input.InputCurrency().TenThousandths(), qint64(12345678));
             QCOMPARE(input.InputSingle(), 0.06F);
-            QCOMPARE(input.InputString(), QStringLiteral("Rent, and more"));
+            QCOMPARE(input.InputString(), u"Rent, and more"_s);
             QCOMPARE(input.InputBoolean(), true);
             QCOMPARE(int(input.InputInteger()), -1);
         }
@@ -318,17 +320,15 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QByteArray &bytes, const QStringList &lines) {
             QTest::newRow(name) << bytes << lines;
         };
-        row("each kind of line end", "a\r\nb\nc\rd",
-            {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")});
-        row("empty lines count", "a\r\n\r\nb\n\nc",
-            {QStringLiteral("a"), QString(), QStringLiteral("b"), QString(), QStringLiteral("c")});
-        row("a line end closes the last line", "a\r\n", {QStringLiteral("a")});
-        row("quotes, commas and blanks are text", "  \"a\", b \r\n", {QStringLiteral("  \"a\", b ")});
+        row("each kind of line end", "a\r\nb\nc\rd", {u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+        row("empty lines count", "a\r\n\r\nb\n\nc", {u"a"_s, QString(), u"b"_s, QString(), u"c"_s});
+        row("a line end closes the last line", "a\r\n", {u"a"_s});
+        row("quotes, commas and blanks are text", "  \"a\", b \r\n", {u"  \"a\", b "_s});
         row("a byte-order mark is skipped",
             "\xEF\xBB\xBF"
             "a",
-            {QStringLiteral("a")});
-        row("Windows-1252", "caf\xE9\r\nx", {QStringLiteral("caf\u00E9"), QStringLiteral("x")});
+            {u"a"_s});
+        row("Windows-1252", "caf\xE9\r\nx", {u"caf\u00E9"_s, u"x"_s});
         row("an empty file has no line", "", {});
     }
     void APlainTextFileIsReadLineByLine()
@@ -368,11 +368,11 @@ private Q_SLOTS:
     void ALongValueIsReadInOneGo()
     {
         const QByteArray digits(InputFile::GreatestValue, '7');
-        QCOMPARE(ReadKinds(digits + ",5", "ii"), (QStringList{QStringLiteral("error 6"), QStringLiteral("5")}));
+        QCOMPARE(ReadKinds(digits + ",5", "ii"), (QStringList{u"error 6"_s, u"5"_s}));
         // One sign more is too long, and the next value is read as if nothing had been.
-        QCOMPARE(ReadKinds(digits + "7,5", "ii"), (QStringList{QStringLiteral("error 7"), QStringLiteral("5")}));
-        QCOMPARE(ReadKinds(digits + "7,5", "si"), (QStringList{QStringLiteral("error 7"), QStringLiteral("5")}));
-        QCOMPARE(ReadKinds(QByteArray(1000000, ' ') + "5", "i"), QStringList{QStringLiteral("5")});
+        QCOMPARE(ReadKinds(digits + "7,5", "ii"), (QStringList{u"error 7"_s, u"5"_s}));
+        QCOMPARE(ReadKinds(digits + "7,5", "si"), (QStringList{u"error 7"_s, u"5"_s}));
+        QCOMPARE(ReadKinds(QByteArray(1000000, ' ') + "5", "i"), QStringList{u"5"_s});
         QCOMPARE(ReadKinds('"' + digits, "s").first().size(), InputFile::GreatestValue);
     }
 
@@ -381,18 +381,18 @@ private Q_SLOTS:
     void AMissingFileIsError53AndTheReadBehindItError52()
     {
         InputFile file;
-        QCOMPARE(ErrorOf([&] { file.Open(Path(QStringLiteral("creditor.txt"))); }), 53);
+        QCOMPARE(ErrorOf([&] { file.Open(Path(u"creditor.txt"_s)); }), 53);
         QCOMPARE(ErrorOf([&] { file.InputInteger(); }), 52);
         QCOMPARE(ErrorOf([&] { file.InputLine(); }), 52);
     }
 
     void AFailedOpeningLeavesNothingOfTheFileBefore()
     {
-        Put(QStringLiteral("a.txt"), "1\r\n2\r\n");
+        Put(u"a.txt"_s, "1\r\n2\r\n");
         InputFile file;
-        file.Open(Path(QStringLiteral("a.txt")));
+        file.Open(Path(u"a.txt"_s));
         QCOMPARE(int(file.InputInteger()), 1);
-        QCOMPARE(ErrorOf([&] { file.Open(Path(QStringLiteral("b.txt"))); }), 53);
+        QCOMPARE(ErrorOf([&] { file.Open(Path(u"b.txt"_s)); }), 53);
         QCOMPARE(ErrorOf([&] { file.InputInteger(); }), 52);
     }
 
@@ -409,20 +409,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<int>("reading");
         QTest::addColumn<int>("writing");
-        QTest::newRow("a missing folder") << QStringLiteral("nowhere/creditor.txt") << 76 << 76;
-        QTest::newRow("a folder") << QStringLiteral("stores") << 75 << 75;
-        QTest::newRow("a folder with its slash") << QStringLiteral("stores\\") << 75 << 75;
-        QTest::newRow("a file in the place of a folder") << QStringLiteral("plain.txt/creditor.txt") << 76 << 76;
-        QTest::newRow("a pipe is no data file") << QStringLiteral("pipe") << 75 << 75;
+        QTest::newRow("a missing folder") << u"nowhere/creditor.txt"_s << 76 << 76;
+        QTest::newRow("a folder") << u"stores"_s << 75 << 75;
+        QTest::newRow("a folder with its slash") << u"stores\\"_s << 75 << 75;
+        QTest::newRow("a file in the place of a folder") << u"plain.txt/creditor.txt"_s << 76 << 76;
+        QTest::newRow("a pipe is no data file") << u"pipe"_s << 75 << 75;
     }
     void OpeningTellsWhatIsWrong()
     {
         QFETCH(QString, name);
         QFETCH(int, reading);
         QFETCH(int, writing);
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("stores")));
-        Put(QStringLiteral("plain.txt"), "0\r\n");
-        QCOMPARE(::mkfifo(QFile::encodeName(Path(QStringLiteral("pipe"))).constData(), 0600), 0);
+        QVERIFY(QDir(m_folder.path()).mkdir(u"stores"_s));
+        Put(u"plain.txt"_s, "0\r\n");
+        QCOMPARE(::mkfifo(QFile::encodeName(Path(u"pipe"_s)).constData(), 0600), 0);
         InputFile input;
         QCOMPARE(ErrorOf([&] { input.Open(Path(name)); }), reading);
         OutputFile output;
@@ -432,15 +432,15 @@ private Q_SLOTS:
     void ADeviceThatNeverEndsIsNoDataFile()
     {
         InputFile file;
-        QCOMPARE(ErrorOf([&] { file.Open(QStringLiteral("/dev/zero")); }), 75);
+        QCOMPARE(ErrorOf([&] { file.Open(u"/dev/zero"_s); }), 75);
     }
 
     void AFileBeyondAllBoundsIsError7AndTakesNoMemory()
     {
-        Put(QStringLiteral("huge.txt"), "1\r\n");
-        QVERIFY(QFile::resize(Path(QStringLiteral("huge.txt")), InputFile::GreatestSize + 1)); // sparse: takes no room
+        Put(u"huge.txt"_s, "1\r\n");
+        QVERIFY(QFile::resize(Path(u"huge.txt"_s), InputFile::GreatestSize + 1)); // sparse: takes no room
         InputFile file;
-        QCOMPARE(ErrorOf([&] { file.Open(Path(QStringLiteral("huge.txt"))); }), 7);
+        QCOMPARE(ErrorOf([&] { file.Open(Path(u"huge.txt"_s)); }), 7);
         QCOMPARE(ErrorOf([&] { file.InputInteger(); }), 52);
     }
 
@@ -460,13 +460,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("onDisk");
         QTest::addColumn<QString>("asked");
-        QTest::newRow("as it is spelt") << QStringLiteral("creditor.txt") << QStringLiteral("creditor.txt");
-        QTest::newRow("capitals on the disk") << QStringLiteral("CREDITOR.TXT") << QStringLiteral("creditor.txt");
-        QTest::newRow("capitals in the question") << QStringLiteral("creditor.txt") << QStringLiteral("Creditor.TXT");
-        QTest::newRow("a backslash parts folders")
-            << QStringLiteral("stores/my list.lst") << QStringLiteral("stores\\my list.lst");
+        QTest::newRow("as it is spelt") << u"creditor.txt"_s << u"creditor.txt"_s;
+        QTest::newRow("capitals on the disk") << u"CREDITOR.TXT"_s << u"creditor.txt"_s;
+        QTest::newRow("capitals in the question") << u"creditor.txt"_s << u"Creditor.TXT"_s;
+        QTest::newRow("a backslash parts folders") << u"stores/my list.lst"_s << u"stores\\my list.lst"_s;
         QTest::newRow("the folder's case does not matter, either")
-            << QStringLiteral("STORES/MY LIST.LST") << QStringLiteral("stores\\my list.lst");
+            << u"STORES/MY LIST.LST"_s << u"stores\\my list.lst"_s;
     }
     void AFileIsFoundWhateverTheCaseOfItsName()
     {
@@ -487,72 +486,71 @@ private Q_SLOTS:
 
     void AWriterKeepsToItsSpellingAndFindsTheFolder()
     {
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("STORES")));
-        Put(QStringLiteral("STORES/Weekly.lst"), "5\r\n");
+        QVERIFY(QDir(m_folder.path()).mkdir(u"STORES"_s));
+        Put(u"STORES/Weekly.lst"_s, "5\r\n");
         OutputFile output;
-        output.Open(Path(QStringLiteral("stores\\weekly.lst")));
+        output.Open(Path(u"stores\\weekly.lst"_s));
         output.Write(qint16(6));
         output.Close();
-        QCOMPARE(Get(QStringLiteral("STORES/weekly.lst")), QByteArray("6\r\n"));
-        QCOMPARE(Get(QStringLiteral("STORES/Weekly.lst")), QByteArray("5\r\n"));
+        QCOMPARE(Get(u"STORES/weekly.lst"_s), QByteArray("6\r\n"));
+        QCOMPARE(Get(u"STORES/Weekly.lst"_s), QByteArray("5\r\n"));
     }
 
     void TheSpellingOfTheQuestionComesFirst()
     {
-        Put(QStringLiteral("LIST.LST"), "1");
-        Put(QStringLiteral("list.lst"), "2");
-        QCOMPARE(ExistingPath(Path(QStringLiteral("list.lst"))), Path(QStringLiteral("list.lst")));
-        QCOMPARE(ExistingPath(Path(QStringLiteral("LIST.LST"))), Path(QStringLiteral("LIST.LST")));
+        Put(u"LIST.LST"_s, "1");
+        Put(u"list.lst"_s, "2");
+        QCOMPARE(ExistingPath(Path(u"list.lst"_s)), Path(u"list.lst"_s));
+        QCOMPARE(ExistingPath(Path(u"LIST.LST"_s)), Path(u"LIST.LST"_s));
     }
 
     void ANewFileKeepsTheGivenSpellingInTheFolderThatIsThere()
     {
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("Stores")));
+        QVERIFY(QDir(m_folder.path()).mkdir(u"Stores"_s));
         OutputFile file;
-        file.Open(Path(QStringLiteral("stores\\My List.lst")));
+        file.Open(Path(u"stores\\My List.lst"_s));
         file.Write(qint16(0));
         file.Close();
-        QCOMPARE(Get(QStringLiteral("Stores/My List.lst")), QByteArray("0\r\n"));
-        QCOMPARE(QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-                 QStringList{QStringLiteral("Stores")});
+        QCOMPARE(Get(u"Stores/My List.lst"_s), QByteArray("0\r\n"));
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"Stores"_s});
     }
 
     void ANameWithoutAFolderIsLookedForInThePresentOne()
     {
-        Put(QStringLiteral("CREDITOR.TXT"), "5");
+        Put(u"CREDITOR.TXT"_s, "5");
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(m_folder.path()));
-        const bool found = FileExists(QStringLiteral("creditor.txt"));
-        const QString path = ExistingPath(QStringLiteral("creditor.txt"));
+        const bool found = FileExists(u"creditor.txt"_s);
+        const QString path = ExistingPath(u"creditor.txt"_s);
         QVERIFY(QDir::setCurrent(before));
         QVERIFY(found);
-        QCOMPARE(path, QStringLiteral("CREDITOR.TXT"));
+        QCOMPARE(path, u"CREDITOR.TXT"_s);
     }
 
     void AFolderIsNoFile()
     {
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("stores")));
-        QVERIFY(!FileExists(Path(QStringLiteral("stores"))));
-        QVERIFY(!FileExists(Path(QStringLiteral("nothing.txt"))));
+        QVERIFY(QDir(m_folder.path()).mkdir(u"stores"_s));
+        QVERIFY(!FileExists(Path(u"stores"_s)));
+        QVERIFY(!FileExists(Path(u"nothing.txt"_s)));
     }
 
     // ---- Deleting
 
     void ADeletionTellsWhatIsMissing()
     {
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("creditor.txt"))); }), 53);
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("nowhere/creditor.txt"))); }), 76);
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"creditor.txt"_s)); }), 53);
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"nowhere/creditor.txt"_s)); }), 76);
     }
 
     void AFileWithoutAWriteBitStaysForEveryUser()
     {
         // The folder would allow the deletion, and this may well run as the superuser.
-        Put(QStringLiteral("creditor.txt"), "5\r\n");
-        QCOMPARE(::chmod(QFile::encodeName(Path(QStringLiteral("creditor.txt"))).constData(), 0444), 0);
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("creditor.txt"))); }), 75);
+        Put(u"creditor.txt"_s, "5\r\n");
+        QCOMPARE(::chmod(QFile::encodeName(Path(u"creditor.txt"_s)).constData(), 0444), 0);
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"creditor.txt"_s)); }), 75);
         OutputFile file;
-        QCOMPARE(ErrorOf([&] { file.Open(Path(QStringLiteral("creditor.txt"))); }), 75);
-        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("5\r\n"));
+        QCOMPARE(ErrorOf([&] { file.Open(Path(u"creditor.txt"_s)); }), 75);
+        QCOMPARE(Get(u"creditor.txt"_s), QByteArray("5\r\n"));
     }
 
     void AFileThatThisUserMayNotWriteStays_data()
@@ -569,8 +567,8 @@ private Q_SLOTS:
         QFETCH(uint, mode);
         if (::geteuid() != 0)
             QSKIP("only root can lay down the files of two users");
-        Put(QStringLiteral("creditor.txt"), "5\r\n");
-        const QByteArray path = QFile::encodeName(Path(QStringLiteral("creditor.txt")));
+        Put(u"creditor.txt"_s, "5\r\n");
+        const QByteArray path = QFile::encodeName(Path(u"creditor.txt"_s));
         QCOMPARE(::chown(path.constData(), owner, owner), 0);
         QCOMPARE(::chmod(path.constData(), mode), 0);
         QCOMPARE(::chmod(QFile::encodeName(m_folder.path()).constData(), 0777), 0);
@@ -590,18 +588,18 @@ private Q_SLOTS:
                      return ErrorOf([&] { file.Replace(QFile::decodeName(path), OldFile::MustExist); });
                  }),
                  75);
-        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("5\r\n"));
+        QCOMPARE(Get(u"creditor.txt"_s), QByteArray("5\r\n"));
         // It was no matter of the folder, which would have let him delete it.
         QCOMPARE(asNobody([&] { return ::unlink(path.constData()) == 0 ? 0 : 1; }), 0);
     }
 
     void OnlyAPlainFileIsDeleted()
     {
-        const QByteArray pipe = QFile::encodeName(Path(QStringLiteral("pipe")));
+        const QByteArray pipe = QFile::encodeName(Path(u"pipe"_s));
         QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
-        QVERIFY(QFile::link(Path(QStringLiteral("pipe")), Path(QStringLiteral("link"))));
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("pipe"))); }), 75);
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("link"))); }), 75);
+        QVERIFY(QFile::link(Path(u"pipe"_s), Path(u"link"_s)));
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"pipe"_s)); }), 75);
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"link"_s)); }), 75);
         QCOMPARE(::access(pipe.constData(), F_OK), 0);
     }
 
@@ -609,8 +607,8 @@ private Q_SLOTS:
 
     void TheNewFileTakesTheOldOnesPermissions()
     {
-        const QString path = Path(QStringLiteral("creditor.txt"));
-        Put(QStringLiteral("creditor.txt"), "5\r\n");
+        const QString path = Path(u"creditor.txt"_s);
+        Put(u"creditor.txt"_s, "5\r\n");
         const QFile::Permissions hidden = QFile::ReadOwner | QFile::WriteOwner;
         const QFile::Permissions alike =
             QFile::ReadUser | QFile::WriteUser; // the toolkit tells the owner's as the user's
@@ -619,13 +617,13 @@ private Q_SLOTS:
         file.Collect();
         file.Write(qint16(6));
         file.Replace(path, OldFile::MustExist);
-        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("6\r\n"));
+        QCOMPARE(Get(u"creditor.txt"_s), QByteArray("6\r\n"));
         QCOMPARE(QFile::permissions(path) & ~alike, hidden);
         // A file of another name is a new one.
         file.Collect();
         file.Write(qint16(7));
-        file.Replace(Path(QStringLiteral("regulars.txt")), OldFile::MayBeMissing);
-        QVERIFY(QFile::permissions(Path(QStringLiteral("regulars.txt"))) & QFile::ReadGroup);
+        file.Replace(Path(u"regulars.txt"_s), OldFile::MayBeMissing);
+        QVERIFY(QFile::permissions(Path(u"regulars.txt"_s)) & QFile::ReadGroup);
     }
 
     // ---- Symbolic links
@@ -633,47 +631,47 @@ private Q_SLOTS:
     void ALinkIsFollowedAndStays_data()
     {
         QTest::addColumn<QString>("link");
-        QTest::newRow("as it is asked for") << QStringLiteral("creditor.txt");
-        QTest::newRow("in capitals") << QStringLiteral("CREDITOR.TXT");
+        QTest::newRow("as it is asked for") << u"creditor.txt"_s;
+        QTest::newRow("in capitals") << u"CREDITOR.TXT"_s;
     }
     void ALinkIsFollowedAndStays()
     {
         QFETCH(QString, link);
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("cloud")));
-        Put(QStringLiteral("cloud/lists.txt"), "5\r\n");
-        QVERIFY(QFile::link(Path(QStringLiteral("cloud/lists.txt")), Path(link)));
+        QVERIFY(QDir(m_folder.path()).mkdir(u"cloud"_s));
+        Put(u"cloud/lists.txt"_s, "5\r\n");
+        QVERIFY(QFile::link(Path(u"cloud/lists.txt"_s), Path(link)));
         OutputFile file;
         file.Collect();
         file.Write(qint16(6));
-        file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MustExist);
-        QCOMPARE(Get(QStringLiteral("cloud/lists.txt")), QByteArray("6\r\n"));
-        QCOMPARE(QFile::symLinkTarget(Path(link)), Path(QStringLiteral("cloud/lists.txt")));
+        file.Replace(Path(u"creditor.txt"_s), OldFile::MustExist);
+        QCOMPARE(Get(u"cloud/lists.txt"_s), QByteArray("6\r\n"));
+        QCOMPARE(QFile::symLinkTarget(Path(link)), Path(u"cloud/lists.txt"_s));
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::System), QStringList{link});
-        QVERIFY(Synchronised.contains(Path(QStringLiteral("cloud")))); // the folder that has a new file
-        DeleteFile(Path(QStringLiteral("creditor.txt")));
-        QVERIFY(!QFile::exists(Path(QStringLiteral("cloud/lists.txt"))));
+        QVERIFY(Synchronised.contains(Path(u"cloud"_s))); // the folder that has a new file
+        DeleteFile(Path(u"creditor.txt"_s));
+        QVERIFY(!QFile::exists(Path(u"cloud/lists.txt"_s)));
         QVERIFY(QFileInfo(Path(link)).isSymLink());
     }
 
     void ALinkToNothingIsAMissingFile()
     {
-        QVERIFY(QFile::link(Path(QStringLiteral("elsewhere.txt")), Path(QStringLiteral("creditor.txt"))));
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("creditor.txt"))); }), 53);
+        QVERIFY(QFile::link(Path(u"elsewhere.txt"_s), Path(u"creditor.txt"_s)));
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"creditor.txt"_s)); }), 53);
         OutputFile file;
         file.Collect();
         file.Write(qint16(6));
-        QCOMPARE(ErrorOf([&] { file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MustExist); }), 53);
-        QVERIFY(!QFile::exists(Path(QStringLiteral("elsewhere.txt"))));
-        file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MayBeMissing);
-        QCOMPARE(Get(QStringLiteral("elsewhere.txt")), QByteArray("6\r\n"));
-        QVERIFY(QFileInfo(Path(QStringLiteral("creditor.txt"))).isSymLink());
+        QCOMPARE(ErrorOf([&] { file.Replace(Path(u"creditor.txt"_s), OldFile::MustExist); }), 53);
+        QVERIFY(!QFile::exists(Path(u"elsewhere.txt"_s)));
+        file.Replace(Path(u"creditor.txt"_s), OldFile::MayBeMissing);
+        QCOMPARE(Get(u"elsewhere.txt"_s), QByteArray("6\r\n"));
+        QVERIFY(QFileInfo(Path(u"creditor.txt"_s)).isSymLink());
     }
 
     void AFolderIsNotDeleted()
     {
-        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("stores")));
-        QCOMPARE(ErrorOf([&] { DeleteFile(Path(QStringLiteral("stores"))); }), 75);
-        QVERIFY(QDir(Path(QStringLiteral("stores"))).exists());
+        QVERIFY(QDir(m_folder.path()).mkdir(u"stores"_s));
+        QCOMPARE(ErrorOf([&] { DeleteFile(Path(u"stores"_s)); }), 75);
+        QVERIFY(QDir(Path(u"stores"_s)).exists());
     }
 
     // ---- Writing, and its errors
@@ -688,7 +686,7 @@ private Q_SLOTS:
     void AFullDiskIsError61AtTheLatestWhenTheFileIsClosed()
     {
         OutputFile file;
-        file.Open(QStringLiteral("/dev/full"));
+        file.Open(u"/dev/full"_s);
         file.Write(qint16(1)); // still waits in memory
         QCOMPARE(ErrorOf([&] { file.Close(); }), 61);
     }
@@ -723,18 +721,17 @@ private Q_SLOTS:
                 QFile file(Path(name));
                 return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
             };
-            if (!put(QStringLiteral("creditor.txt"), old) ||
-                !put(QStringLiteral("filler"), QByteArray(RoomOf(folder) - 8 * 1024, 'f')) ||
+            if (!put(u"creditor.txt"_s, old) || !put(u"filler"_s, QByteArray(RoomOf(folder) - 8 * 1024, 'f')) ||
                 RoomOf(folder) != 8 * 1024)
                 return notAsExpected;
-            if (hasTwoNames && ::link(QFile::encodeName(Path(QStringLiteral("creditor.txt"))).constData(),
-                                      QFile::encodeName(Path(QStringLiteral("second"))).constData()) != 0)
+            if (hasTwoNames && ::link(QFile::encodeName(Path(u"creditor.txt"_s)).constData(),
+                                      QFile::encodeName(Path(u"second"_s)).constData()) != 0)
                 return notAsExpected;
             OutputFile file;
             file.Collect();
             file.Write(QString(size - 4, QLatin1Char('n'))); // and two quotes and the line's end
-            const int number = ErrorOf([&] { file.Replace(Path(QStringLiteral("creditor.txt")), OldFile::MustExist); });
-            const QByteArray left = Get(QStringLiteral("creditor.txt"));
+            const int number = ErrorOf([&] { file.Replace(Path(u"creditor.txt"_s), OldFile::MustExist); });
+            const QByteArray left = Get(u"creditor.txt"_s);
             return number == 0 ? (left.size() == size ? 0 : notAsExpected) : left == old ? number : notAsExpected;
         });
         if (told == noDisk)
@@ -745,11 +742,11 @@ private Q_SLOTS:
     void AFileIsOnTheDiskWhenItIsClosed()
     {
         OutputFile file;
-        file.Open(Path(QStringLiteral("creditor.txt")));
+        file.Open(Path(u"creditor.txt"_s));
         file.Write(qint16(6));
         QCOMPARE(Synchronised, QStringList());
         file.Close();
-        QCOMPARE(Synchronised, (QStringList{Path(QStringLiteral("creditor.txt")), m_folder.path()}));
+        QCOMPARE(Synchronised, (QStringList{Path(u"creditor.txt"_s), m_folder.path()}));
     }
 
     void WhatDoesNotReachTheDiskIsAnError_data()
@@ -765,7 +762,7 @@ private Q_SLOTS:
     {
         QFETCH(int, systemError);
         OutputFile file;
-        file.Open(Path(QStringLiteral("creditor.txt")));
+        file.Open(Path(u"creditor.txt"_s));
         file.Write(qint16(6));
         SynchronisingFails = systemError;
         QTEST(ErrorOf([&] { file.Close(); }), "error");
@@ -774,7 +771,7 @@ private Q_SLOTS:
     void AFullDiskIsNoticedDuringALongFile()
     {
         OutputFile file;
-        file.Open(QStringLiteral("/dev/full"));
+        file.Open(u"/dev/full"_s);
         const QString text(1000, QLatin1Char('x'));
         int error = 0;
         int writes = 0;
@@ -790,7 +787,7 @@ private Q_SLOTS:
         QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
         auto *const oldHandler = ::signal(SIGXFSZ, SIG_IGN);
         OutputFile file;
-        file.Open(Path(QStringLiteral("out.txt")));
+        file.Open(Path(u"out.txt"_s));
         const struct rlimit small = {4096, before.rlim_max};
         QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
         const int error = ErrorOf([&] {
@@ -805,19 +802,19 @@ private Q_SLOTS:
     void AWriterThatFailedBlocksNothing()
     {
         OutputFile failed;
-        failed.Open(Path(QStringLiteral("creditor.txt")));
+        failed.Open(Path(u"creditor.txt"_s));
         failed.Write(qint16(7)); // and its handler leaves the routine, the file stays open
-        DeleteFile(Path(QStringLiteral("creditor.txt")));
+        DeleteFile(Path(u"creditor.txt"_s));
         OutputFile next;
-        next.Open(Path(QStringLiteral("creditor.txt")));
+        next.Open(Path(u"creditor.txt"_s));
         next.Write(qint16(8));
         next.Close();
-        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("8\r\n"));
-        failed.Open(Path(QStringLiteral("other.txt"))); // the same number can be used again
+        QCOMPARE(Get(u"creditor.txt"_s), QByteArray("8\r\n"));
+        failed.Open(Path(u"other.txt"_s)); // the same number can be used again
         failed.Write(qint16(9));
         failed.Close();
-        QCOMPARE(Get(QStringLiteral("other.txt")), QByteArray("9\r\n"));
-        QCOMPARE(Get(QStringLiteral("creditor.txt")), QByteArray("8\r\n"));
+        QCOMPARE(Get(u"other.txt"_s), QByteArray("9\r\n"));
+        QCOMPARE(Get(u"creditor.txt"_s), QByteArray("8\r\n"));
     }
 
     // ---- What errors are called

@@ -7,6 +7,8 @@
 
 #include <QtTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 Q_DECLARE_METATYPE(DateFormat)
 
 class TestDates : public QObject
@@ -81,26 +83,26 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         const auto row = [](const char *name, const QString &text) { QTest::newRow(name) << text; };
         row("empty", QString());
-        row("blank", QStringLiteral("  "));
-        row("a bare number", QStringLiteral("5"));
-        row("a bare number of eight digits", QStringLiteral("05241997"));
-        row("a decimal number", QStringLiteral("5.24"));
-        row("a negative number", QStringLiteral("-5"));
-        row("an impossible day", QStringLiteral("2/30/2004"));
-        row("no leap day", QStringLiteral("2/29/2003"));
-        row("day 0", QStringLiteral("5/0/1997"));
-        row("month 0", QStringLiteral("0/5/1997"));
-        row("neither can be a month", QStringLiteral("13/13/1997"));
-        row("a year before the first", QStringLiteral("1/1/099"));
-        row("a year of five digits", QStringLiteral("1/1/10000"));
-        row("other separators in one date", QStringLiteral("5/24-1997"));
-        row("a foreign month", QStringLiteral("24 Mai 1997"));
-        row("a name of two letters", QStringLiteral("Ma 24, 1997"));
-        row("a time of day alone", QStringLiteral("10:30"));
-        row("an impossible time of day", QStringLiteral("5/24/1997 25:00"));
-        row("text behind", QStringLiteral("5/24/1997 x"));
-        row("text", QStringLiteral("abc"));
-        row("a month alone", QStringLiteral("May"));
+        row("blank", u"  "_s);
+        row("a bare number", u"5"_s);
+        row("a bare number of eight digits", u"05241997"_s);
+        row("a decimal number", u"5.24"_s);
+        row("a negative number", u"-5"_s);
+        row("an impossible day", u"2/30/2004"_s);
+        row("no leap day", u"2/29/2003"_s);
+        row("day 0", u"5/0/1997"_s);
+        row("month 0", u"0/5/1997"_s);
+        row("neither can be a month", u"13/13/1997"_s);
+        row("a year before the first", u"1/1/099"_s);
+        row("a year of five digits", u"1/1/10000"_s);
+        row("other separators in one date", u"5/24-1997"_s);
+        row("a foreign month", u"24 Mai 1997"_s);
+        row("a name of two letters", u"Ma 24, 1997"_s);
+        row("a time of day alone", u"10:30"_s);
+        row("an impossible time of day", u"5/24/1997 25:00"_s);
+        row("text behind", u"5/24/1997 x"_s);
+        row("text", u"abc"_s);
+        row("a month alone", u"May"_s);
         row("endless text", QString(1000000, QLatin1Char('1')));
         row("endless slashes", QString(1000000, QLatin1Char('/')));
     }
@@ -116,11 +118,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<DateFormat>("format");
         QTest::addColumn<QString>("text");
-        QTest::newRow("mmmm d, yyyy") << DateFormat::Long << QStringLiteral("May 4, 1997");
-        QTest::newRow("mm-dd-yyyy") << DateFormat::Dashes << QStringLiteral("05-04-1997");
-        QTest::newRow("m/d/yyyy") << DateFormat::Short << QStringLiteral("5/4/1997");
-        QTest::newRow("m/d/yy") << DateFormat::ShortYear << QStringLiteral("5/4/97");
-        QTest::newRow("dddd, two blanks, mmmm d, yyyy") << DateFormat::Weekday << QStringLiteral("Sunday  May 4, 1997");
+        QTest::newRow("mmmm d, yyyy") << DateFormat::Long << u"May 4, 1997"_s;
+        QTest::newRow("mm-dd-yyyy") << DateFormat::Dashes << u"05-04-1997"_s;
+        QTest::newRow("m/d/yyyy") << DateFormat::Short << u"5/4/1997"_s;
+        QTest::newRow("m/d/yy") << DateFormat::ShortYear << u"5/4/97"_s;
+        QTest::newRow("dddd, two blanks, mmmm d, yyyy") << DateFormat::Weekday << u"Sunday  May 4, 1997"_s;
     }
     void ADateIsWrittenInEachForm()
     {
@@ -128,20 +130,17 @@ private Q_SLOTS:
         QFETCH(QString, text);
         SetUserLocale(QLocale(QLocale::German, QLocale::Germany)); // English names always
         QCOMPARE(Format(QDate(1997, 5, 4), format), text);
-        QCOMPARE(Format(QStringLiteral("May 4 1997"), format), text);
+        QCOMPARE(Format(u"May 4 1997"_s, format), text);
         if (format != DateFormat::Weekday) // what is written can be read, but for the name of the day
             QCOMPARE(ToDate(text), QDate(1997, 5, 4));
     }
 
-    void ATwoDigitYearKeepsItsZero()
-    {
-        QCOMPARE(Format(QDate(2005, 12, 31), DateFormat::ShortYear), QStringLiteral("12/31/05"));
-    }
+    void ATwoDigitYearKeepsItsZero() { QCOMPARE(Format(QDate(2005, 12, 31), DateFormat::ShortYear), u"12/31/05"_s); }
 
     void FormatLongDateSpellsTheMonth()
     {
-        QCOMPARE(FormatLongDate(QStringLiteral("1/5/2004")), QStringLiteral("January 5, 2004"));
-        QCOMPARE(FormatLongDate(QStringLiteral("soon")), QStringLiteral("soon"));
+        QCOMPARE(FormatLongDate(u"1/5/2004"_s), u"January 5, 2004"_s);
+        QCOMPARE(FormatLongDate(u"soon"_s), u"soon"_s);
         QCOMPARE(FormatLongDate(QString()), QString());
     }
 
@@ -149,10 +148,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QTime>("time");
         QTest::addColumn<QString>("text");
-        QTest::newRow("morning") << QTime(9, 5, 7) << QStringLiteral("09:05:07 AM");
-        QTest::newRow("afternoon") << QTime(13, 30, 0) << QStringLiteral("01:30:00 PM");
-        QTest::newRow("midnight") << QTime(0, 0, 0) << QStringLiteral("12:00:00 AM");
-        QTest::newRow("noon") << QTime(12, 0, 59) << QStringLiteral("12:00:59 PM");
+        QTest::newRow("morning") << QTime(9, 5, 7) << u"09:05:07 AM"_s;
+        QTest::newRow("afternoon") << QTime(13, 30, 0) << u"01:30:00 PM"_s;
+        QTest::newRow("midnight") << QTime(0, 0, 0) << u"12:00:00 AM"_s;
+        QTest::newRow("noon") << QTime(12, 0, 59) << u"12:00:59 PM"_s;
     }
     void TheClockHasTwelveHours()
     {
@@ -226,19 +225,19 @@ private Q_SLOTS:
 
     void ADateTextKnowsItsDayAndItsText()
     {
-        const DateText text(QStringLiteral("5/24/1997"));
+        const DateText text(u"5/24/1997"_s);
         QCOMPARE(text.JulianDay(), QDate(1997, 5, 24).toJulianDay());
         QCOMPARE(text.JulianDay(), QDate(1997, 5, 24).toJulianDay());
-        QCOMPARE(text.Text(), QStringLiteral("5/24/1997"));
-        QVERIFY(!(text == DateText(QStringLiteral("05-24-1997")))); // equal as dates, not as texts
+        QCOMPARE(text.Text(), u"5/24/1997"_s);
+        QVERIFY(!(text == DateText(u"05-24-1997"_s))); // equal as dates, not as texts
         const DateText computed(QDate(1997, 5, 4));
-        QCOMPARE(computed.Text(), QStringLiteral("5/4/1997"));
+        QCOMPARE(computed.Text(), u"5/4/1997"_s);
         QVERIFY(!computed.IsEmpty());
         const DateText invalid{QDate()};
         QVERIFY(invalid.IsEmpty());
         QCOMPARE(invalid.Text(), QString());
         QCOMPARE(ErrorOf([&] { Q_UNUSED(invalid.Date()) }), 13);
-        const DateText none(QStringLiteral("soon"));
+        const DateText none(u"soon"_s);
         QCOMPARE(ErrorOf([&] { none.JulianDay(); }), 13);
         QCOMPARE(ErrorOf([&] { none.JulianDay(); }), 13);
     }

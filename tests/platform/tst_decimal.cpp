@@ -6,6 +6,8 @@
 #include <QtTest>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 Decimal Of(const char *digits, int point)
@@ -26,18 +28,18 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("digits");
         QTest::addColumn<int>("point");
         QTest::addColumn<QString>("text");
-        QTest::newRow("within") << QByteArray("125") << 1 << QStringLiteral("1.25");
-        QTest::newRow("behind") << QByteArray("125") << 5 << QStringLiteral("12500");
-        QTest::newRow("at the end") << QByteArray("125") << 3 << QStringLiteral("125");
-        QTest::newRow("ahead") << QByteArray("125") << 0 << QStringLiteral("0.125");
-        QTest::newRow("far ahead") << QByteArray("125") << -2 << QStringLiteral("0.00125");
-        QTest::newRow("negative") << QByteArray("-125") << 1 << QStringLiteral("-1.25");
-        QTest::newRow("zeros ahead go") << QByteArray("00125") << 3 << QStringLiteral("1.25");
-        QTest::newRow("zeros behind go") << QByteArray("12500") << 1 << QStringLiteral("1.25");
-        QTest::newRow("zeros within stay") << QByteArray("1002") << 2 << QStringLiteral("10.02");
-        QTest::newRow("nothing but zeros") << QByteArray("0000") << 2 << QStringLiteral("0");
-        QTest::newRow("a negative zero has no sign") << QByteArray("-0") << 1 << QStringLiteral("0");
-        QTest::newRow("no digits") << QByteArray() << 0 << QStringLiteral("0");
+        QTest::newRow("within") << QByteArray("125") << 1 << u"1.25"_s;
+        QTest::newRow("behind") << QByteArray("125") << 5 << u"12500"_s;
+        QTest::newRow("at the end") << QByteArray("125") << 3 << u"125"_s;
+        QTest::newRow("ahead") << QByteArray("125") << 0 << u"0.125"_s;
+        QTest::newRow("far ahead") << QByteArray("125") << -2 << u"0.00125"_s;
+        QTest::newRow("negative") << QByteArray("-125") << 1 << u"-1.25"_s;
+        QTest::newRow("zeros ahead go") << QByteArray("00125") << 3 << u"1.25"_s;
+        QTest::newRow("zeros behind go") << QByteArray("12500") << 1 << u"1.25"_s;
+        QTest::newRow("zeros within stay") << QByteArray("1002") << 2 << u"10.02"_s;
+        QTest::newRow("nothing but zeros") << QByteArray("0000") << 2 << u"0"_s;
+        QTest::newRow("a negative zero has no sign") << QByteArray("-0") << 1 << u"0"_s;
+        QTest::newRow("no digits") << QByteArray() << 0 << u"0"_s;
     }
     void DigitsAndPointInPlainNotation()
     {
@@ -48,10 +50,10 @@ private Q_SLOTS:
 
     void ACountHasItsDecimals()
     {
-        QCOMPARE(Decimal(12345000, 4).PlainText(), QStringLiteral("1234.5"));
-        QCOMPARE(Decimal(-7, 4).PlainText(), QStringLiteral("-0.0007"));
-        QCOMPARE(Decimal(0, 4).PlainText(), QStringLiteral("0"));
-        QCOMPARE(Decimal(std::numeric_limits<qint64>::min(), 4).PlainText(), QStringLiteral("-922337203685477.5808"));
+        QCOMPARE(Decimal(12345000, 4).PlainText(), u"1234.5"_s);
+        QCOMPARE(Decimal(-7, 4).PlainText(), u"-0.0007"_s);
+        QCOMPARE(Decimal(0, 4).PlainText(), u"0"_s);
+        QCOMPARE(Decimal(std::numeric_limits<qint64>::min(), 4).PlainText(), u"-922337203685477.5808"_s);
     }
 
     void ABinaryNumberHasItsShortestDigits_data()
@@ -84,17 +86,17 @@ private Q_SLOTS:
 
     void DigitsAreCounted()
     {
-        QCOMPARE(Decimal::WithDigits(61.1200027, 7).PlainText(), QStringLiteral("61.12"));
-        QCOMPARE(Decimal::WithDigits(-1234567.8, 7).PlainText(), QStringLiteral("-1234568"));
-        QCOMPARE(Decimal::WithDigits(9.99, 2).PlainText(), QStringLiteral("10"));
+        QCOMPARE(Decimal::WithDigits(61.1200027, 7).PlainText(), u"61.12"_s);
+        QCOMPARE(Decimal::WithDigits(-1234567.8, 7).PlainText(), u"-1234568"_s);
+        QCOMPARE(Decimal::WithDigits(9.99, 2).PlainText(), u"10"_s);
     }
 
     void ShiftingKeepsEveryDigit()
     {
-        QCOMPARE(Decimal(0.06625F).Shifted(2).PlainText(), QStringLiteral("6.625"));
+        QCOMPARE(Decimal(0.06625F).Shifted(2).PlainText(), u"6.625"_s);
         QVERIFY(Decimal(6.625F).Shifted(-2).ToFloat() == 0.06625F);
-        QCOMPARE(Decimal(-5, 0).Shifted(3).PlainText(), QStringLiteral("-5000"));
-        QCOMPARE(Decimal().Shifted(3).PlainText(), QStringLiteral("0"));
+        QCOMPARE(Decimal(-5, 0).Shifted(3).PlainText(), u"-5000"_s);
+        QCOMPARE(Decimal().Shifted(3).PlainText(), u"0"_s);
     }
 
     void Rounding_data()
@@ -143,15 +145,15 @@ private Q_SLOTS:
     {
         const Decimal number = Of("-12305", 3);
         QVERIFY(number.IsNegative());
-        QCOMPARE(number.Whole(), QStringLiteral("123"));
-        QCOMPARE(number.Fraction(0), QStringLiteral("05"));
-        QCOMPARE(number.Fraction(4), QStringLiteral("0500"));
-        QCOMPARE(Of("5", -1).Whole(), QStringLiteral("0"));
-        QCOMPARE(Of("5", -1).Fraction(0), QStringLiteral("05"));
-        QCOMPARE(Of("5", 3).Whole(), QStringLiteral("500"));
+        QCOMPARE(number.Whole(), u"123"_s);
+        QCOMPARE(number.Fraction(0), u"05"_s);
+        QCOMPARE(number.Fraction(4), u"0500"_s);
+        QCOMPARE(Of("5", -1).Whole(), u"0"_s);
+        QCOMPARE(Of("5", -1).Fraction(0), u"05"_s);
+        QCOMPARE(Of("5", 3).Whole(), u"500"_s);
         QCOMPARE(Of("5", 3).Fraction(0), QString());
-        QCOMPARE(Decimal().Whole(), QStringLiteral("0"));
-        QCOMPARE(Decimal().Fraction(2), QStringLiteral("00"));
+        QCOMPARE(Decimal().Whole(), u"0"_s);
+        QCOMPARE(Decimal().Fraction(2), u"00"_s);
     }
 
     void AWholeNumberHasTheRangeOf64Bits()

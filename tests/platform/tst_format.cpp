@@ -8,6 +8,8 @@
 
 #include <QtTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 Q_DECLARE_METATYPE(NumberFormat)
 
 namespace {
@@ -68,10 +70,7 @@ private Q_SLOTS:
         QTEST(Format(Count(tenThousandths), format), "text");
     }
 
-    void FormatCurrencyIsTheFormatCurrency()
-    {
-        QCOMPARE(FormatCurrency(Count(-12345000)), QStringLiteral("($1,234.50)"));
-    }
+    void FormatCurrencyIsTheFormatCurrency() { QCOMPARE(FormatCurrency(Count(-12345000)), u"($1,234.50)"_s); }
 
     void TheAmountAsShownIsWhatItsTextReadsBackAs()
     {
@@ -91,9 +90,9 @@ private Q_SLOTS:
     void ASingleIsShownInSinglePrecision()
     {
         // Its double would be 0.0599999986... and 1.0049999952...
-        QCOMPARE(Format(0.06F, NumberFormat::Percent), QStringLiteral("6.00%"));
-        QCOMPARE(Format(1.005F, NumberFormat::Fixed), QStringLiteral("1.01"));
-        QCOMPARE(Format(0.85F, NumberFormat::GeneralNumber), QStringLiteral("0.85"));
+        QCOMPARE(Format(0.06F, NumberFormat::Percent), u"6.00%"_s);
+        QCOMPARE(Format(1.005F, NumberFormat::Fixed), u"1.01"_s);
+        QCOMPARE(Format(0.85F, NumberFormat::GeneralNumber), u"0.85"_s);
     }
 
     void APercentageShowsTheSameDigitsEverywhere_data()
@@ -135,20 +134,20 @@ private Q_SLOTS:
             QVERIFY2(FractionOf(typed) == fraction, qPrintable(typed)); // a comparison of the test library is not exact
             QCOMPARE(PerCent(fraction), typed);
         }
-        QVERIFY(FractionOf(QStringLiteral("6.625")) == 0.06625F);
-        QVERIFY(FractionOf(QStringLiteral("-6.625")) == -0.06625F);
-        QCOMPARE(ErrorOf([] { FractionOf(QStringLiteral("6%")); }), 13);
-        QCOMPARE(ErrorOf([] { FractionOf(QStringLiteral("1e39")); }), 6);
+        QVERIFY(FractionOf(u"6.625"_s) == 0.06625F);
+        QVERIFY(FractionOf(u"-6.625"_s) == -0.06625F);
+        QCOMPARE(ErrorOf([] { FractionOf(u"6%"_s); }), 13);
+        QCOMPARE(ErrorOf([] { FractionOf(u"1e39"_s); }), 6);
     }
 
     void ADoubleIsRoundedOnItsDecimalValue()
     {
-        QCOMPARE(Format(0.125, NumberFormat::Fixed), QStringLiteral("0.13"));
-        QCOMPARE(Format(-0.005, NumberFormat::Fixed), QStringLiteral("-0.01"));
-        QCOMPARE(Format(1.005, NumberFormat::Fixed), QStringLiteral("1.01"));
-        QCOMPARE(Format(-0.0, NumberFormat::Fixed), QStringLiteral("0.00"));
-        QCOMPARE(Format(-1e-12, NumberFormat::Percent), QStringLiteral("0.00%"));
-        QCOMPARE(Format(0.5, NumberFormat::GeneralNumber), QStringLiteral("0.5"));
+        QCOMPARE(Format(0.125, NumberFormat::Fixed), u"0.13"_s);
+        QCOMPARE(Format(-0.005, NumberFormat::Fixed), u"-0.01"_s);
+        QCOMPARE(Format(1.005, NumberFormat::Fixed), u"1.01"_s);
+        QCOMPARE(Format(-0.0, NumberFormat::Fixed), u"0.00"_s);
+        QCOMPARE(Format(-1e-12, NumberFormat::Percent), u"0.00%"_s);
+        QCOMPARE(Format(0.5, NumberFormat::GeneralNumber), u"0.5"_s);
     }
 
     void WhatIsNoNumberIsAnOverflow()
@@ -161,10 +160,10 @@ private Q_SLOTS:
 
     void ANumberIsShownAsItIs()
     {
-        QCOMPARE(Format(0, NumberFormat::GeneralNumber), QStringLiteral("0"));
-        QCOMPARE(Format(-32768, NumberFormat::GeneralNumber), QStringLiteral("-32768"));
-        QCOMPARE(Format(0, NumberFormat::Currency), QStringLiteral("$0.00"));
-        QCOMPARE(Format(1250, NumberFormat::Currency), QStringLiteral("$1,250.00"));
+        QCOMPARE(Format(0, NumberFormat::GeneralNumber), u"0"_s);
+        QCOMPARE(Format(-32768, NumberFormat::GeneralNumber), u"-32768"_s);
+        QCOMPARE(Format(0, NumberFormat::Currency), u"$0.00"_s);
+        QCOMPARE(Format(1250, NumberFormat::Currency), u"$1,250.00"_s);
     }
 
     void ATextIsConvertedWhenItIsNumeric_data()
@@ -201,28 +200,28 @@ private Q_SLOTS:
     void ATextBeyondEveryRangeIsAnOverflow()
     {
         for (const NumberFormat format : AllFormats)
-            QCOMPARE(ErrorOf([&] { Format(QStringLiteral("1e400"), format); }), 6);
+            QCOMPARE(ErrorOf([&] { Format(u"1e400"_s, format); }), 6);
     }
 
     void SeparatorsStandWhereTheLocalePutsThem()
     {
         SetUserLocale(QLocale(QLocale::English, QLocale::India));
         const QString text = FormatCurrency(Count(12345670000));
-        QCOMPARE(text, QStringLiteral("\u20B912,34,567.00"));
+        QCOMPARE(text, u"\u20B912,34,567.00"_s);
         QVERIFY(IsNumeric(text));
         QCOMPARE(ToCurrency(text).TenThousandths(), qint64(12345670000));
-        QCOMPARE(Format(Count(12345670000), NumberFormat::Standard), QStringLiteral("12,34,567.00"));
-        QCOMPARE(Format(Count(9990000), NumberFormat::Standard), QStringLiteral("999.00"));
+        QCOMPARE(Format(Count(12345670000), NumberFormat::Standard), u"12,34,567.00"_s);
+        QCOMPARE(Format(Count(9990000), NumberFormat::Standard), u"999.00"_s);
     }
 
     void APlainApostropheStandsForTheCurlyOne()
     {
-        const QString typed = QStringLiteral("1'234'567.50");
+        const QString typed = u"1'234'567.50"_s;
         SetUserLocale(Swiss);
         QVERIFY(IsNumeric(typed));
         QCOMPARE(ToCurrency(typed).TenThousandths(), qint64(12345675000));
-        QVERIFY(!IsNumeric(QStringLiteral("'1234"))); // it parts digits and does not lead them
-        QVERIFY(!IsNumeric(QStringLiteral("1.5'0"))); // nor stands behind the point
+        QVERIFY(!IsNumeric(u"'1234"_s)); // it parts digits and does not lead them
+        QVERIFY(!IsNumeric(u"1.5'0"_s)); // nor stands behind the point
         SetUserLocale(American);
         QVERIFY(!IsNumeric(typed));
     }
@@ -232,14 +231,14 @@ private Q_SLOTS:
         QTest::addColumn<QLocale>("locale");
         QTest::addColumn<NumberFormat>("format");
         QTest::addColumn<QString>("text");
-        QTest::newRow("German currency") << German << NumberFormat::Currency << QStringLiteral("-1.234,50\u00A0\u20AC");
-        QTest::newRow("German fixed") << German << NumberFormat::Fixed << QStringLiteral("-1234,50");
-        QTest::newRow("German standard") << German << NumberFormat::Standard << QStringLiteral("-1.234,50");
-        QTest::newRow("German general number") << German << NumberFormat::GeneralNumber << QStringLiteral("-1234,5");
-        QTest::newRow("German percent") << German << NumberFormat::Percent << QStringLiteral("-123450,00%");
-        QTest::newRow("Swiss apostrophe") << Swiss << NumberFormat::Standard << QStringLiteral("-1\u2019234.50");
+        QTest::newRow("German currency") << German << NumberFormat::Currency << u"-1.234,50\u00A0\u20AC"_s;
+        QTest::newRow("German fixed") << German << NumberFormat::Fixed << u"-1234,50"_s;
+        QTest::newRow("German standard") << German << NumberFormat::Standard << u"-1.234,50"_s;
+        QTest::newRow("German general number") << German << NumberFormat::GeneralNumber << u"-1234,5"_s;
+        QTest::newRow("German percent") << German << NumberFormat::Percent << u"-123450,00%"_s;
+        QTest::newRow("Swiss apostrophe") << Swiss << NumberFormat::Standard << u"-1\u2019234.50"_s;
         QTest::newRow("the C locale counts as the United States")
-            << QLocale::c() << NumberFormat::Currency << QStringLiteral("($1,234.50)");
+            << QLocale::c() << NumberFormat::Currency << u"($1,234.50)"_s;
     }
     void SignsFollowTheUsersLocale()
     {
@@ -261,7 +260,7 @@ private Q_SLOTS:
                 for (const qint64 count : {qint64(0), qint64(500), qint64(-500), qint64(-12345000), qint64(1) << 62}) {
                     const qint64 cents = (count < 0 ? count - 50 : count + 50) / 100 * 100;
                     const QString text = Format(Count(count), format);
-                    const QString where = locale.name() + QStringLiteral(": ") + text;
+                    const QString where = locale.name() + u": "_s + text;
                     QVERIFY2(IsNumeric(text), qPrintable(where));
                     QVERIFY2(ToCurrency(text) == Count(format == NumberFormat::GeneralNumber ? count : cents),
                              qPrintable(where));

@@ -8,6 +8,8 @@
 #include <ctime>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 Q_DECLARE_METATYPE(Dialect)
 
 namespace {
@@ -30,57 +32,57 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &text, bool numeric) {
             QTest::newRow(name) << text << numeric;
         };
-        row("digits", QStringLiteral("42"), true);
-        row("blanks around are trimmed", QStringLiteral("  42\t"), true);
-        row("a sign before", QStringLiteral("-42"), true);
-        row("a plus before", QStringLiteral("+42"), true);
-        row("a sign after", QStringLiteral("42-"), true);
-        row("a currency symbol before", QStringLiteral("$40"), true);
-        row("a currency symbol after", QStringLiteral("40$"), true);
-        row("a blank behind the symbol", QStringLiteral("$ 40"), true);
-        row("sign and symbol", QStringLiteral("-$40"), true);
-        row("symbol and sign", QStringLiteral("$-40"), true);
-        row("parentheses around the whole", QStringLiteral("(40)"), true);
-        row("a negative amount as it is shown", QStringLiteral("($1,234.50)"), true);
-        row("thousands separators", QStringLiteral("1,234,567"), true);
-        row("decimals", QStringLiteral("1,234.50"), true);
-        row("a point at the end", QStringLiteral("5."), true);
-        row("a point at the beginning", QStringLiteral(".5"), true);
-        row("an exponent", QStringLiteral("1e3"), true);
-        row("an exponent with a sign", QStringLiteral("1.5E-3"), true);
-        row("hexadecimal digits", QStringLiteral("&H1F"), true);
-        row("hexadecimal digits in small letters", QStringLiteral("&hff"), true);
-        row("octal digits", QStringLiteral("&O17"), true);
-        row("a number beyond every range", QStringLiteral("1e400"), true);
+        row("digits", u"42"_s, true);
+        row("blanks around are trimmed", u"  42\t"_s, true);
+        row("a sign before", u"-42"_s, true);
+        row("a plus before", u"+42"_s, true);
+        row("a sign after", u"42-"_s, true);
+        row("a currency symbol before", u"$40"_s, true);
+        row("a currency symbol after", u"40$"_s, true);
+        row("a blank behind the symbol", u"$ 40"_s, true);
+        row("sign and symbol", u"-$40"_s, true);
+        row("symbol and sign", u"$-40"_s, true);
+        row("parentheses around the whole", u"(40)"_s, true);
+        row("a negative amount as it is shown", u"($1,234.50)"_s, true);
+        row("thousands separators", u"1,234,567"_s, true);
+        row("decimals", u"1,234.50"_s, true);
+        row("a point at the end", u"5."_s, true);
+        row("a point at the beginning", u".5"_s, true);
+        row("an exponent", u"1e3"_s, true);
+        row("an exponent with a sign", u"1.5E-3"_s, true);
+        row("hexadecimal digits", u"&H1F"_s, true);
+        row("hexadecimal digits in small letters", u"&hff"_s, true);
+        row("octal digits", u"&O17"_s, true);
+        row("a number beyond every range", u"1e400"_s, true);
         row("empty", QString(), false);
-        row("blank", QStringLiteral("   "), false);
-        row("a lone sign", QStringLiteral("-"), false);
-        row("a lone symbol", QStringLiteral("$"), false);
-        row("a lone point", QStringLiteral("."), false);
-        row("sign and symbol without a digit", QStringLiteral("-$"), false);
-        row("a percentage", QStringLiteral("5%"), false);
-        row("two points", QStringLiteral("1.2.3"), false);
-        row("letters", QStringLiteral("abc"), false);
-        row("letters behind", QStringLiteral("12 months"), false);
-        row("a date", QStringLiteral("1/2/2004"), false);
-        row("two signs", QStringLiteral("--5"), false);
-        row("a sign on either side", QStringLiteral("-5-"), false);
-        row("two symbols", QStringLiteral("$5$"), false);
-        row("a sign within parentheses", QStringLiteral("(-5)"), false);
-        row("one parenthesis", QStringLiteral("(5"), false);
-        row("empty parentheses", QStringLiteral("()"), false);
-        row("a separator behind the point", QStringLiteral("1.2,3"), false);
-        row("a separator ahead of every digit", QStringLiteral(",5"), false);
-        row("a blank between digits", QStringLiteral("1 2"), false);
-        row("an exponent without digits", QStringLiteral("1e"), false);
-        row("an exponent without a number", QStringLiteral("e5"), false);
-        row("no hexadecimal digit", QStringLiteral("&H"), false);
-        row("a wrong hexadecimal digit", QStringLiteral("&HG"), false);
-        row("a foreign hexadecimal prefix", QStringLiteral("&H0x1F"), false);
-        row("a wrong octal digit", QStringLiteral("&O8"), false);
-        row("a foreign currency", QStringLiteral("\u20AC5"), false);
-        row("words for numbers", QStringLiteral("inf"), false);
-        row("another script's digits", QStringLiteral("\u0661\u0662"), false);
+        row("blank", u"   "_s, false);
+        row("a lone sign", u"-"_s, false);
+        row("a lone symbol", u"$"_s, false);
+        row("a lone point", u"."_s, false);
+        row("sign and symbol without a digit", u"-$"_s, false);
+        row("a percentage", u"5%"_s, false);
+        row("two points", u"1.2.3"_s, false);
+        row("letters", u"abc"_s, false);
+        row("letters behind", u"12 months"_s, false);
+        row("a date", u"1/2/2004"_s, false);
+        row("two signs", u"--5"_s, false);
+        row("a sign on either side", u"-5-"_s, false);
+        row("two symbols", u"$5$"_s, false);
+        row("a sign within parentheses", u"(-5)"_s, false);
+        row("one parenthesis", u"(5"_s, false);
+        row("empty parentheses", u"()"_s, false);
+        row("a separator behind the point", u"1.2,3"_s, false);
+        row("a separator ahead of every digit", u",5"_s, false);
+        row("a blank between digits", u"1 2"_s, false);
+        row("an exponent without digits", u"1e"_s, false);
+        row("an exponent without a number", u"e5"_s, false);
+        row("no hexadecimal digit", u"&H"_s, false);
+        row("a wrong hexadecimal digit", u"&HG"_s, false);
+        row("a foreign hexadecimal prefix", u"&H0x1F"_s, false);
+        row("a wrong octal digit", u"&O8"_s, false);
+        row("a foreign currency", u"\u20AC5"_s, false);
+        row("words for numbers", u"inf"_s, false);
+        row("another script's digits", u"\u0661\u0662"_s, false);
     }
     void IsNumericTellsNumbersFromOtherText()
     {
@@ -102,29 +104,29 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &text, qint64 count) {
             QTest::newRow(name) << text << count;
         };
-        row("whole", QStringLiteral("1250"), 12500000);
-        row("as it is shown", QStringLiteral("($1,234.50)"), -12345000);
-        row("a sign behind", QStringLiteral("3.75-"), -37500);
-        row("four decimals", QStringLiteral("61.5385"), 615385);
-        row("more digits than a double holds", QStringLiteral("922337203685477.5807"), 9223372036854775807);
-        row("the least amount", QStringLiteral("-922337203685477.5808"), std::numeric_limits<qint64>::min());
-        row("a tie in the fifth decimal goes down to the even neighbour", QStringLiteral("0.00025"), 2);
-        row("a tie in the fifth decimal goes up to the even neighbour", QStringLiteral("0.00075"), 8);
-        row("a tie that no double hits", QStringLiteral("1.00005"), 10000);
-        row("a tie of great amounts", QStringLiteral("100000000000.00015"), 1000000000000002);
-        row("just above a tie", QStringLiteral("0.000250000000000000000001"), 3);
-        row("a tie with many zeros behind", QStringLiteral("0.00025000000000000000000"), 2);
-        row("a fifth decimal below five", QStringLiteral("0.00024"), 2);
-        row("half the smallest unit", QStringLiteral("0.00005"), 0);
-        row("more than half the smallest unit", QStringLiteral("-0.000051"), -1);
-        row("far too small to see", QStringLiteral("1e-400"), 0);
-        row("an exponent", QStringLiteral("1.5e3"), 15000000);
-        row("an exponent that takes zeros back", QStringLiteral("15000e-3"), 150000);
-        row("leading zeros", QStringLiteral("000000000000000000000000000005"), 50000);
-        row("hexadecimal", QStringLiteral("&H1F"), 310000);
-        row("hexadecimal without a sign", QStringLiteral("&HFFFF"), 655350000);
-        row("octal", QStringLiteral("&O17"), 150000);
-        row("nothing to any power", QStringLiteral("0e99999999999"), 0);
+        row("whole", u"1250"_s, 12500000);
+        row("as it is shown", u"($1,234.50)"_s, -12345000);
+        row("a sign behind", u"3.75-"_s, -37500);
+        row("four decimals", u"61.5385"_s, 615385);
+        row("more digits than a double holds", u"922337203685477.5807"_s, 9223372036854775807);
+        row("the least amount", u"-922337203685477.5808"_s, std::numeric_limits<qint64>::min());
+        row("a tie in the fifth decimal goes down to the even neighbour", u"0.00025"_s, 2);
+        row("a tie in the fifth decimal goes up to the even neighbour", u"0.00075"_s, 8);
+        row("a tie that no double hits", u"1.00005"_s, 10000);
+        row("a tie of great amounts", u"100000000000.00015"_s, 1000000000000002);
+        row("just above a tie", u"0.000250000000000000000001"_s, 3);
+        row("a tie with many zeros behind", u"0.00025000000000000000000"_s, 2);
+        row("a fifth decimal below five", u"0.00024"_s, 2);
+        row("half the smallest unit", u"0.00005"_s, 0);
+        row("more than half the smallest unit", u"-0.000051"_s, -1);
+        row("far too small to see", u"1e-400"_s, 0);
+        row("an exponent", u"1.5e3"_s, 15000000);
+        row("an exponent that takes zeros back", u"15000e-3"_s, 150000);
+        row("leading zeros", u"000000000000000000000000000005"_s, 50000);
+        row("hexadecimal", u"&H1F"_s, 310000);
+        row("hexadecimal without a sign", u"&HFFFF"_s, 655350000);
+        row("octal", u"&O17"_s, 150000);
+        row("nothing to any power", u"0e99999999999"_s, 0);
     }
     void TextBecomesCurrencyExactly()
     {
@@ -135,11 +137,11 @@ private Q_SLOTS:
     void TooMuchForCurrencyIsAnOverflow_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("one unit too many") << QStringLiteral("922337203685477.5808");
-        QTest::newRow("rounded up beyond the range") << QStringLiteral("922337203685477.58075");
-        QTest::newRow("one unit too few") << QStringLiteral("-922337203685477.5809");
-        QTest::newRow("beyond every range") << QStringLiteral("1e400");
-        QTest::newRow("an exponent beyond every counter") << QStringLiteral("1e99999999999999999999");
+        QTest::newRow("one unit too many") << u"922337203685477.5808"_s;
+        QTest::newRow("rounded up beyond the range") << u"922337203685477.58075"_s;
+        QTest::newRow("one unit too few") << u"-922337203685477.5809"_s;
+        QTest::newRow("beyond every range") << u"1e400"_s;
+        QTest::newRow("an exponent beyond every counter") << u"1e99999999999999999999"_s;
     }
     void TooMuchForCurrencyIsAnOverflow()
     {
@@ -156,22 +158,22 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &text, int value, int error = 0) {
             QTest::newRow(name) << text << value << error;
         };
-        row("2.5 is 2", QStringLiteral("2.5"), 2);
-        row("3.5 is 4", QStringLiteral("3.5"), 4);
-        row("40.5 is 40", QStringLiteral("40.5"), 40);
-        row("-2.5 is -2", QStringLiteral("-2.5"), -2);
-        row("0.5 is 0", QStringLiteral("0.5"), 0);
-        row("11.6 is 12", QStringLiteral("11.6"), 12);
-        row("2.5000000000000000000001 is 3", QStringLiteral("2.5000000000000000000001"), 3);
-        row("the greatest", QStringLiteral("32767"), 32767);
-        row("the least", QStringLiteral("-32768"), -32768);
-        row("rounded down into the range", QStringLiteral("32767.49"), 32767);
-        row("a tie out of the range", QStringLiteral("32767.5"), 0, 6);
-        row("a tie at the lower end stays", QStringLiteral("-32768.5"), -32768);
-        row("beyond the range", QStringLiteral("32768"), 0, 6);
-        row("below the range", QStringLiteral("-32769"), 0, 6);
-        row("far beyond", QStringLiteral("1e400"), 0, 6);
-        row("with separators and symbol", QStringLiteral("$1,250.00"), 1250);
+        row("2.5 is 2", u"2.5"_s, 2);
+        row("3.5 is 4", u"3.5"_s, 4);
+        row("40.5 is 40", u"40.5"_s, 40);
+        row("-2.5 is -2", u"-2.5"_s, -2);
+        row("0.5 is 0", u"0.5"_s, 0);
+        row("11.6 is 12", u"11.6"_s, 12);
+        row("2.5000000000000000000001 is 3", u"2.5000000000000000000001"_s, 3);
+        row("the greatest", u"32767"_s, 32767);
+        row("the least", u"-32768"_s, -32768);
+        row("rounded down into the range", u"32767.49"_s, 32767);
+        row("a tie out of the range", u"32767.5"_s, 0, 6);
+        row("a tie at the lower end stays", u"-32768.5"_s, -32768);
+        row("beyond the range", u"32768"_s, 0, 6);
+        row("below the range", u"-32769"_s, 0, 6);
+        row("far beyond", u"1e400"_s, 0, 6);
+        row("with separators and symbol", u"$1,250.00"_s, 1250);
     }
     void TextBecomesAnIntegerRoundedToEven()
     {
@@ -206,25 +208,25 @@ private Q_SLOTS:
     void TextBecomesTheNearestSingle()
     {
         // The test library compares singles and doubles with a tolerance; these have to be exact.
-        QVERIFY(ToSingle(QStringLiteral("0.06")) == 0.06F);
-        QVERIFY(ToSingle(QStringLiteral("$1,234.50")) == 1234.5F);
-        QVERIFY(ToSingle(QStringLiteral("16777217")) == 16777216.0F); // a tie between two singles
-        QVERIFY(ToSingle(QStringLiteral("16777217.0000001")) == 16777218.0F);
-        QVERIFY(ToSingle(QStringLiteral("1e-60")) == 0.0F);
-        QCOMPARE(ErrorOf([] { ToSingle(QStringLiteral("1e39")); }), 6);
-        QCOMPARE(ErrorOf([] { ToSingle(QStringLiteral("-1e400")); }), 6);
+        QVERIFY(ToSingle(u"0.06"_s) == 0.06F);
+        QVERIFY(ToSingle(u"$1,234.50"_s) == 1234.5F);
+        QVERIFY(ToSingle(u"16777217"_s) == 16777216.0F); // a tie between two singles
+        QVERIFY(ToSingle(u"16777217.0000001"_s) == 16777218.0F);
+        QVERIFY(ToSingle(u"1e-60"_s) == 0.0F);
+        QCOMPARE(ErrorOf([] { ToSingle(u"1e39"_s); }), 6);
+        QCOMPARE(ErrorOf([] { ToSingle(u"-1e400"_s); }), 6);
         QCOMPARE(ErrorOf([] { ToSingle(1e39); }), 6);
         QVERIFY(ToSingle(0.1) == 0.1F);
     }
 
     void TextBecomesTheNearestDouble()
     {
-        QVERIFY(ToDouble(QStringLiteral("0.1")) == 0.1);
-        QVERIFY(ToDouble(QStringLiteral("(2)")) == -2.0);
-        QVERIFY(ToDouble(QStringLiteral("1e-400")) == 0.0);
-        QVERIFY(ToDouble(QStringLiteral("1.7976931348623157e308")) == std::numeric_limits<double>::max());
-        QCOMPARE(ErrorOf([] { ToDouble(QStringLiteral("1e309")); }), 6);
-        QCOMPARE(ErrorOf([] { ToDouble(QStringLiteral("-1e400")); }), 6);
+        QVERIFY(ToDouble(u"0.1"_s) == 0.1);
+        QVERIFY(ToDouble(u"(2)"_s) == -2.0);
+        QVERIFY(ToDouble(u"1e-400"_s) == 0.0);
+        QVERIFY(ToDouble(u"1.7976931348623157e308"_s) == std::numeric_limits<double>::max());
+        QCOMPARE(ErrorOf([] { ToDouble(u"1e309"_s); }), 6);
+        QCOMPARE(ErrorOf([] { ToDouble(u"-1e400"_s); }), 6);
     }
 
     void HostileTextNeitherHangsNorCrashes()
@@ -252,10 +254,10 @@ private Q_SLOTS:
         for (const char *text : {"0e99999999999", "-0e-99999999999", "0.000e2147483647"}) {
             QCOMPARE(ToCurrency(QLatin1String(text)).TenThousandths(), qint64(0));
             QVERIFY(ToDouble(QLatin1String(text)) == 0.0);
-            QCOMPARE(ToDecimal(QLatin1String(text)).PlainText(), QStringLiteral("0"));
+            QCOMPARE(ToDecimal(QLatin1String(text)).PlainText(), u"0"_s);
         }
-        QCOMPARE(NumericPrefix(QStringLiteral("1e-99999999999")), 0.0);
-        QCOMPARE(ErrorOf([] { NumericPrefix(QStringLiteral("1e99999999999")); }), 6);
+        QCOMPARE(NumericPrefix(u"1e-99999999999"_s), 0.0);
+        QCOMPARE(ErrorOf([] { NumericPrefix(u"1e99999999999"_s); }), 6);
         QVERIFY2(std::clock() - start < 10 * CLOCKS_PER_SEC, "a second's work for each of these texts is too much");
     }
 
@@ -265,17 +267,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("numeric");
         QTest::addColumn<qint64>("tenThousandths");
-        QTest::newRow("German: point parts thousands")
-            << German << QStringLiteral("1.234,50") << true << qint64(12345000);
-        QTest::newRow("German: euro behind") << German << QStringLiteral("-5,25 \u20AC") << true << qint64(-52500);
-        QTest::newRow("German: no dollar") << German << QStringLiteral("$5") << false << qint64(0);
-        QTest::newRow("German: two decimal commas") << German << QStringLiteral("1,2,3") << false << qint64(0);
+        QTest::newRow("German: point parts thousands") << German << u"1.234,50"_s << true << qint64(12345000);
+        QTest::newRow("German: euro behind") << German << u"-5,25 \u20AC"_s << true << qint64(-52500);
+        QTest::newRow("German: no dollar") << German << u"$5"_s << false << qint64(0);
+        QTest::newRow("German: two decimal commas") << German << u"1,2,3"_s << false << qint64(0);
         QTest::newRow("French: the narrow blank that is shown")
-            << French << QStringLiteral("1\u202F234,50") << true << qint64(12345000);
-        QTest::newRow("French: the plain blank that is typed")
-            << French << QStringLiteral("1 234,50") << true << qint64(12345000);
+            << French << u"1\u202F234,50"_s << true << qint64(12345000);
+        QTest::newRow("French: the plain blank that is typed") << French << u"1 234,50"_s << true << qint64(12345000);
         QTest::newRow("the C locale counts as the United States")
-            << QLocale::c() << QStringLiteral("$1,234.50") << true << qint64(12345000);
+            << QLocale::c() << u"$1,234.50"_s << true << qint64(12345000);
     }
     void AnotherLocaleHasItsOwnSigns()
     {
@@ -291,28 +291,28 @@ private Q_SLOTS:
     void FileTextHasItsOwnSignsInEveryLocale()
     {
         SetUserLocale(German);
-        QCOMPARE(ToCurrency(QStringLiteral("12.5"), Dialect::File).TenThousandths(), qint64(125000));
-        QCOMPARE(ToCurrency(QStringLiteral("$1,250.00"), Dialect::File).TenThousandths(), qint64(12500000));
-        QCOMPARE(int(ToInteger(QStringLiteral("2.5"), Dialect::File)), 2);
-        QVERIFY(ToSingle(QStringLiteral(".85"), Dialect::File) == 0.85F);
-        QVERIFY(!IsNumeric(QStringLiteral("12,5 \u20AC"), Dialect::File));
+        QCOMPARE(ToCurrency(u"12.5"_s, Dialect::File).TenThousandths(), qint64(125000));
+        QCOMPARE(ToCurrency(u"$1,250.00"_s, Dialect::File).TenThousandths(), qint64(12500000));
+        QCOMPARE(int(ToInteger(u"2.5"_s, Dialect::File)), 2);
+        QVERIFY(ToSingle(u".85"_s, Dialect::File) == 0.85F);
+        QVERIFY(!IsNumeric(u"12,5 \u20AC"_s, Dialect::File));
     }
 
     void APlainNumberHasNoSymbolsAndNoSeparators_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("plain");
-        QTest::newRow("digits") << QStringLiteral("1250") << true;
-        QTest::newRow("negative with decimals") << QStringLiteral("-3.75") << true;
-        QTest::newRow("no zero ahead of the point") << QStringLiteral(".06") << true;
-        QTest::newRow("exponent") << QStringLiteral("1e3") << true;
-        QTest::newRow("symbol") << QStringLiteral("$5") << false;
-        QTest::newRow("separators") << QStringLiteral("1,250") << false;
-        QTest::newRow("parentheses") << QStringLiteral("(5)") << false;
-        QTest::newRow("sign behind") << QStringLiteral("5-") << false;
-        QTest::newRow("hexadecimal") << QStringLiteral("&H1F") << false;
+        QTest::newRow("digits") << u"1250"_s << true;
+        QTest::newRow("negative with decimals") << u"-3.75"_s << true;
+        QTest::newRow("no zero ahead of the point") << u".06"_s << true;
+        QTest::newRow("exponent") << u"1e3"_s << true;
+        QTest::newRow("symbol") << u"$5"_s << false;
+        QTest::newRow("separators") << u"1,250"_s << false;
+        QTest::newRow("parentheses") << u"(5)"_s << false;
+        QTest::newRow("sign behind") << u"5-"_s << false;
+        QTest::newRow("hexadecimal") << u"&H1F"_s << false;
         QTest::newRow("empty") << QString() << false;
-        QTest::newRow("letters") << QStringLiteral("abc") << false;
+        QTest::newRow("letters") << u"abc"_s << false;
     }
     void APlainNumberHasNoSymbolsAndNoSeparators()
     {
@@ -324,21 +324,21 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("value");
-        QTest::newRow("the whole text") << QStringLiteral("40.5") << 40.5;
-        QTest::newRow("blanks ahead are skipped") << QStringLiteral("   8") << 8.0;
-        QTest::newRow("what follows is left out") << QStringLiteral("8 hours") << 8.0;
-        QTest::newRow("a sign") << QStringLiteral("-3.5x") << -3.5;
-        QTest::newRow("no digit ahead of the point") << QStringLiteral(".5") << 0.5;
-        QTest::newRow("no digit behind the point") << QStringLiteral("5.") << 5.0;
-        QTest::newRow("an exponent") << QStringLiteral("1e2 x") << 100.0;
-        QTest::newRow("an exponent without digits is left out") << QStringLiteral("8e") << 8.0;
-        QTest::newRow("a second point ends it") << QStringLiteral("1.2.3") << 1.2;
-        QTest::newRow("no thousands separators") << QStringLiteral("1,250") << 1.0;
-        QTest::newRow("no symbol") << QStringLiteral("$40") << 0.0;
-        QTest::newRow("nothing usable") << QStringLiteral("abc") << 0.0;
+        QTest::newRow("the whole text") << u"40.5"_s << 40.5;
+        QTest::newRow("blanks ahead are skipped") << u"   8"_s << 8.0;
+        QTest::newRow("what follows is left out") << u"8 hours"_s << 8.0;
+        QTest::newRow("a sign") << u"-3.5x"_s << -3.5;
+        QTest::newRow("no digit ahead of the point") << u".5"_s << 0.5;
+        QTest::newRow("no digit behind the point") << u"5."_s << 5.0;
+        QTest::newRow("an exponent") << u"1e2 x"_s << 100.0;
+        QTest::newRow("an exponent without digits is left out") << u"8e"_s << 8.0;
+        QTest::newRow("a second point ends it") << u"1.2.3"_s << 1.2;
+        QTest::newRow("no thousands separators") << u"1,250"_s << 1.0;
+        QTest::newRow("no symbol") << u"$40"_s << 0.0;
+        QTest::newRow("nothing usable") << u"abc"_s << 0.0;
         QTest::newRow("empty") << QString() << 0.0;
-        QTest::newRow("a lone point") << QStringLiteral(".") << 0.0;
-        QTest::newRow("a lone sign") << QStringLiteral("-") << 0.0;
+        QTest::newRow("a lone point") << u"."_s << 0.0;
+        QTest::newRow("a lone sign") << u"-"_s << 0.0;
     }
     void TheNumericPrefixIsTheLongestLeadingPlainNumber()
     {
@@ -349,21 +349,21 @@ private Q_SLOTS:
     void TheNumericPrefixHasTheLocalesDecimalSeparator()
     {
         SetUserLocale(German);
-        QCOMPARE(NumericPrefix(QStringLiteral("8,5 Stunden")), 8.5);
-        QCOMPARE(NumericPrefix(QStringLiteral("8.5")), 8.0);
+        QCOMPARE(NumericPrefix(u"8,5 Stunden"_s), 8.5);
+        QCOMPARE(NumericPrefix(u"8.5"_s), 8.0);
     }
 
     void PlainTextOfAnAmountHasNoMoreDigitsThanItNeeds_data()
     {
         QTest::addColumn<qint64>("tenThousandths");
         QTest::addColumn<QString>("text");
-        QTest::newRow("whole") << qint64(12500000) << QStringLiteral("1250");
-        QTest::newRow("one decimal") << qint64(125000) << QStringLiteral("12.5");
-        QTest::newRow("zero") << qint64(0) << QStringLiteral("0");
-        QTest::newRow("negative") << qint64(-37500) << QStringLiteral("-3.75");
-        QTest::newRow("a zero ahead of the point") << qint64(-7) << QStringLiteral("-0.0007");
-        QTest::newRow("the greatest") << std::numeric_limits<qint64>::max() << QStringLiteral("922337203685477.5807");
-        QTest::newRow("the least") << std::numeric_limits<qint64>::min() << QStringLiteral("-922337203685477.5808");
+        QTest::newRow("whole") << qint64(12500000) << u"1250"_s;
+        QTest::newRow("one decimal") << qint64(125000) << u"12.5"_s;
+        QTest::newRow("zero") << qint64(0) << u"0"_s;
+        QTest::newRow("negative") << qint64(-37500) << u"-3.75"_s;
+        QTest::newRow("a zero ahead of the point") << qint64(-7) << u"-0.0007"_s;
+        QTest::newRow("the greatest") << std::numeric_limits<qint64>::max() << u"922337203685477.5807"_s;
+        QTest::newRow("the least") << std::numeric_limits<qint64>::min() << u"-922337203685477.5808"_s;
     }
     void PlainTextOfAnAmountHasNoMoreDigitsThanItNeeds()
     {
@@ -376,13 +376,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<float>("value");
         QTest::addColumn<QString>("text");
-        QTest::newRow("six per cent") << 0.06F << QStringLiteral("0.06");
-        QTest::newRow("nine tenths") << 0.9F << QStringLiteral("0.9");
-        QTest::newRow("whole") << 12.0F << QStringLiteral("12");
-        QTest::newRow("nine digits where it needs them") << 0.091717355F << QStringLiteral("0.091717355");
-        QTest::newRow("negative zero shows no sign") << -0.0F << QStringLiteral("0");
-        QTest::newRow("no exponent") << 1e10F << QStringLiteral("10000000000");
-        QTest::newRow("no exponent for a small one") << 1e-7F << QStringLiteral("0.0000001");
+        QTest::newRow("six per cent") << 0.06F << u"0.06"_s;
+        QTest::newRow("nine tenths") << 0.9F << u"0.9"_s;
+        QTest::newRow("whole") << 12.0F << u"12"_s;
+        QTest::newRow("nine digits where it needs them") << 0.091717355F << u"0.091717355"_s;
+        QTest::newRow("negative zero shows no sign") << -0.0F << u"0"_s;
+        QTest::newRow("no exponent") << 1e10F << u"10000000000"_s;
+        QTest::newRow("no exponent for a small one") << 1e-7F << u"0.0000001"_s;
     }
     void PlainTextOfASingleReadsBackAsTheSameValue()
     {
@@ -413,17 +413,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("digits");
-        QTest::newRow("as it is") << QStringLiteral("12.5") << QStringLiteral("12.5");
-        QTest::newRow("symbol and separators go") << QStringLiteral("($1,234.50)") << QStringLiteral("-1234.5");
-        QTest::newRow("a zero comes ahead of the point") << QStringLiteral("-.5") << QStringLiteral("-0.5");
+        QTest::newRow("as it is") << u"12.5"_s << u"12.5"_s;
+        QTest::newRow("symbol and separators go") << u"($1,234.50)"_s << u"-1234.5"_s;
+        QTest::newRow("a zero comes ahead of the point") << u"-.5"_s << u"-0.5"_s;
         QTest::newRow("more decimals than a double holds")
-            << QStringLiteral("0.12345678901234567891") << QStringLiteral("0.12345678901234567891");
-        QTest::newRow("zeros at the end go") << QStringLiteral("10.500") << QStringLiteral("10.5");
-        QTest::newRow("zeros ahead of the point stay") << QStringLiteral("&HA0") << QStringLiteral("160");
-        QTest::newRow("an exponent is carried out") << QStringLiteral("1.5e3") << QStringLiteral("1500");
-        QTest::newRow("a negative exponent is carried out") << QStringLiteral("15e-4") << QStringLiteral("0.0015");
-        QTest::newRow("nothing") << QStringLiteral("0.00") << QStringLiteral("0");
-        QTest::newRow("next to nothing") << QStringLiteral("1e-99999999") << QStringLiteral("0");
+            << u"0.12345678901234567891"_s << u"0.12345678901234567891"_s;
+        QTest::newRow("zeros at the end go") << u"10.500"_s << u"10.5"_s;
+        QTest::newRow("zeros ahead of the point stay") << u"&HA0"_s << u"160"_s;
+        QTest::newRow("an exponent is carried out") << u"1.5e3"_s << u"1500"_s;
+        QTest::newRow("a negative exponent is carried out") << u"15e-4"_s << u"0.0015"_s;
+        QTest::newRow("nothing") << u"0.00"_s << u"0"_s;
+        QTest::newRow("next to nothing") << u"1e-99999999"_s << u"0"_s;
     }
     void ADecimalKeepsEveryDigit()
     {
@@ -436,19 +436,15 @@ private Q_SLOTS:
         QTest::addColumn<float>("value");
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("spaced");
-        QTest::newRow("whole") << 85.0F << QStringLiteral("85") << QStringLiteral(" 85");
-        QTest::newRow("a fraction: only the spaced form drops its zero")
-            << 0.5F << QStringLiteral("0.5") << QStringLiteral(" .5");
-        QTest::newRow("a negative fraction") << -0.5F << QStringLiteral("-0.5") << QStringLiteral("-.5");
-        QTest::newRow("negative: the sign takes the blank's place")
-            << -85.25F << QStringLiteral("-85.25") << QStringLiteral("-85.25");
-        QTest::newRow("the eighth digit is rounded away")
-            << 61.120003F << QStringLiteral("61.12") << QStringLiteral(" 61.12");
-        QTest::newRow("seven digits stay") << 68.42606F << QStringLiteral("68.42606") << QStringLiteral(" 68.42606");
-        QTest::newRow("zero") << 0.0F << QStringLiteral("0") << QStringLiteral(" 0");
-        QTest::newRow("negative zero") << -0.0F << QStringLiteral("0") << QStringLiteral(" 0");
-        QTest::newRow("great numbers keep their length")
-            << 12345678.0F << QStringLiteral("12345680") << QStringLiteral(" 12345680");
+        QTest::newRow("whole") << 85.0F << u"85"_s << u" 85"_s;
+        QTest::newRow("a fraction: only the spaced form drops its zero") << 0.5F << u"0.5"_s << u" .5"_s;
+        QTest::newRow("a negative fraction") << -0.5F << u"-0.5"_s << u"-.5"_s;
+        QTest::newRow("negative: the sign takes the blank's place") << -85.25F << u"-85.25"_s << u"-85.25"_s;
+        QTest::newRow("the eighth digit is rounded away") << 61.120003F << u"61.12"_s << u" 61.12"_s;
+        QTest::newRow("seven digits stay") << 68.42606F << u"68.42606"_s << u" 68.42606"_s;
+        QTest::newRow("zero") << 0.0F << u"0"_s << u" 0"_s;
+        QTest::newRow("negative zero") << -0.0F << u"0"_s << u" 0"_s;
+        QTest::newRow("great numbers keep their length") << 12345678.0F << u"12345680"_s << u" 12345680"_s;
     }
     void ATextBoxShowsAtMostSevenDigitsOfASingle()
     {

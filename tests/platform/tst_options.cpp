@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class TestOptions : public QObject
 {
     Q_OBJECT
@@ -17,7 +19,7 @@ private:
 
     QString StoreText() const
     {
-        QFile file(m_home.filePath(AppTitle + QStringLiteral(".ini")));
+        QFile file(m_home.filePath(AppTitle + u".ini"_s));
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
@@ -28,53 +30,53 @@ private Q_SLOTS:
         TheDesk.ProgramTitle = AppTitle;
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_home.path());
     }
-    void init() { QFile::remove(m_home.filePath(AppTitle + QStringLiteral(".ini"))); }
+    void init() { QFile::remove(m_home.filePath(AppTitle + u".ini"_s)); }
 
     void AKeyThatWasNeverSavedGivesTheFallback()
     {
-        QCOMPARE(GetSetting(QStringLiteral("Show Tips at Startup"), QStringLiteral("1")), QStringLiteral("1"));
-        QCOMPARE(GetSetting(QStringLiteral("Show Tips at Startup"), QStringLiteral("0")), QStringLiteral("0"));
+        QCOMPARE(GetSetting(u"Show Tips at Startup"_s, u"1"_s), u"1"_s);
+        QCOMPARE(GetSetting(u"Show Tips at Startup"_s, u"0"_s), u"0"_s);
     }
 
     void WhatWasSavedIsReadBack_data()
     {
         QTest::addColumn<QString>("value");
-        QTest::newRow("one") << QStringLiteral("1");
-        QTest::newRow("zero") << QStringLiteral("0");
-        QTest::newRow("negative") << QStringLiteral("-1");
-        QTest::newRow("a comma is text, not a list") << QStringLiteral("1,5");
-        QTest::newRow("any text") << QStringLiteral("caf\u00E9; \"x\" = @y");
-        QTest::newRow("empty is a value, too") << QStringLiteral("");
+        QTest::newRow("one") << u"1"_s;
+        QTest::newRow("zero") << u"0"_s;
+        QTest::newRow("negative") << u"-1"_s;
+        QTest::newRow("a comma is text, not a list") << u"1,5"_s;
+        QTest::newRow("any text") << u"caf\u00E9; \"x\" = @y"_s;
+        QTest::newRow("empty is a value, too") << u""_s;
     }
     void WhatWasSavedIsReadBack()
     {
         QFETCH(QString, value);
-        SaveSetting(QStringLiteral("Show Welcome At Startup"), value);
-        QCOMPARE(GetSetting(QStringLiteral("Show Welcome At Startup"), QStringLiteral("fallback")), value);
+        SaveSetting(u"Show Welcome At Startup"_s, value);
+        QCOMPARE(GetSetting(u"Show Welcome At Startup"_s, u"fallback"_s), value);
     }
 
     void TheLastValueCounts()
     {
-        SaveSetting(QStringLiteral("Show Tallymere Tutor"), QStringLiteral("1"));
-        SaveSetting(QStringLiteral("Show Tallymere Tutor"), QStringLiteral("0"));
-        QCOMPARE(GetSetting(QStringLiteral("Show Tallymere Tutor"), QStringLiteral("1")), QStringLiteral("0"));
+        SaveSetting(u"Show Tallymere Tutor"_s, u"1"_s);
+        SaveSetting(u"Show Tallymere Tutor"_s, u"0"_s);
+        QCOMPARE(GetSetting(u"Show Tallymere Tutor"_s, u"1"_s), u"0"_s);
     }
 
     void KeysIgnoreLetterCase()
     {
-        SaveSetting(QStringLiteral("Show Welcome At Startup"), QStringLiteral("1"));
-        QCOMPARE(GetSetting(QStringLiteral("show welcome at STARTUP"), QStringLiteral("0")), QStringLiteral("1"));
-        SaveSetting(QStringLiteral("show welcome at startup"), QStringLiteral("2"));
-        QCOMPARE(GetSetting(QStringLiteral("Show Welcome At Startup"), QStringLiteral("0")), QStringLiteral("2"));
-        QCOMPARE(StoreText().count(QStringLiteral("welcome"), Qt::CaseInsensitive), 1);
+        SaveSetting(u"Show Welcome At Startup"_s, u"1"_s);
+        QCOMPARE(GetSetting(u"show welcome at STARTUP"_s, u"0"_s), u"1"_s);
+        SaveSetting(u"show welcome at startup"_s, u"2"_s);
+        QCOMPARE(GetSetting(u"Show Welcome At Startup"_s, u"0"_s), u"2"_s);
+        QCOMPARE(StoreText().count(u"welcome"_s, Qt::CaseInsensitive), 1);
     }
 
     void TheStoreIsOnTheDiskAtOnceUnderTheProgramsTitle()
     {
-        SaveSetting(QStringLiteral("Show Tips at Startup"), QStringLiteral("1"));
+        SaveSetting(u"Show Tips at Startup"_s, u"1"_s);
         const QString text = StoreText();
-        QVERIFY2(text.contains(QStringLiteral("[Options]")), qPrintable(text));
-        QVERIFY2(text.contains(QStringLiteral("=1")), qPrintable(text));
+        QVERIFY2(text.contains(u"[Options]"_s), qPrintable(text));
+        QVERIFY2(text.contains(u"=1"_s), qPrintable(text));
     }
 };
 

@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class TestPrinter : public QObject
 {
     Q_OBJECT
@@ -33,15 +35,14 @@ private Q_SLOTS:
         const auto row = [](const char *name, const char *before, int column, const QStringList &lines) {
             QTest::newRow(name) << QString::fromLatin1(before) << column << lines;
         };
-        row("column 1 is the line's beginning", "", 1, {QStringLiteral("x")});
-        row("column 5 leaves four blanks", "", 5, {QStringLiteral("    x")});
-        row("column 0 counts as 1", "", 0, {QStringLiteral("x")});
-        row("a negative column counts as 1", "", -7, {QStringLiteral("x")});
-        row("the column next to the text goes on in the line", "abcd", 5, {QStringLiteral("abcdx")});
-        row("a gap is filled with blanks", "ab", 5, {QStringLiteral("ab  x")});
-        row("a line that is past the column goes on in the next", "abcdef", 5,
-            {QStringLiteral("abcdef"), QStringLiteral("    x")});
-        row("column 1 behind text goes on in the next", "a", 1, {QStringLiteral("a"), QStringLiteral("x")});
+        row("column 1 is the line's beginning", "", 1, {u"x"_s});
+        row("column 5 leaves four blanks", "", 5, {u"    x"_s});
+        row("column 0 counts as 1", "", 0, {u"x"_s});
+        row("a negative column counts as 1", "", -7, {u"x"_s});
+        row("the column next to the text goes on in the line", "abcd", 5, {u"abcdx"_s});
+        row("a gap is filled with blanks", "ab", 5, {u"ab  x"_s});
+        row("a line that is past the column goes on in the next", "abcdef", 5, {u"abcdef"_s, u"    x"_s});
+        row("column 1 behind text goes on in the next", "a", 1, {u"a"_s, u"x"_s});
     }
     void TabMovesToAColumnThatCountsFromOne()
     {
@@ -49,14 +50,14 @@ private Q_SLOTS:
         QFETCH(int, column);
         if (!before.isEmpty())
             ThePrinter.Print(before);
-        ThePrinter.Tab(column).Print(QStringLiteral("x")).NewLine();
+        ThePrinter.Tab(column).Print(u"x"_s).NewLine();
         QTEST(ThePrinter.PendingLines(), "lines");
     }
 
     void TextFollowsTextInTheLine()
     {
-        ThePrinter.Print(QStringLiteral("Quantity ")).Print(QStringLiteral("2")).NewLine();
-        QCOMPARE(ThePrinter.PendingLines(), QStringList{QStringLiteral("Quantity 2")});
+        ThePrinter.Print(u"Quantity "_s).Print(u"2"_s).NewLine();
+        QCOMPARE(ThePrinter.PendingLines(), QStringList{u"Quantity 2"_s});
     }
 
     void ACentredLineStartsAtHalfTheRest_data()
@@ -89,19 +90,19 @@ private Q_SLOTS:
 
     void BlanksAtTheEndOfALineAreCutOff()
     {
-        ThePrinter.Print(QStringLiteral("total   ")).NewLine();
+        ThePrinter.Print(u"total   "_s).NewLine();
         ThePrinter.Tab(30).NewLine();
-        QCOMPARE(ThePrinter.PendingLines(), (QStringList{QStringLiteral("total"), QString()}));
+        QCOMPARE(ThePrinter.PendingLines(), (QStringList{u"total"_s, QString()}));
     }
 
     void EndDocSendsTheDocumentOffOnce()
     {
-        ThePrinter.Print(QStringLiteral("one")).NewLine();
+        ThePrinter.Print(u"one"_s).NewLine();
         ThePrinter.NewLine();
-        ThePrinter.Print(QStringLiteral("two")).NewLine();
+        ThePrinter.Print(u"two"_s).NewLine();
         ThePrinter.EndDoc();
         QCOMPARE(m_printed.size(), 1);
-        QCOMPARE(m_printed[0].Lines, (QStringList{QStringLiteral("one"), QString(), QStringLiteral("two")}));
+        QCOMPARE(m_printed[0].Lines, (QStringList{u"one"_s, QString(), u"two"_s}));
         QVERIFY(ThePrinter.PendingLines().isEmpty());
         ThePrinter.EndDoc();
         QCOMPARE(m_printed.size(), 1);
@@ -109,10 +110,10 @@ private Q_SLOTS:
 
     void EndDocEndsAnOpenLine()
     {
-        ThePrinter.Print(QStringLiteral("open"));
+        ThePrinter.Print(u"open"_s);
         ThePrinter.EndDoc();
         QCOMPARE(m_printed.size(), 1);
-        QCOMPARE(m_printed[0].Lines, QStringList{QStringLiteral("open")});
+        QCOMPARE(m_printed[0].Lines, QStringList{u"open"_s});
     }
 
     void WithNothingPrintedEndDocDoesNothing()
@@ -122,36 +123,36 @@ private Q_SLOTS:
         ThePrinter.EndDoc();
         QVERIFY(m_printed.isEmpty());
         // Nor does the column that was moved to reach the next document.
-        ThePrinter.Print(QStringLiteral("x")).NewLine().Tab(9);
+        ThePrinter.Print(u"x"_s).NewLine().Tab(9);
         ThePrinter.EndDoc();
         QCOMPARE(m_printed.size(), 1);
-        QCOMPARE(m_printed[0].Lines, QStringList{QStringLiteral("x")});
+        QCOMPARE(m_printed[0].Lines, QStringList{u"x"_s});
     }
 
     void TheDocumentHasTheFontThatWasSetBeforeIt()
     {
-        ThePrinter.Font = {QStringLiteral("Courier"), 8, false, false, false, false, 0};
-        ThePrinter.Print(QStringLiteral("x")).NewLine();
-        ThePrinter.Font = {QStringLiteral("Sans"), 12, true, false, false, false, 0xFF};
+        ThePrinter.Font = {u"Courier"_s, 8, false, false, false, false, 0};
+        ThePrinter.Print(u"x"_s).NewLine();
+        ThePrinter.Font = {u"Sans"_s, 12, true, false, false, false, 0xFF};
         ThePrinter.EndDoc();
-        ThePrinter.Print(QStringLiteral("y"));
+        ThePrinter.Print(u"y"_s);
         ThePrinter.EndDoc();
         QCOMPARE(m_printed.size(), 2);
-        QCOMPARE(m_printed[0].Font.Name, QStringLiteral("Courier"));
+        QCOMPARE(m_printed[0].Font.Name, u"Courier"_s);
         QCOMPARE(m_printed[0].Font.Size, 8.0F);
         QVERIFY(m_printed[1].Font == ThePrinter.Font);
     }
 
     void ANameIsOfOneDocument()
     {
-        ThePrinter.DocumentName = QStringLiteral("Budget");
+        ThePrinter.DocumentName = u"Budget"_s;
         ThePrinter.EndDoc(); // nothing is printed yet
-        ThePrinter.Print(QStringLiteral("x"));
+        ThePrinter.Print(u"x"_s);
         ThePrinter.EndDoc();
-        ThePrinter.Print(QStringLiteral("y"));
+        ThePrinter.Print(u"y"_s);
         ThePrinter.EndDoc();
         QCOMPARE(m_printed.size(), 2);
-        QCOMPARE(m_printed[0].Name, QStringLiteral("Budget"));
+        QCOMPARE(m_printed[0].Name, u"Budget"_s);
         QCOMPARE(m_printed[1].Name, QString());
     }
 };

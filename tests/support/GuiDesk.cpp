@@ -7,6 +7,8 @@
 #include <QGroupBox>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 TestLine TheLastAct = TestLine::current();
 } // namespace
@@ -29,10 +31,10 @@ void GuiDesk::StartProgram(TestLine where)
 {
     EndsWithItsWindows = false;
     State.CurrentPayPeriodConfirmed = true;
-    TheWindows.Show(QStringLiteral("frmMain"));
+    TheWindows.Show(u"frmMain"_s);
     Settle();
-    if (TakeCalculatorCalls() != QStringList{QStringLiteral("start")})
-        Fail(QStringLiteral("the start did not start the calculator"), where);
+    if (TakeCalculatorCalls() != QStringList{u"start"_s})
+        Fail(u"the start did not start the calculator"_s, where);
 }
 
 void Settle()
@@ -69,11 +71,11 @@ bool InReach(const QWidget &control, TestLine where)
     TheLastAct = where;
     const QWidget *modal = QApplication::activeModalWidget();
     if (!control.isEnabled())
-        Fail(control.objectName() + QStringLiteral(" is grey"), where);
+        Fail(control.objectName() + u" is grey"_s, where);
     else if (!control.isVisible())
-        Fail(control.objectName() + QStringLiteral(" is not to be seen"), where);
+        Fail(control.objectName() + u" is not to be seen"_s, where);
     else if (modal && modal != control.window())
-        Fail(QStringLiteral("%1 is behind %2").arg(control.objectName(), modal->objectName()), where);
+        Fail(u"%1 is behind %2"_s.arg(control.objectName(), modal->objectName()), where);
     else
         return true;
     return false;
@@ -127,18 +129,18 @@ void ClickRow(const QString &window, const QString &list, int row, TestLine wher
         return;
     const QListWidgetItem *item = box.item(row);
     if (!item)
-        return Fail(QStringLiteral("%1 has no row %2").arg(list).arg(row), where);
+        return Fail(u"%1 has no row %2"_s.arg(list).arg(row), where);
     QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::NoModifier, box.visualItemRect(item).center());
     Settle();
 }
 
 void Choose(const QString &entry, TestLine where)
 {
-    auto &action = Find<QAction>(QStringLiteral("frmMain"), entry, where);
-    if (!InReach(*TheWindows.Loaded(QStringLiteral("frmMain")), where))
+    auto &action = Find<QAction>(u"frmMain"_s, entry, where);
+    if (!InReach(*TheWindows.Loaded(u"frmMain"_s), where))
         return;
     if (!action.isEnabled())
-        return Fail(entry + QStringLiteral(" is grey"), where);
+        return Fail(entry + u" is grey"_s, where);
     action.trigger();
     Settle();
 }
@@ -148,7 +150,7 @@ void CloseByFrame(const QString &window, TestLine where)
     TheLastAct = where;
     Form *form = TheWindows.Loaded(window);
     if (!form)
-        GiveUp(QStringLiteral("no ") + window, where);
+        GiveUp(u"no "_s + window, where);
     form->close();
     Settle();
 }
@@ -164,7 +166,7 @@ QString TextOf(const QString &window, const QString &control, TestLine where)
         return group->title();
     if (auto *button = qobject_cast<QAbstractButton *>(&widget))
         return button->text();
-    GiveUp(QStringLiteral("%1.%2 has no text").arg(window, control), where);
+    GiveUp(u"%1.%2 has no text"_s.arg(window, control), where);
 }
 
 bool IsEnabled(const QString &window, const QString &control, TestLine where)
@@ -181,7 +183,7 @@ QString FocusOf(const QString &window, TestLine where)
 {
     const Form *form = TheWindows.Loaded(window);
     if (!form)
-        GiveUp(QStringLiteral("no ") + window, where);
+        GiveUp(u"no "_s + window, where);
     const QWidget *control = form->FocusControl();
     return control ? control->objectName() : QString();
 }
@@ -205,7 +207,7 @@ QStringList GridRows(const QString &window, const QString &grid, int from, TestL
         for (int column = 0; column < table.Columns(); ++column)
             cells += table.Text(row, column);
         if (!cells.join(QString()).isEmpty())
-            rows += cells.join(QStringLiteral(" | "));
+            rows += cells.join(u" | "_s);
     }
     return rows;
 }

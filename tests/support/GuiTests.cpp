@@ -6,11 +6,13 @@
 #include "platform/values/Locale.h"
 #include "platform/windows/Application.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 int main(int argc, char **argv)
 {
     Application application(argc, argv, ProgramName);
-    QApplication::setStyle(new ClearEdges(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ClearEdges(u"Fusion"_s));
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    const Watchdog watchdog(qEnvironmentVariable("TALLYMERE_MODAL_LIMIT", QStringLiteral("10000")).toInt());
+    const Watchdog watchdog(qEnvironmentVariable("TALLYMERE_MODAL_LIMIT", u"10000"_s).toInt());
     return RunRegisteredTest(argc, argv);
 }

@@ -19,6 +19,8 @@
 #include <filesystem>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// A file that the test knows carries this time, so that every later writing shows, even one of the same bytes.
@@ -56,7 +58,7 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
     ResetProgram();
     TheDesk.ProgramTitle = AppTitle;
     State.ApplicationPath = Folder();
-    State.StoresDirectory = Folder() + QStringLiteral("\\stores\\");
+    State.StoresDirectory = Folder() + u"\\stores\\"_s;
     // The next scripted answer; a question that nobody scripted one for is cancelled.
     const auto next = [this](auto &answers) {
         if (!answers.isEmpty())
@@ -93,16 +95,16 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
         SavedOptions += key.toLower();
     };
     TheDesk.StartCalculator = [this] {
-        CalculatorCalls += QStringLiteral("start");
+        CalculatorCalls += u"start"_s;
         if (StartCalculatorError != 0)
             RaiseError(RuntimeError::Code(StartCalculatorError));
     };
     TheDesk.BringCalculatorForward = [this] {
-        CalculatorCalls += QStringLiteral("forward");
+        CalculatorCalls += u"forward"_s;
         if (BringForwardError != 0)
             RaiseError(RuntimeError::Code(BringForwardError));
     };
-    TheDesk.CloseCalculator = [this] { CalculatorCalls += QStringLiteral("close"); };
+    TheDesk.CloseCalculator = [this] { CalculatorCalls += u"close"_s; };
     TheDesk.Beep = [this] { ++Beeps; };
     TheDesk.Hourglass = [this](bool on) { HourglassCalls += on; };
     TheDesk.EndProgram = [this] { Ended = true; };
@@ -245,10 +247,9 @@ void RecordingDesk::LayHousehold() const
     for (const char *name :
          {"creditor.txt", "regulars.txt", "extra.txt", "projects.txt", "mastshop.txt", "stores\\untitled.lst"})
         WriteFile(QLatin1String(name), "0\r\n");
-    WriteFile(QStringLiteral("environm.ini"),
-              "26\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n");
+    WriteFile(u"environm.ini"_s, "26\r\n1000\r\n14\r\n1\r\n15\r\n0\r\n0.06\r\n\"untitled.lst\"\r\n0.9\r\n");
     QByteArray pages = ";\r\n";
     for (int page = 1; page <= MostTutorPages; ++page)
         pages += "Page " + QByteArray::number(page) + "\r\n;\r\n";
-    WriteFile(QStringLiteral("help\\Instruction.txt"), pages);
+    WriteFile(u"help\\Instruction.txt"_s, pages);
 }

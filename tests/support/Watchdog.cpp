@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 Watchdog::Watchdog(int limit) : m_limit(limit)
 {
     startTimer(std::min(limit / 2, 500));
@@ -25,12 +27,12 @@ void Watchdog::timerEvent(QTimerEvent *)
     m_since.start();
     QString name = modal->objectName() + QLatin1Char(' ') + modal->windowTitle();
     if (const auto *box = qobject_cast<QMessageBox *>(modal))
-        name += QStringLiteral(": ") + box->text();
-    Fail(QStringLiteral("a modal window stood until the watchdog closed it: ") + name.simplified(), LastAct());
+        name += u": "_s + box->text();
+    Fail(u"a modal window stood until the watchdog closed it: "_s + name.simplified(), LastAct());
     if (auto *dialog = qobject_cast<QDialog *>(modal))
         dialog->done(QDialog::Rejected);
     else if (!TheWindows.Loaded(modal->objectName()) || !TheWindows.Unload(modal->objectName()))
         modal->close();
     if (modal == QApplication::activeModalWidget())
-        GiveUp(QStringLiteral("it cannot be closed"), LastAct());
+        GiveUp(u"it cannot be closed"_s, LastAct());
 }

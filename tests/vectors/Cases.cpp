@@ -8,6 +8,8 @@
 #include <QSet>
 #include <bit>
 
+using namespace Qt::Literals::StringLiterals;
+
 QJsonValue Told(Currency amount)
 {
     return amount.TenThousandths();
@@ -16,8 +18,7 @@ QJsonValue Told(Currency amount)
 QJsonValue Told(float value)
 {
     const QString bits = QString::number(std::bit_cast<quint32>(value), 16).rightJustified(8, QLatin1Char('0'));
-    return QJsonObject{{QStringLiteral("text"), PlainText(value)},
-                       {QStringLiteral("bits"), QStringLiteral("0x") + bits}};
+    return QJsonObject{{u"text"_s, PlainText(value)}, {u"bits"_s, u"0x"_s + bits}};
 }
 
 QJsonArray Told(const QStringList &lines)
@@ -54,7 +55,7 @@ void TakeHousehold(const QJsonObject &household)
     State.MonthEndPay = Integer(household[u"MonthEndPay"]);
     State.ForecastPeriods = Integer(household[u"ForecastPeriods"]);
     State.MonthDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    State.PrintFontName = QStringLiteral("Courier");
+    State.PrintFontName = u"Courier"_s;
     State.PrintFontSize = 8;
 
     const QJsonArray creditors = household[u"Creditors"].toArray();
@@ -107,9 +108,9 @@ QJsonArray ToldCreditors()
 {
     QJsonArray told;
     for (int i = 1; i <= State.NumberOfCreditors; ++i)
-        told += QJsonObject{{QStringLiteral("CreditorDueDate"), State.Creditors(i).CreditorDueDate},
-                            {QStringLiteral("CreditorName"), State.Creditors(i).CreditorName},
-                            {QStringLiteral("CreditorAmount"), Told(State.Creditors(i).CreditorAmount)}};
+        told += QJsonObject{{u"CreditorDueDate"_s, State.Creditors(i).CreditorDueDate},
+                            {u"CreditorName"_s, State.Creditors(i).CreditorName},
+                            {u"CreditorAmount"_s, Told(State.Creditors(i).CreditorAmount)}};
     return told;
 }
 
@@ -117,8 +118,8 @@ QJsonArray ToldRegulars()
 {
     QJsonArray told;
     for (int i = 1; i <= State.NumberOfRegulars; ++i)
-        told += QJsonObject{{QStringLiteral("RegularItem"), State.Regulars(i).RegularItem},
-                            {QStringLiteral("RegularAmount"), Told(State.Regulars(i).RegularAmount)}};
+        told += QJsonObject{{u"RegularItem"_s, State.Regulars(i).RegularItem},
+                            {u"RegularAmount"_s, Told(State.Regulars(i).RegularAmount)}};
     return told;
 }
 
@@ -137,7 +138,7 @@ void HoldProjectDatesAsPlanned()
 
 void SaveProjectsAnew(const RecordingDesk &desk)
 {
-    desk.WriteFile(QStringLiteral("projects.txt"), "0\r\n");
+    desk.WriteFile(u"projects.txt"_s, "0\r\n");
     SaveProjects();
 }
 
@@ -148,11 +149,11 @@ QJsonArray ToldExtras(std::optional<DateFormat> format)
         const ExtraPayPeriodRecord &payPeriod = State.ExtraPayPeriods(i);
         QJsonArray items;
         for (int item = 1; item <= payPeriod.NumberOfExtraItems; ++item)
-            items += QJsonObject{{QStringLiteral("ExtraItem"), payPeriod.ExtraItems(item).ExtraItem},
-                                 {QStringLiteral("ExtraItemAmount"), Told(payPeriod.ExtraItems(item).ExtraItemAmount)}};
-        told += QJsonObject{{QStringLiteral("PayPeriodDate"),
+            items += QJsonObject{{u"ExtraItem"_s, payPeriod.ExtraItems(item).ExtraItem},
+                                 {u"ExtraItemAmount"_s, Told(payPeriod.ExtraItems(item).ExtraItemAmount)}};
+        told += QJsonObject{{u"PayPeriodDate"_s,
                              format ? Format(payPeriod.PayPeriodDate.Text(), *format) : payPeriod.PayPeriodDate.Text()},
-                            {QStringLiteral("ExtraItems"), items}};
+                            {u"ExtraItems"_s, items}};
     }
     return told;
 }
@@ -163,11 +164,11 @@ QJsonArray ToldProjects()
     for (int i = 1; i <= State.NumberOfProjects; ++i) {
         QJsonArray entries;
         for (int entry = 1; entry <= State.ProjectEntryCounts(i); ++entry)
-            entries += QJsonObject{{QStringLiteral("Date"), State.ProjectEntryDates(i)(entry).Text()},
-                                   {QStringLiteral("Amount"), Told(State.ProjectEntryAmounts(i)(entry))}};
-        told += QJsonObject{{QStringLiteral("ProjectName"), State.ProjectNames(i)},
-                            {QStringLiteral("ProjectAmount"), Told(State.ProjectAmounts(i))},
-                            {QStringLiteral("Entries"), entries}};
+            entries += QJsonObject{{u"Date"_s, State.ProjectEntryDates(i)(entry).Text()},
+                                   {u"Amount"_s, Told(State.ProjectEntryAmounts(i)(entry))}};
+        told += QJsonObject{{u"ProjectName"_s, State.ProjectNames(i)},
+                            {u"ProjectAmount"_s, Told(State.ProjectAmounts(i))},
+                            {u"Entries"_s, entries}};
     }
     return told;
 }
@@ -177,7 +178,7 @@ QJsonArray ToldMessages(RecordingDesk &desk)
     QJsonArray told;
     while (!desk.Messages.isEmpty()) {
         const Message message = desk.TakeMessage();
-        told += QJsonObject{{QStringLiteral("title"), message.Title}, {QStringLiteral("text"), message.Text}};
+        told += QJsonObject{{u"title"_s, message.Title}, {u"text"_s, message.Text}};
     }
     return told;
 }
@@ -204,7 +205,7 @@ bool AnyOf(const QJsonValue &expected, const QJsonValue &actual)
     return expected.isArray() && actual.isString();
 }
 
-const QString Tolerance = QStringLiteral("tolerance");
+const QString Tolerance = u"tolerance"_s;
 
 /// Whether both are numbers told as texts, and near enough.
 bool IsWithin(const QJsonValue &tolerance, const QJsonValue &expected, const QJsonValue &actual)
@@ -220,7 +221,7 @@ QJsonValue Changed(const QJsonValue &leaf)
     case QJsonValue::Bool: return !leaf.toBool();
     case QJsonValue::Double: return leaf.toInteger() + 1;
     case QJsonValue::String: return leaf.toString() + QLatin1Char('x');
-    default: return QStringLiteral("x");
+    default: return u"x"_s;
     }
 }
 
@@ -249,13 +250,13 @@ QStringList Differences(const QJsonValue &expected, const QJsonValue &actual, co
         for (qsizetype i = 0; i < qMax(one.size(), other.size()); ++i)
             found += Differences(i < one.size() ? one[i] : QJsonValue(QJsonValue::Undefined),
                                  i < other.size() ? other[i] : QJsonValue(QJsonValue::Undefined),
-                                 QStringLiteral("%1[%2]").arg(where).arg(i));
+                                 u"%1[%2]"_s.arg(where).arg(i));
         return found;
     }
     if (AnyOf(expected, actual) && expected.toArray().contains(actual))
         return found;
     if (expected != actual)
-        found += QStringLiteral("%1: expected %2, got %3").arg(where, Shown(expected), Shown(actual));
+        found += u"%1: expected %2, got %3"_s.arg(where, Shown(expected), Shown(actual));
     return found;
 }
 
@@ -290,7 +291,7 @@ QList<Falsified> Falsifications(const QJsonValue &expected, const QJsonValue &ac
             kinds += one.Kind;
             QJsonArray changed = whole;
             changed[i] = one.Value;
-            found.append({QStringLiteral("[]") + one.Kind, changed});
+            found.append({u"[]"_s + one.Kind, changed});
         }
     }
     QJsonArray other = whole;
@@ -298,7 +299,6 @@ QList<Falsified> Falsifications(const QJsonValue &expected, const QJsonValue &ac
         other.append(QJsonValue::Null);
     else
         other.removeLast();
-    found.append(
-        {QStringLiteral("[] ") + (whole.isEmpty() ? QStringLiteral("longer") : QStringLiteral("shorter")), other});
+    found.append({u"[] "_s + (whole.isEmpty() ? u"longer"_s : u"shorter"_s), other});
     return found;
 }

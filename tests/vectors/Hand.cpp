@@ -11,13 +11,15 @@
 #include <QSignalBlocker>
 #include <stdexcept>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 Form &LoadedWindow(const QString &window)
 {
     Form *form = TheWindows.Loaded(window);
     if (!form)
-        throw std::runtime_error(qPrintable(window + QStringLiteral(" is not loaded")));
+        throw std::runtime_error(qPrintable(window + u" is not loaded"_s));
     return *form;
 }
 
@@ -26,7 +28,7 @@ Control &In(const QString &window, const QString &name)
 {
     auto *control = LoadedWindow(window).findChild<Control *>(name);
     if (!control)
-        throw std::runtime_error(qPrintable(QStringLiteral("no %1.%2").arg(window, name)));
+        throw std::runtime_error(qPrintable(u"no %1.%2"_s.arg(window, name)));
     return *control;
 }
 
@@ -64,7 +66,7 @@ void Enter(const QString &window, const QString &field, const QString &text)
 
 void PressEnterIn(const QString &window, const QString &field)
 {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
     QCoreApplication::sendEvent(&In<QLineEdit>(window, field), &press);
 }
 

@@ -17,32 +17,34 @@
 #include <QSet>
 #include <QTextStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 const QMap<QString, RunCase> Areas{
-    {QStringLiteral("files"), RunFilesCase},
-    {QStringLiteral("budget"), RunBudgetCase},
-    {QStringLiteral("forecast"), RunForecastCase},
-    {QStringLiteral("overhead"), RunOverheadCase},
-    {QStringLiteral("scan"), RunScanCase},
-    {QStringLiteral("commitments"), RunCommitmentsCase},
-    {QStringLiteral("projects"), RunProjectsCase},
-    {QStringLiteral("payoff"), RunPayOffCase},
-    {QStringLiteral("loans"), RunLoansCase},
-    {QStringLiteral("amortization"), RunAmortizationCase},
-    {QStringLiteral("rates"), RunRatesCase},
-    {QStringLiteral("savings"), RunSavingsCase},
-    {QStringLiteral("wages"), RunWagesCase},
-    {QStringLiteral("hours"), RunHoursCase},
-    {QStringLiteral("averagenet"), RunAverageNetCase},
-    {QStringLiteral("shopping"), RunShoppingCase},
-    {QStringLiteral("setup"), RunSetupCase},
+    {u"files"_s, RunFilesCase},
+    {u"budget"_s, RunBudgetCase},
+    {u"forecast"_s, RunForecastCase},
+    {u"overhead"_s, RunOverheadCase},
+    {u"scan"_s, RunScanCase},
+    {u"commitments"_s, RunCommitmentsCase},
+    {u"projects"_s, RunProjectsCase},
+    {u"payoff"_s, RunPayOffCase},
+    {u"loans"_s, RunLoansCase},
+    {u"amortization"_s, RunAmortizationCase},
+    {u"rates"_s, RunRatesCase},
+    {u"savings"_s, RunSavingsCase},
+    {u"wages"_s, RunWagesCase},
+    {u"hours"_s, RunHoursCase},
+    {u"averagenet"_s, RunAverageNetCase},
+    {u"shopping"_s, RunShoppingCase},
+    {u"setup"_s, RunSetupCase},
 };
 
 /// The toolkit's plugin without a display tells what it cannot do; nobody needs to know.
 void TellWarnings(QtMsgType, const QMessageLogContext &, const QString &text)
 {
-    if (!text.startsWith(QStringLiteral("This plugin does not support")))
+    if (!text.startsWith(u"This plugin does not support"_s))
         QTextStream(stderr) << text << '\n';
 }
 
@@ -61,7 +63,7 @@ QJsonValue Answer(RunCase run, const QJsonObject &input)
     try {
         answer = run(input, desk);
     } catch (const RuntimeError &error) {
-        answer = QStringLiteral("run-time error: ") + error.Text();
+        answer = u"run-time error: "_s + error.Text();
     } catch (const std::exception &error) {
         answer = QString::fromUtf8(error.what());
     }
@@ -100,7 +102,7 @@ void Falsify(RunCase run, const QString &file, const QJsonArray &cases, Counts &
             continue;
         const QJsonValue answer = Answer(run, one[u"input"].toObject());
         if (!Differences(expected, answer).isEmpty()) {
-            Tell(out, file, one, {QStringLiteral("differs as it stands")});
+            Tell(out, file, one, {u"differs as it stands"_s});
             ++counts.Failed;
             continue;
         }
@@ -112,7 +114,7 @@ void Falsify(RunCase run, const QString &file, const QJsonArray &cases, Counts &
             const bool noticed = !Differences(change.Value, answer).isEmpty();
             noticed ? ++counts.Passed : ++counts.Failed;
             if (!noticed)
-                Tell(out, file, one, {change.Kind + QStringLiteral(" makes no difference")});
+                Tell(out, file, one, {change.Kind + u" makes no difference"_s});
         }
         for (const Falsified &change : possible)
             kinds += change.Kind; // a list that stands for any of its texts has other kinds than it looks
@@ -126,17 +128,17 @@ int main(int argc, char **argv)
     // No display is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(TellWarnings);
-    Application application(argc, argv, QStringLiteral("Tallymere"));
+    Application application(argc, argv, u"Tallymere"_s);
     SetUserLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     QTextStream out(stdout);
     QStringList arguments = QCoreApplication::arguments().mid(1);
-    const bool falsify = arguments.removeOne(QStringLiteral("--falsify"));
+    const bool falsify = arguments.removeOne(u"--falsify"_s);
     if (arguments.size() != 1) {
         out << "usage: vectors [--falsify] FOLDER\n";
         return 2;
     }
     const QDir folder(arguments.first());
-    const QStringList names = folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    const QStringList names = folder.entryList({u"*.json"_s}, QDir::Files, QDir::Name);
     Counts counts;
     for (const QString &name : names) {
         QFile file(folder.filePath(name));
@@ -149,7 +151,7 @@ int main(int argc, char **argv)
             continue;
         }
         const QJsonArray cases = document.array();
-        const RunCase run = Areas.value(name.section(QRegularExpression(QStringLiteral("[-.]")), 0, 0));
+        const RunCase run = Areas.value(name.section(QRegularExpression(u"[-.]"_s), 0, 0));
         if (!run)
             counts.Skipped += int(cases.size());
         else

@@ -15,6 +15,8 @@
 #include <csignal>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct UsualCalculator {
@@ -60,7 +62,7 @@ InstalledCalculator Find()
 /// When a process was started, in the system's ticks; empty if it does not run.
 QByteArray StartTimeOf(qint64 processId)
 {
-    QFile file(QStringLiteral("/proc/%1/stat").arg(processId));
+    QFile file(u"/proc/%1/stat"_s.arg(processId));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     // Behind the program's name, which may hold anything, stand the state and the other figures.
@@ -81,8 +83,7 @@ bool Runs(const StartedCalculator &calculator = Started)
 /// The name under which the oldest of the calculators is started, to know its window by.
 QString InstanceName()
 {
-    return QStringLiteral("%1-calculator-%2")
-        .arg(QCoreApplication::applicationName().toLower())
+    return u"%1-calculator-%2"_s.arg(QCoreApplication::applicationName().toLower())
         .arg(QCoreApplication::applicationPid());
 }
 
@@ -92,7 +93,7 @@ qint64 Launch(const QString &path)
     QProcess process;
     process.setProgram(path);
     if (path.endsWith(QLatin1String("/xcalc")))
-        process.setArguments({QStringLiteral("-name"), InstanceName()});
+        process.setArguments({u"-name"_s, InstanceName()});
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

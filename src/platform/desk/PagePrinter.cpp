@@ -24,6 +24,8 @@
 #include <QSet>
 #include <QStandardPaths>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr QMarginsF PageMargins(15, 15, 15, 15); // millimetres
@@ -60,21 +62,20 @@ QString WritableFolder(const QString &folder)
 /// A document's name as part of a file's name: signs that some disk or desktop cannot take become "-".
 QString InFileName(QString name)
 {
-    static const QRegularExpression refused(QStringLiteral(R"([\x00-\x1F\x7F/\\:*?"<>|]+)"));
-    name.replace(refused, QStringLiteral("-"));
+    static const QRegularExpression refused(uR"([\x00-\x1F\x7F/\\:*?"<>|]+)"_s);
+    name.replace(refused, u"-"_s);
     constexpr qsizetype greatestLength = 60; // in the longest letters still below the 255 bytes that disks take
     name = name.left(greatestLength).simplified();
-    return name.isEmpty() ? QStringLiteral("Report") : name;
+    return name.isEmpty() ? u"Report"_s : name;
 }
 
 /// "2026-11-21 Savings Forecast.pdf", and with "(2)" and so on where that is taken.
 QString FreePdfPath(const QString &folder, const QString &documentName)
 {
-    const QString name =
-        TheDesk.Now().toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char(' ') + InFileName(documentName);
-    QString path = QStringLiteral("%1/%2.pdf").arg(folder, name);
+    const QString name = TheDesk.Now().toString(u"yyyy-MM-dd"_s) + QLatin1Char(' ') + InFileName(documentName);
+    QString path = u"%1/%2.pdf"_s.arg(folder, name);
     for (int copy = 2; QFile::exists(path); ++copy)
-        path = QStringLiteral("%1/%2 (%3).pdf").arg(folder, name).arg(copy);
+        path = u"%1/%2 (%3).pdf"_s.arg(folder, name).arg(copy);
     return path;
 }
 
@@ -108,7 +109,7 @@ struct Cell {
 /// The words that stand apart by two blanks or more: each run of them starts at its own place.
 QList<Cell> CellsOf(const QString &line)
 {
-    static const QRegularExpression cell(QStringLiteral("\\S+(?: \\S+)*"));
+    static const QRegularExpression cell(u"\\S+(?: \\S+)*"_s);
     QList<Cell> cells;
     auto matches = cell.globalMatch(line);
     while (matches.hasNext()) {
@@ -283,15 +284,15 @@ public:
     PrinterDialog(QPrinter &printer, const QPrinter *present, const QString &pdfPath, QWidget *above)
         : QPrintDialog(&printer, above), m_startsWithFile(present && IsFile(*present)), m_pdfPath(pdfPath)
     {
-        setObjectName(QStringLiteral("printerDialog"));
-        setWindowTitle(QStringLiteral("Printer Select"));
+        setObjectName(u"printerDialog"_s);
+        setWindowTitle(u"Printer Select"_s);
         setOptions(PrintToFile | PrintShowPageSize | PrintCollateCopies);
         constexpr int leastWidth = 520; // or the path of a file is cut off
         setMinimumWidth(leastWidth);
         // Nothing is printed before a report's own button is pressed.
         if (auto *buttons = findChild<QDialogButtonBox *>(); buttons && buttons->button(QDialogButtonBox::Ok))
-            buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
-        if (auto *properties = findChild<QPushButton *>(QStringLiteral("properties")))
+            buttons->button(QDialogButtonBox::Ok)->setText(u"OK"_s);
+        if (auto *properties = findChild<QPushButton *>(u"properties"_s))
             connect(properties, &QPushButton::clicked, this, [this] { // after the toolkit's dialog for them
                 const auto *inner = findChild<QDialog *>();
                 m_paperIsSet |= inner && inner->result() == Accepted;
@@ -307,8 +308,8 @@ public:
     void setVisible(bool visible) override
     {
         QPrintDialog::setVisible(visible);
-        auto *printers = findChild<QComboBox *>(QStringLiteral("printers"));
-        auto *file = findChild<QLineEdit *>(QStringLiteral("filename"));
+        auto *printers = findChild<QComboBox *>(u"printers"_s);
+        auto *file = findChild<QLineEdit *>(u"filename"_s);
         if (!visible || !printers || !file)
             return;
         file->setText(m_pdfPath);
@@ -337,7 +338,7 @@ private:
         };
         for (const char *part : {"gbPrintRange", "reverse"})
             enable(part, false);
-        const auto *file = findChild<QLineEdit *>(QStringLiteral("filename"));
+        const auto *file = findChild<QLineEdit *>(u"filename"_s);
         const bool isFile = file && file->isEnabled();
         for (const char *part : {"copies", "collate", "colorMode", "duplex"})
             enable(part, !isFile);

@@ -3,12 +3,13 @@
 #include "platform/desk/Desk.h"
 #include "platform/values/RuntimeError.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 void ShowUnknownError(const QString &title)
 {
-    ShowMessage(QStringLiteral(
-                    "An unknown error occured. This may be due to an invalid entry. If you need help press F1 for "
-                    "assistance on this page. On the main menu click on Help->Search for Help On... or Help->How Do I? "
-                    "or click on any of the help icons on the bottom right of the main window."),
+    ShowMessage(u"An unknown error occured. This may be due to an invalid entry. If you need help press F1 for "
+                "assistance on this page. On the main menu click on Help->Search for Help On... or Help->How Do I? "
+                "or click on any of the help icons on the bottom right of the main window."_s,
                 title, Icon::Warning);
 }
 

@@ -15,6 +15,8 @@
 #include <unistd.h>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 bool IsBlank(char c)
@@ -250,7 +252,7 @@ QByteArrayView InputFile::NextValue(bool numeric)
 QString InputFile::NextNumber()
 {
     const QString text = Decoded(NextValue(true)).trimmed();
-    return IsPlainNumber(text) ? text : QStringLiteral("0");
+    return IsPlainNumber(text) ? text : u"0"_s;
 }
 
 qint16 InputFile::InputInteger()
@@ -273,7 +275,7 @@ bool InputFile::InputBoolean()
     const QString text = Decoded(NextValue(true)).trimmed();
     if (text.compare(QLatin1String("#TRUE#"), Qt::CaseInsensitive) == 0)
         return true;
-    return IsPlainNumber(text) && text.contains(QRegularExpression(QStringLiteral("^[^eE]*[1-9]")));
+    return IsPlainNumber(text) && text.contains(QRegularExpression(u"^[^eE]*[1-9]"_s));
 }
 
 QString InputFile::InputString()
@@ -376,7 +378,7 @@ void OutputFile::Write(float value)
 
 void OutputFile::Write(bool value)
 {
-    WriteLine(value ? QStringLiteral("#TRUE#") : QStringLiteral("#FALSE#"));
+    WriteLine(value ? u"#TRUE#"_s : u"#FALSE#"_s);
 }
 
 void OutputFile::Write(const QString &value)

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int FirstYear = 100;
@@ -14,10 +16,8 @@ constexpr int LastYear = 9999;
 constexpr qint64 FirstDay = 1757585;
 constexpr qint64 LastDay = 5373484;
 
-const QStringList MonthNames{QStringLiteral("january"), QStringLiteral("february"), QStringLiteral("march"),
-                             QStringLiteral("april"),   QStringLiteral("may"),      QStringLiteral("june"),
-                             QStringLiteral("july"),    QStringLiteral("august"),   QStringLiteral("september"),
-                             QStringLiteral("october"), QStringLiteral("november"), QStringLiteral("december")};
+const QStringList MonthNames{u"january"_s, u"february"_s, u"march"_s,     u"april"_s,   u"may"_s,      u"june"_s,
+                             u"july"_s,    u"august"_s,   u"september"_s, u"october"_s, u"november"_s, u"december"_s};
 
 int MonthNumber(const QString &word)
 {
@@ -69,9 +69,9 @@ std::optional<QDate> Parse(const QString &source)
     QString text = source.trimmed();
     if (text.size() > 64) // no date is as long, and a pattern must not wander through a damaged file
         return {};
-    static const auto time = QRegularExpression(
-        QStringLiteral("\\s+([01]?\\d|2[0-3]):[0-5]\\d(:[0-5]\\d)?(\\s*[ap]m)?$|\\s+(0?[1-9]|1[0-2])\\s*[ap]m$"),
-        QRegularExpression::CaseInsensitiveOption);
+    static const auto time =
+        QRegularExpression(u"\\s+([01]?\\d|2[0-3]):[0-5]\\d(:[0-5]\\d)?(\\s*[ap]m)?$|\\s+(0?[1-9]|1[0-2])\\s*[ap]m$"_s,
+                           QRegularExpression::CaseInsensitiveOption);
     static const auto numbers = Pattern("(\\d{1,2})\\s*([/.-])\\s*(\\d{1,2})\\s*\\2\\s*(\\d{1,4})");
     static const auto yearFirst = Pattern("(\\d{3,4})\\s*([/.-])\\s*(\\d{1,2})\\s*\\2\\s*(\\d{1,2})");
     static const auto twoNumbers = Pattern("(\\d{1,2})\\s*[/-]\\s*(\\d{1,2})");
@@ -142,13 +142,13 @@ QString Format(QDate date, DateFormat format)
     const QString year = QString::number(date.year()).rightJustified(4, QLatin1Char('0'));
     const auto two = [](int number) { return QString::number(number).rightJustified(2, QLatin1Char('0')); };
     const QString longDate =
-        QStringLiteral("%1 %2, %3").arg(QLocale::c().monthName(date.month()), QString::number(date.day()), year);
+        u"%1 %2, %3"_s.arg(QLocale::c().monthName(date.month()), QString::number(date.day()), year);
     switch (format) {
     case DateFormat::Long: return longDate;
     case DateFormat::Dashes: return two(date.month()) + QLatin1Char('-') + two(date.day()) + QLatin1Char('-') + year;
-    case DateFormat::Short: return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(date.year());
-    case DateFormat::ShortYear: return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(year.right(2));
-    case DateFormat::Weekday: return QLocale::c().dayName(date.dayOfWeek()) + QStringLiteral("  ") + longDate;
+    case DateFormat::Short: return u"%1/%2/%3"_s.arg(date.month()).arg(date.day()).arg(date.year());
+    case DateFormat::ShortYear: return u"%1/%2/%3"_s.arg(date.month()).arg(date.day()).arg(year.right(2));
+    case DateFormat::Weekday: return QLocale::c().dayName(date.dayOfWeek()) + u"  "_s + longDate;
     }
     return {};
 }
@@ -161,7 +161,7 @@ QString Format(const QString &text, DateFormat format)
 
 QString FormatClock(QTime time)
 {
-    return QLocale::c().toString(time, QStringLiteral("hh:mm:ss AP"));
+    return QLocale::c().toString(time, u"hh:mm:ss AP"_s);
 }
 
 QString FormatLongDate(const QString &text)

@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int Hundred = 2; // as a power of ten
@@ -47,7 +49,7 @@ QString FormatDecimal(const Decimal &number, NumberFormat format)
         return pattern.Before + WithSeparators(shown.Whole()) + fraction + pattern.Behind;
     }
     const QString whole = format == NumberFormat::Standard ? WithSeparators(shown.Whole()) : shown.Whole();
-    return (shown.IsNegative() ? QStringLiteral("-") : QString()) + whole + fraction;
+    return (shown.IsNegative() ? u"-"_s : QString()) + whole + fraction;
 }
 
 } // namespace

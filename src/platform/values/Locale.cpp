@@ -1,5 +1,7 @@
 #include "platform/values/Locale.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// The C locale has no currency symbol and no separators; whoever never chose a locale gets those of the United States.
@@ -13,8 +15,8 @@ AmountPattern PatternOf(const QLocale &locale, bool negative)
 {
     const QString symbol = locale.currencySymbol();
     if (locale.territory() == QLocale::UnitedStates)
-        return negative ? AmountPattern{QLatin1Char('(') + symbol, QStringLiteral(")")} : AmountPattern{symbol, {}};
-    const QString digits = QLatin1Char('1') + locale.decimalPoint() + QStringLiteral("00");
+        return negative ? AmountPattern{QLatin1Char('(') + symbol, u")"_s} : AmountPattern{symbol, {}};
+    const QString digits = QLatin1Char('1') + locale.decimalPoint() + u"00"_s;
     const QString amount = locale.toCurrencyString(negative ? -1.0 : 1.0, QString(), 2);
     if (const qsizetype at = amount.indexOf(digits); at >= 0)
         return {amount.left(at), amount.mid(at + digits.size())};

@@ -8,6 +8,8 @@
 #include <limits>
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // An exponent beyond this is as good as infinite whatever digits stand before it, and it still leaves room for adding
@@ -17,8 +19,7 @@ constexpr int GreatestExponent = 1000000000;
 /// The data files' signs, which a household keeps when it moves to another locale.
 const LocaleSigns &SignsOf(Dialect dialect)
 {
-    static const LocaleSigns file{
-        .Point = QStringLiteral("."), .Thousands = QStringLiteral(","), .Symbol = QStringLiteral("$")};
+    static const LocaleSigns file{.Point = u"."_s, .Thousands = u","_s, .Symbol = u"$"_s};
     return dialect == Dialect::File ? file : UserSigns();
 }
 
@@ -303,7 +304,7 @@ QString SpacedText(float value)
     const Decimal number = SevenDigits(value);
     const QString whole = number.Whole();
     const QString fraction = number.Fraction(0);
-    const QString sign = number.IsNegative() ? QStringLiteral("-") : QStringLiteral(" ");
+    const QString sign = number.IsNegative() ? u"-"_s : u" "_s;
     if (fraction.isEmpty())
         return sign + whole;
     return sign + (whole == QLatin1String("0") ? QString() : whole) + QLatin1Char('.') + fraction;

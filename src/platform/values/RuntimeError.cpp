@@ -1,31 +1,33 @@
 #include "platform/values/RuntimeError.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 QString RuntimeError::Description() const
 {
     switch (Number) {
-    case InvalidProcedureCall: return QStringLiteral("Invalid procedure call or argument");
-    case Overflow: return QStringLiteral("Overflow");
-    case OutOfMemory: return QStringLiteral("Out of memory");
-    case SubscriptOutOfRange: return QStringLiteral("Subscript out of range");
-    case DivisionByZero: return QStringLiteral("Division by zero");
-    case TypeMismatch: return QStringLiteral("Type mismatch");
-    case InternalError: return QStringLiteral("Internal error");
-    case BadFileNumber: return QStringLiteral("Bad file name or number");
-    case FileNotFound: return QStringLiteral("File not found");
-    case FileAlreadyOpen: return QStringLiteral("File already open");
-    case DeviceError: return QStringLiteral("Device I/O error");
-    case DiskFull: return QStringLiteral("Disk full");
-    case InputPastEnd: return QStringLiteral("Input past end of file");
-    case PermissionDenied: return QStringLiteral("Permission denied");
-    case PathFileAccess: return QStringLiteral("Path/File access error");
-    case PathNotFound: return QStringLiteral("Path not found");
+    case InvalidProcedureCall: return u"Invalid procedure call or argument"_s;
+    case Overflow: return u"Overflow"_s;
+    case OutOfMemory: return u"Out of memory"_s;
+    case SubscriptOutOfRange: return u"Subscript out of range"_s;
+    case DivisionByZero: return u"Division by zero"_s;
+    case TypeMismatch: return u"Type mismatch"_s;
+    case InternalError: return u"Internal error"_s;
+    case BadFileNumber: return u"Bad file name or number"_s;
+    case FileNotFound: return u"File not found"_s;
+    case FileAlreadyOpen: return u"File already open"_s;
+    case DeviceError: return u"Device I/O error"_s;
+    case DiskFull: return u"Disk full"_s;
+    case InputPastEnd: return u"Input past end of file"_s;
+    case PermissionDenied: return u"Permission denied"_s;
+    case PathFileAccess: return u"Path/File access error"_s;
+    case PathNotFound: return u"Path not found"_s;
     }
     return {};
 }
 
 QString RuntimeError::Text() const
 {
-    return QStringLiteral("Error %1: %2").arg(int(Number)).arg(Description());
+    return u"Error %1: %2"_s.arg(int(Number)).arg(Description());
 }
 
 void RaiseError(RuntimeError::Code code)
