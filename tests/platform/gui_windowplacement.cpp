@@ -165,6 +165,35 @@ private Q_SLOTS:
         QCOMPARE(PlaceOf(u"frmOnlooker"_s).topLeft(), QPoint(7, 9));
     }
 
+    void WhatIsOnlyLookedAtIsNotCovered()
+    {
+        // The hub fills the screen, and the onlooker stands in the corner where a window without room would open.
+        Form &hub = *TheWindows.Loaded(u"frmHub"_s);
+        hub.setGeometry(Screen());
+        Find(u"frmHub"_s, u"txtField"_s).setEnabled(false); // nothing there to be filled
+        Show(u"frmOne"_s);
+        const QRect place = PlaceOf(u"frmOne"_s);
+        TheWindows.Unload(u"frmOne"_s);
+        TheWindows.Touch(u"frmOnlooker"_s).setGeometry(place);
+        Show(u"frmOnlooker"_s);
+        Show(u"frmOne"_s);
+        QVERIFY(!PlaceOf(u"frmOne"_s).intersects(PlaceOf(u"frmOnlooker"_s)));
+        TheWindows.Unload(u"frmOne"_s);
+        TheWindows.Hide(u"frmOnlooker"_s); // unseen it is not read
+        Show(u"frmHub"_s);
+        Show(u"frmOne"_s);
+        QCOMPARE(PlaceOf(u"frmOne"_s), place);
+        // It comes before the caller, another window after it.
+        TheWindows.Unload(u"frmOne"_s);
+        hub.setGeometry(QRect(Screen().topLeft(), QSize(250, 300)));
+        const QRect beside(hub.frameGeometry().topRight() + QPoint(1, 0), Screen().bottomRight());
+        TheWindows.Loaded(u"frmOnlooker"_s)->setGeometry(beside);
+        TheWindows.Show(u"frmOnlooker"_s);
+        Show(u"frmHub"_s);
+        Show(u"frmOne"_s);
+        QVERIFY(!PlaceOf(u"frmOne"_s).intersects(beside));
+    }
+
     void TheMainWindowStandsWhereTheWindowSystemPutsIt()
     {
         GuiDesk desk;

@@ -95,6 +95,63 @@ private Q_SLOTS:
                 QVERIFY(windows[i].topLeft() != windows[j].topLeft());
     }
 
+    // The main window and the tutor side by side: the place beside the main window is not wholly free, but one that is
+    // stands nearer than the corners of the screen.
+    void TheNearestFreePlaceIsTaken_data()
+    {
+        QTest::addColumn<QRect>("caller");
+        QTest::addColumn<QSize>("window");
+        QTest::addColumn<QPoint>("place");
+        QTest::newRow("over what is read") << QRect(150, 250, 900, 700) << QSize(500, 480) << QPoint(1050, 80);
+        QTest::newRow("to the last pixel") << QRect(150, 250, 900, 700) << QSize(550, 560) << QPoint(1050, 0);
+        QTest::newRow("higher than the room") << QRect(150, 200, 900, 350) << QSize(500, 561) << QPoint(150, 550);
+        QTest::newRow("beside it there is room") << QRect(150, 40, 900, 900) << QSize(500, 480) << QPoint(1050, 40);
+        QTest::newRow("left of the caller") << QRect(300, 600, 750, 500) << QSize(300, 480) << QPoint(0, 600);
+        QTest::newRow("above the caller") << QRect(50, 560, 1000, 600) << QSize(600, 560) << QPoint(50, 0);
+    }
+    void TheNearestFreePlaceIsTaken()
+    {
+        QFETCH(QRect, caller);
+        QFETCH(QSize, window);
+        QFETCH(QPoint, place);
+        const QRect tutor(1050, 560, 550, 610);
+        const QRect screen(0, 0, 1600, 1170);
+        QCOMPARE(Placed(window, {.Screens = {screen}, .Caller = caller, .Read = {tutor}}), place);
+    }
+
+    void BetweenTwoWindowsThereIsRoom()
+    {
+        // Right of the caller stands a window, and below that one there is just room.
+        const QRect caller(0, 100, 900, 700);
+        const QRect beside(900, 0, 500, 400);
+        const QRect far(1450, 0, 470, 1050);
+        QCOMPARE(Placed({550, 600}, {.Screens = {Screen}, .Caller = caller, .Others = {beside, far}}),
+                 QPoint(900, 400));
+        QCOMPARE(Placed({550, 600}, {.Screens = {Screen}, .Caller = caller, .Read = {far}, .Others = {beside}}),
+                 QPoint(900, 400));
+    }
+
+    void WhatIsReadIsLeftFreeBeforeTheCaller()
+    {
+        // At double scale: the caller fills the screen, and what is read stands over it.
+        const QRect small(0, 0, 960, 520);
+        const QRect caller(0, 0, 900, 500);
+        const QRect read(520, 200, 440, 320);
+        Surroundings around{.Screens = {small}, .Caller = caller, .Read = {read}};
+        const QRect place(Placed({400, 480}, around), QSize(400, 480));
+        QVERIFY(!place.intersects(read));
+        QVERIFY(small.contains(place));
+        QCOMPARE(place.top(), 40); // and of the caller it covers least
+        // The field that it fills comes before what is read.
+        around.Field = {10, 250, 500, 30};
+        const QRect off(Placed({400, 480}, around), QSize(400, 480));
+        QVERIFY(!off.intersects(around.Field));
+        QVERIFY(off.intersects(read));
+        // Other windows come after the caller.
+        around = {.Screens = {Screen}, .Caller = QRect(0, 0, 1400, 1050), .Others = {QRect(1400, 0, 520, 1050)}};
+        QCOMPARE(Placed({500, 480}, around), QPoint(1400, 0));
+    }
+
     void OnAFullScreenTheyCascade()
     {
         const QRect caller(0, 0, 1092, 590);
@@ -116,6 +173,11 @@ private Q_SLOTS:
         around.Others = {QRect(450, 50, 1000, 800)}; // the window that the caller was called from, behind it
         QCOMPARE(Placed({400, 300}, around), QPoint(749, 299));
         around.Others.clear();
+        around.Read = {QRect(1100, 500, 800, 550)}; // it stands beside or above it, whichever is nearer to the middle
+        QCOMPARE(Placed({400, 300}, around), QPoint(700, 299));
+        around.Read = {QRect(900, 590, 1020, 460)};
+        QCOMPARE(Placed({400, 300}, around), QPoint(749, 290));
+        around.Read.clear();
         around.Field = {800, 400, 120, 30}; // which it may be asked to fill
         QCOMPARE(Placed({400, 300}, around), QPoint(1400, 100));
     }

@@ -33,8 +33,9 @@ QPoint PlaceOf(const Form &form, const QSize &size, const Form &caller)
     if (const auto *field = qobject_cast<QLineEdit *>(caller.FocusControl()))
         around.Field = {field->mapToGlobal(QPoint()), field->size()};
     for (const QWidget *widget : QApplication::topLevelWidgets())
-        if (qobject_cast<const Form *>(widget) && widget->isVisible() && widget != &caller && widget != &form)
-            around.Others += widget->frameGeometry();
+        if (const auto *other = qobject_cast<const Form *>(widget);
+            other && other->isVisible() && other != &caller && other != &form)
+            (other->TakesActivation() ? around.Others : around.Read) += other->frameGeometry();
     return Placed(size + frame, around);
 }
 
