@@ -91,6 +91,7 @@ void RegisterWindows()
     Register<frmTip>(WindowName::frmTip);
     // Not the tutor's window itself listens: the user may have turned it off, and some pages are shown all the same.
     QObject::connect(&TheTutorRequests, &TutorRequests::PageWanted, &TheWindows, ShowTutorPage);
+    QObject::connect(&TheTutorRequests, &TutorRequests::ReleaseWanted, &TheWindows, ReleaseTutor);
 }
 
 QString FirstWindow()

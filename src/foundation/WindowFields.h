@@ -2,6 +2,7 @@
 // loaded.
 #pragma once
 
+#include "foundation/Tutor.h"
 #include "foundation/WindowNames.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -35,5 +36,11 @@ inline QTimer *TutorTimer()
 {
     const Form *main = TheWindows.Loaded(WindowName::frmMain);
     return main ? main->findChild<QTimer *>(QStringLiteral("tmrAutoTutor")) : nullptr;
+}
+/// Whether a click on the teacher has frozen the tutor's page. One that is not loaded is not frozen.
+inline bool TutorIsFrozen()
+{
+    const Form *tutor = TheWindows.Loaded(WindowName::frmTallymereTutor);
+    return tutor && tutor->property(TutorFrozenProperty).toInt() == 1;
 }
 } // namespace WindowField

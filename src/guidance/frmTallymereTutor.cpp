@@ -35,7 +35,7 @@ frmTallymereTutor::frmTallymereTutor()
 
 void frmTallymereTutor::Load()
 {
-    ShowTeacher(Teacher::Pointing);
+    Freeze(false);
     GiveThePageItsRoom();
     MoveToTheCorner();
 }
@@ -68,10 +68,10 @@ void frmTallymereTutor::ShowTeacher(Teacher pose)
 
 void frmTallymereTutor::imgTallymereTutor_Click()
 {
-    TutorFrozen = TutorFrozen == 0 ? 1 : 0;
-    ShowTeacher(TutorFrozen == 1 ? Teacher::Frozen : Teacher::Pointing);
+    const bool freezes = !WindowField::TutorIsFrozen();
+    Freeze(freezes);
     if (QTimer *timer = WindowField::TutorTimer()) {
-        if (TutorFrozen == 1)
+        if (freezes)
             timer->stop();
         else
             timer->start(); // also where the option is off or a window had stopped it: the user has asked for more
@@ -102,6 +102,12 @@ void frmTallymereTutor::moveEvent(QMoveEvent *event)
     if (m_framed || !windowHandle() || windowHandle()->frameMargins().isNull())
         return;
     m_framed = true;
+void frmTallymereTutor::Freeze(bool freezes)
+{
+    setProperty(TutorFrozenProperty, freezes ? 1 : 0);
+    ShowTeacher(freezes ? Teacher::Frozen : Teacher::Pointing);
+}
+
     MoveToTheCorner();
 }
 
@@ -114,4 +120,10 @@ void ShowTutorPage(int page)
 {
     TheTutor().TurnTo(page);
     TheWindows.Show(WindowName::frmTallymereTutor);
+}
+
+void ReleaseTutor()
+{
+    if (TheWindows.Loaded(WindowName::frmTallymereTutor))
+        TheTutor().Freeze(false);
 }

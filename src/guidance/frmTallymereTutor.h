@@ -18,6 +18,9 @@ public:
     void ShowTeacher(Teacher pose);
 
 protected:
+    /// Keeps the page that stands there, or lets go of it, and shows that by the teacher. The timer is another's
+    /// matter.
+    void Freeze(bool freezes);
     void moveEvent(QMoveEvent *event) override;
 
 private:
@@ -26,7 +29,6 @@ private:
     void MoveToTheCorner();
 
     bool m_framed = false;
-    qint16 TutorFrozen = 0; ///< 1 after a click on the teacher, until the next one
 };
 
 /// The tutor's window, loaded unseen where it is not loaded yet.
@@ -34,3 +36,6 @@ frmTallymereTutor &TheTutor();
 
 /// The common step of every command that shows a page: it stands on the screen, and the user works on where he was.
 void ShowTutorPage(int page);
+
+/// A tutor that is frozen goes on; without one nothing happens.
+void ReleaseTutor();

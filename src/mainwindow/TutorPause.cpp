@@ -1,6 +1,7 @@
 #include "mainwindow/TutorPause.h"
 
 #include "foundation/Tutor.h"
+#include "foundation/WindowFields.h"
 #include "foundation/WindowNames.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -53,7 +54,8 @@ void TutorPause::Pause(const QString &window)
 
 void TutorPause::Resume(const QString &window)
 {
-    // A timer that the main window has started meanwhile runs on: a restart would hold its next page back.
-    if (RememberedTutorTimer.remove(window) && !m_timer.isActive())
+    // A timer that the main window has started meanwhile runs on: a restart would hold its next page back. A page that
+    // the user has frozen meanwhile is his to release.
+    if (RememberedTutorTimer.remove(window) && !m_timer.isActive() && !WindowField::TutorIsFrozen())
         m_timer.start();
 }

@@ -247,7 +247,7 @@ void frmMain::ReadOptions()
     const double tutor = check(u"mnuTallymereTutor"_s, ShowTutor);
     if (tutor == 0)
         tmrAutoTutor.stop();
-    else if (tutor == 1 && !tmrAutoTutor.isActive())
+    else if (tutor == 1 && !tmrAutoTutor.isActive() && !WindowField::TutorIsFrozen())
         tmrAutoTutor.start(); // also while a window that stopped it is still open
     check(u"mnuWelcomeScreen"_s, ShowWelcome);
 }
@@ -401,6 +401,7 @@ void frmMain::mnuTallymereTutor_Click()
     const bool turnOn = Entry(u"mnuTallymereTutor"_s)->isChecked();
     if (turnOn) {
         tmrAutoTutor.start();
+        Q_EMIT TheTutorRequests.ReleaseWanted(); // whoever turns the tutor on wants its pages to come
     } else {
         tmrAutoTutor.stop();
         TheWindows.Unload(WindowName::frmTallymereTutor);

@@ -39,6 +39,13 @@ void Tick()
     Settle();
 }
 
+/// The timer's ten seconds pass, if it runs.
+void LetItsTimePass()
+{
+    if (TheTutorTimer().isActive())
+        Tick();
+}
+
 void WantPage(int page)
 {
     Q_EMIT TheTutorRequests.PageWanted(page);
@@ -351,13 +358,105 @@ private Q_SLOTS:
         WantPage(26); // the routes do
         QCOMPARE(Instructions(), TextOfPage(26));
         QCOMPARE(Teacher(), QColor(Qt::blue));
-        TheTutorTimer().stop(); // the main window came back to the front and started it
         Click(Window, u"imgTallymereTutor"_s);
         QCOMPARE(Teacher(), QColor(Qt::red));
         QVERIFY(TheTutorTimer().isActive());
         Click(Window, u"imgTallymereTutor"_s);
         QCOMPARE(Teacher(), QColor(Qt::blue));
         QVERIFY(!TheTutorTimer().isActive());
+    }
+
+    // Neither the main window, when the user comes back to it, nor the end of a window that held the timer lets the
+    // next page come: it is the user's to release.
+    void AFrozenPageStaysWhenAWorkWindowIsClosed_data()
+    {
+        QTest::addColumn<bool>("before");
+        QTest::addColumn<QString>("option");
+        QTest::newRow("frozen before the window opens") << true << u"1"_s;
+        QTest::newRow("frozen while the window is open") << false << u"1"_s;
+        QTest::newRow("the same without the main window's help") << false << u"5"_s;
+    }
+    void AFrozenPageStaysWhenAWorkWindowIsClosed()
+    {
+        QFETCH(bool, before);
+        QFETCH(QString, option);
+        GuiDesk desk;
+        LayPictures(desk);
+        desk.StartProgram();
+        desk.Options[ShowTutor.toLower()] = option; // the main window leaves the timer alone at a 5
+        WantPage(12);
+        if (before)
+            Click(Window, u"imgTallymereTutor"_s);
+        Choose(u"mnuFileCreditors"_s);
+        QVERIFY(!TheTutorTimer().isActive());
+        if (!before)
+            Click(Window, u"imgTallymereTutor"_s);
+        const int page = before ? 12 : 3; // that of the window, where the tutor was free to show it
+        CloseByFrame(u"frmCreditors"_s);
+        QCOMPARE(ActiveWindow(), Main);
+        LetItsTimePass();
+        QCOMPARE(Instructions(), TextOfPage(page));
+        QCOMPARE(Teacher(), QColor(Qt::blue));
+        QCOMPARE(PagesOf({u"mnuFileRegulars"_s}), 0);
+        Show(Main); // over the window that is open
+        LetItsTimePass();
+        QCOMPARE(Instructions(), TextOfPage(page));
+        TheWindows.Unload(u"frmRegulars"_s);
+        Settle();
+        QVERIFY(!TheTutorTimer().isActive());
+        Click(Window, u"imgTallymereTutor"_s);
+        QCOMPARE(Teacher(), QColor(Qt::red));
+        QVERIFY(TheTutorTimer().isActive());
+        LetItsTimePass();
+        QCOMPARE(Instructions(), TextOfPage(1));
+    }
+
+    void AFrozenPageStaysOverTheListOfTasks()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Tick();
+        Choose(u"mnuHowDoI"_s);
+        Click(Window, u"imgTallymereTutor"_s);
+        CloseByFrame(u"frmHowDoI"_s); // without a topic
+        LetItsTimePass();
+        QCOMPARE(Instructions(), TextOfPage(1));
+        QVERIFY(!TheTutorTimer().isActive());
+    }
+
+    // Whoever turns the tutor on is promised a page in ten seconds; he sees that it goes on.
+    void TurningTheTutorOnReleasesAFrozenOne()
+    {
+        GuiDesk desk;
+        LayPictures(desk);
+        desk.Options[ShowTutor.toLower()] = u"0"_s;
+        desk.StartProgram();
+        WantPage(25);
+        Click(Window, u"imgTallymereTutor"_s);
+        QCOMPARE(Teacher(), QColor(Qt::blue));
+        Choose(u"mnuTallymereTutor"_s);
+        QCOMPARE(desk.TakeMessage().Text, u"Tallymere Tutor will be displayed automatically in 10 seconds."_s);
+        QCOMPARE(desk.TakeOption(ShowTutor), u"1"_s);
+        QCOMPARE(Teacher(), QColor(Qt::red));
+        Show(u"frmCreditors"_s);
+        TheWindows.Unload(u"frmCreditors"_s); // the main window is activated and leaves it so
+        Settle();
+        LetItsTimePass();
+        QCOMPARE(Instructions(), TextOfPage(1));
+        Click(Window, u"imgTallymereTutor"_s); // the first click freezes
+        QCOMPARE(Teacher(), QColor(Qt::blue));
+        QVERIFY(!TheTutorTimer().isActive());
+        Choose(u"mnuTallymereTutor"_s); // off: it goes, and with it what was frozen
+        desk.TakeMessage();
+        desk.TakeOption(ShowTutor);
+        QVERIFY(!TheWindows.Loaded(Window));
+        Choose(u"mnuTallymereTutor"_s);
+        desk.TakeMessage();
+        desk.TakeOption(ShowTutor);
+        QVERIFY(!TheWindows.Loaded(Window)); // it comes with its first page
+        LetItsTimePass();
+        QCOMPARE(Instructions(), TextOfPage(2));
+        QCOMPARE(Teacher(), QColor(Qt::red));
     }
 
     void TheKeysFreezeToo_data()
