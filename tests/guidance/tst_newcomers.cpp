@@ -97,7 +97,7 @@ const QList<Answer> &Answers()
         {"How do I back up?",
          {u"back up"_s, u"leave Tallymere"_s, u"copy the folder"_s},
          5,
-         {u"back up"_s, u"leave Tallymere"_s, u"copy its folder"_s}},
+         {u"back up"_s, u"leave Tallymere"_s, u"copy the folder of the program"_s}},
         {"May a name have a quotation mark?",
          {u"quotation mark in a name"_s, u"entries behind it"_s, u"spoiled"_s},
          3,
