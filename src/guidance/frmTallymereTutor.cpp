@@ -7,7 +7,6 @@
 
 #include <QScreen>
 #include <QStyle>
-#include <QTimer>
 #include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,8 +14,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 const QString WidestLine = u"Use the browse (<< and >>) buttons at the top to move "_s; // of each page's footer
 constexpr int Lines = 24;          // of a page that are seen without scrolling, where the screen has room
+constexpr int FewLines = 8;        // where it would cover the main window with more
 constexpr int LeastLines = 5;      // the user may make the window as low as that
+constexpr int SettlingTime = 400;  // milliseconds, until a window that appears stands in front
 constexpr int TitleBarHeight = 40; // pixels; a guess, before the window manager has put its frame around the window
+
+/// Shown, but not on the screen yet.
+bool IsOnItsWay(const Form *form)
+{
+    return form && form->isVisible() && !form->isMinimized() && !form->windowHandle()->isExposed();
+}
+
 } // namespace
 
 frmTallymereTutor::frmTallymereTutor()
@@ -31,6 +39,8 @@ frmTallymereTutor::frmTallymereTutor()
     OnClick(ui.imgTallymereTutor, [this] { imgTallymereTutor_Click(); });
     OnEnter(ui.imgTallymereTutor, [this] { ui.imgTallymereTutor->click(); });
     connect(this, &Form::Appears, this, &frmTallymereTutor::MoveToTheCorner);
+    m_settling.setInterval(SettlingTime);
+    connect(&m_settling, &QTimer::timeout, this, &frmTallymereTutor::ComeInFront);
 }
 
 void frmTallymereTutor::Load()
@@ -40,7 +50,8 @@ void frmTallymereTutor::Load()
     MoveToTheCorner();
 }
 
-/// Room for the lines of a page as they stand, so that the window keeps its size when the page turns.
+/// Room for the lines of a page as they stand, so that the window keeps its size when the page turns. Where it does not
+/// fit beside the main window, or in the welcome beside that one, it is lower and covers less of it.
 void frmTallymereTutor::GiveThePageItsRoom()
 {
     ensurePolished();
@@ -49,8 +60,18 @@ void frmTallymereTutor::GiveThePageItsRoom()
     const int edge = 2 * (page.frameWidth() + int(page.document()->documentMargin()));
     const int bar = page.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &page);
     page.setMinimumSize(letters.horizontalAdvance(WidestLine) + edge + bar, LeastLines * letters.lineSpacing() + edge);
-    const int height = sizeHint().height() - page.sizeHint().height() + Lines * letters.lineSpacing() + edge;
-    resize(minimumSizeHint().width(), qMin(height, screen()->availableSize().height() - TitleBarHeight));
+    const auto heightOf = [&](int lines) {
+        return sizeHint().height() - page.sizeHint().height() + lines * letters.lineSpacing() + edge;
+    };
+    const int width = minimumSizeHint().width();
+    const QSize room = screen()->availableSize() - QSize(0, TitleBarHeight);
+    int height = qMin(heightOf(Lines), room.height());
+    const Form *main = TheWindows.Loaded(WindowName::frmMain);
+    if (const Form *other = main ? main : TheWindows.Front(); other && other->width() + width > room.width()) {
+        const int below = room.height() - TitleBarHeight - other->height();
+        height = qMin(height, qMax(heightOf(FewLines), below));
+    }
+    resize(width, height);
 }
 
 void frmTallymereTutor::TurnTo(int page)
@@ -59,11 +80,32 @@ void frmTallymereTutor::TurnTo(int page)
     ui.rtbInstructions->setPlainText(State.TutorInstructions(page));
     ui.pnlInstructions->raise();
     ui.pnlTallymereTutor->raise();
+    if (const Form *front = TheWindows.Front(); front != this && IsOnItsWay(front))
+        m_settling.start();
+}
+
+/// A window that is shown just now is put in front of all others by the window manager when it comes to the screen. The
+/// page comes in front of it again, unless it would cover a question that is asked meanwhile.
+void frmTallymereTutor::ComeInFront()
+{
+    const Form *front = TheWindows.Front();
+    if (IsOnItsWay(front))
+        return;
+    m_settling.stop();
+    const bool coversQuestion = front && front->isModal() && front->frameGeometry().intersects(frameGeometry());
+    if (isVisible() && !coversQuestion)
+        raise();
 }
 
 void frmTallymereTutor::ShowTeacher(Teacher pose)
 {
     ui.imgTallymereTutor->setIcon(TeacherPicture(pose));
+}
+
+void frmTallymereTutor::Freeze(bool freezes)
+{
+    setProperty(TutorFrozenProperty, freezes ? 1 : 0);
+    ShowTeacher(freezes ? Teacher::Frozen : Teacher::Pointing);
 }
 
 void frmTallymereTutor::imgTallymereTutor_Click()
@@ -102,12 +144,6 @@ void frmTallymereTutor::moveEvent(QMoveEvent *event)
     if (m_framed || !windowHandle() || windowHandle()->frameMargins().isNull())
         return;
     m_framed = true;
-void frmTallymereTutor::Freeze(bool freezes)
-{
-    setProperty(TutorFrozenProperty, freezes ? 1 : 0);
-    ShowTeacher(freezes ? Teacher::Frozen : Teacher::Pointing);
-}
-
     MoveToTheCorner();
 }
 

@@ -5,6 +5,8 @@
 #include "platform/windows/Window.h"
 #include "ui_frmTallymereTutor.h"
 
+#include <QTimer>
+
 class frmTallymereTutor : public Window<Ui::frmTallymereTutor>
 {
 public:
@@ -16,19 +18,21 @@ public:
     /// Puts a page, 1 to 26, into the window. Error 9 for any other.
     void TurnTo(int page);
     void ShowTeacher(Teacher pose);
-
-protected:
     /// Keeps the page that stands there, or lets go of it, and shows that by the teacher. The timer is another's
     /// matter.
     void Freeze(bool freezes);
+
+protected:
     void moveEvent(QMoveEvent *event) override;
 
 private:
     void imgTallymereTutor_Click();
     void GiveThePageItsRoom();
     void MoveToTheCorner();
+    void ComeInFront();
 
     bool m_framed = false;
+    QTimer m_settling; ///< runs while a window in front is still on its way to the screen
 };
 
 /// The tutor's window, loaded unseen where it is not loaded yet.

@@ -206,14 +206,15 @@ void frmMain::Load()
 }
 
 /// Directly left of the tutor's window, which this loads whether or not the tutor is on; on a small screen as far left
-/// as it goes, since a window whose left side is not to be seen can't be worked with.
+/// as it goes, since a window whose left side is not to be seen can't be worked with, and at its top, so that the tutor
+/// covers as little of it as can be.
 void frmMain::StandLeftOfTheTutor()
 {
     if (!TheWindows.Knows(WindowName::frmTallymereTutor))
         return;
     const QRect room = screen()->availableGeometry();
     const int left = TheWindows.Touch(WindowName::frmTallymereTutor).x() - width();
-    const int spare = room.height() - TitleBarHeight - height();
+    const int spare = left < room.left() ? 0 : room.height() - TitleBarHeight - height();
     move(qMax(room.left(), left), room.top() + qMax(0, spare / 2));
 }
 
@@ -400,8 +401,8 @@ void frmMain::mnuTallymereTutor_Click()
 {
     const bool turnOn = Entry(u"mnuTallymereTutor"_s)->isChecked();
     if (turnOn) {
-        tmrAutoTutor.start();
         Q_EMIT TheTutorRequests.ReleaseWanted(); // whoever turns the tutor on wants its pages to come
+        tmrAutoTutor.start();
     } else {
         tmrAutoTutor.stop();
         TheWindows.Unload(WindowName::frmTallymereTutor);

@@ -571,6 +571,46 @@ private Q_SLOTS:
         QCOMPARE(TheWindows.Loaded(Window)->pos(), QPoint(10, 10));
     }
 
+    // Beside a main window that leaves it room it shows a long page; else it is lower, so that it covers less.
+    void ItIsLowerWhereItDoesNotFitBesideTheMainWindow()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        TheWindows.Unload(Window);
+        Form &main = *TheWindows.Loaded(Main);
+        const QSize room = main.screen()->availableSize();
+        const auto height = [&] {
+            WantPage(1);
+            const int shown = TheWindows.Loaded(Window)->height();
+            TheWindows.Unload(Window);
+            return shown;
+        };
+        main.setMinimumSize(1, 1);
+        main.resize(room.width() / 4, 300);
+        Settle();
+        const int high = height();
+        main.resize(room.width(), room.height() - 40);
+        Settle();
+        const int low = height();
+        QVERIFY2(low < high && low >= high / 3, qPrintable(u"%1, %2"_s.arg(low).arg(high)));
+        main.resize(room.width(), room.height() - 80 - low - 50); // which leaves a little more below it
+        Settle();
+        QCOMPARE(height(), qMin(low + 50, high));
+        main.resize(room.width(), 100);
+        Settle();
+        QCOMPARE(height(), high);
+    }
+
+    void TheSamplesWordsGiveWayToThePage()
+    {
+        GuiDesk desk;
+        Show(Window); // as the welcome window does
+        QVERIFY(Instructions().contains(u"This is only a sample."_s));
+        desk.StartProgram();
+        WantPage(1);
+        QCOMPARE(Instructions(), TextOfPage(1));
+    }
+
     void NothingMovesWhenThePageTurns()
     {
         GuiDesk desk;
@@ -605,8 +645,10 @@ private Q_SLOTS:
         const Form &tutor = *TheWindows.Loaded(Window);
         QVERIFY(!tutor.isVisible()); // loaded for its place
         const QRect room = main.screen()->availableGeometry();
-        QCOMPARE(main.x(), qMax(room.left(), tutor.x() - main.width()));
-        QVERIFY(main.y() >= room.top());
+        const bool fits = tutor.x() - main.width() >= room.left();
+        QCOMPARE(main.x(), fits ? tutor.x() - main.width() : room.left());
+        const int spare = room.height() - 40 - main.height();             // the title bar is not there yet
+        QCOMPARE(main.y(), room.top() + (fits ? qMax(0, spare / 2) : 0)); // at the top the tutor covers least of it
     }
 
     void ItsTitleAndItsTeacherSayWhatAClickDoes()

@@ -1379,13 +1379,23 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"start"_s});
     }
 
+    // In the middle of the screen's height; where both do not fit, in its upper left corner.
+    void TheMainWindowStandsLeftOfTheTutors_data()
+    {
+        QTest::addColumn<bool>("fits");
+        QTest::newRow("side by side") << true;
+        QTest::newRow("one over the other") << false;
+    }
     void TheMainWindowStandsLeftOfTheTutors()
     {
+        static int place = 0;
         class TutorToy : public Form
         {
         public:
-            TutorToy() { move(1500, 40); }
+            TutorToy() { move(place, 40); }
         };
+        QFETCH(bool, fits);
+        place = fits ? 1500 : 300;
         GuiDesk desk;
         desk.Options[u"show tallymere tutor"_s] = u"0"_s; // it is loaded for its place also when it is off
         DeclareToy<TutorToy>(u"frmTallymereTutor"_s);
@@ -1393,7 +1403,10 @@ private Q_SLOTS:
         const Form &main = *TheWindows.Loaded(Main);
         QVERIFY(TheWindows.Loaded(u"frmTallymereTutor"_s));
         QVERIFY(!IsShown(u"frmTallymereTutor"_s));
-        QCOMPARE(main.x() + main.width(), 1500);
+        const QRect room = main.screen()->availableGeometry();
+        const int spare = room.height() - 40 - main.height(); // its title bar is not there yet
+        QCOMPARE(main.x(), fits ? 1500 - main.width() : room.left());
+        QCOMPARE(main.y(), room.top() + (fits ? qMax(0, spare / 2) : 0));
     }
 
     void ADamagedStartIsToldAndTheMainWindowOpens_data()
