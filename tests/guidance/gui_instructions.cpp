@@ -1,17 +1,11 @@
 // The captions that the tutor's pages and the tips name are those on the screen.
+#include "Captions.h"
 #include "GuiDesk.h"
 #include "GuidanceTexts.h"
 #include "TestProgram.h"
 
 #include "debt/PayOffPlan.h"
 #include "mainwindow/MainMenu.h"
-
-#include <QAbstractItemView>
-#include <QGroupBox>
-#include <QMenu>
-#include <QToolButton>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -65,38 +59,14 @@ const QList<QList<Panel>> &WindowsOfPages()
     return windows;
 }
 
-/// Without the mark of an access key, what stands behind a tab, and a colon.
-QString AsRead(const QString &caption)
-{
-    static const QRegularExpression accessKey(u"&(.)"_s);
-    QString text = caption.section(u'\t', 0, 0);
-    text.replace(accessKey, u"\\1"_s);
-    if (text.endsWith(u':'))
-        text.chop(1);
-    return text;
-}
-
 /// What a window says on its controls, headings and menus as it stands.
 QSet<QString> CaptionsOf(const Form &window)
 {
-    QSet<QString> captions{AsRead(window.windowTitle())};
+    QSet<QString> captions{Plain(window.windowTitle())};
     for (const QWidget *control : window.findChildren<QWidget *>()) {
-        if (const auto *menu = qobject_cast<const QMenu *>(control)) {
-            for (const QAction *entry : menu->actions())
-                captions += AsRead(entry->text());
-            continue;
-        }
-        if (!control->isVisibleTo(&window))
-            continue;
-        if (const auto *label = qobject_cast<const QLabel *>(control))
-            captions += AsRead(label->text());
-        else if (const auto *button = qobject_cast<const QAbstractButton *>(control))
-            captions += AsRead(button->text().isEmpty() ? button->toolTip() : button->text());
-        else if (const auto *frame = qobject_cast<const QGroupBox *>(control))
-            captions += AsRead(frame->title());
-        else if (const auto *view = qobject_cast<const QAbstractItemView *>(control))
-            for (int column = 0; column < view->model()->columnCount(); ++column)
-                captions += view->model()->headerData(column, Qt::Horizontal).toString();
+        if (qobject_cast<const QMenu *>(control) || control->isVisibleTo(&window))
+            for (const QString &caption : CaptionsOf(*control))
+                captions += caption;
     }
     return captions;
 }
@@ -137,7 +107,7 @@ QSet<QString> MenuCaptions()
 {
     QSet<QString> captions;
     for (const MenuEntry &entry : MainMenu())
-        captions += AsRead(entry.Caption);
+        captions += Plain(entry.Caption);
     captions -= QString();
     return captions;
 }

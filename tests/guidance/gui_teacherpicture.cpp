@@ -1,15 +1,13 @@
 // The teacher's pictures: the files of a fresh household are what the drawings give, and they are sharp.
 #include "FakeDesk.h"
+#include "Sources.h"
 #include "TestProgram.h"
 
 #include "guidance/TeacherPicture.h"
 
-#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -61,12 +59,6 @@ void Poses()
     QTest::newRow("frozen") << Teacher::Frozen;
 }
 
-QByteArray Contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class gui_teacherpicture : public QObject
@@ -105,7 +97,7 @@ private Q_SLOTS:
     {
         QFETCH(Teacher, pose);
         FakeDesk desk;
-        desk.WriteFile(u"help\\"_s + TeacherFile(pose), Contents(FileOf(pose)));
+        desk.WriteFile(u"help\\"_s + TeacherFile(pose), BytesOf(FileOf(pose)));
         const QIcon icon = TeacherPicture(pose);
         for (const double scale : {1.0, 1.5, 2.0, 2.5}) {
             const QPixmap shown = icon.pixmap(QSize(ShownSide, ShownSide), scale);
@@ -120,7 +112,7 @@ private Q_SLOTS:
     void AFamilysOwnPictureIsShown()
     {
         FakeDesk desk;
-        desk.WriteFile(u"help\\teacher.bmp"_s, Contents(FileOf(Teacher::Frozen)));
+        desk.WriteFile(u"help\\teacher.bmp"_s, BytesOf(FileOf(Teacher::Frozen)));
         const QSize whole = QImage(FileOf(Teacher::Frozen)).size();
         QCOMPARE(
             Difference(TeacherPicture(Teacher::Pointing).pixmap(whole, 1.0).toImage(), QImage(FileOf(Teacher::Frozen))),

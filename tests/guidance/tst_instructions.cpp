@@ -1,13 +1,10 @@
 // The files of the tutor's pages and of the tips: their layout, and that what they quote is what the program says.
 #include "FakeDesk.h"
 #include "GuidanceTexts.h"
+#include "Sources.h"
 #include "TestProgram.h"
 
 #include "foundation/StartAndEnd.h"
-
-#include <QDirIterator>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -29,11 +26,8 @@ const QStringList &Literals()
 {
     static const QStringList literals = [] {
         QStringList found;
-        QDirIterator sources(QStringLiteral(PROJECT_FOLDER "/src"), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
-                             QDirIterator::Subdirectories);
-        while (sources.hasNext())
-            for (const QString &line : LinesOf(sources.next()))
-                found += FirstGroups(line, u"\"((?:[^\"\\\\]|\\\\.)*)\""_s);
+        for (const QString &file : SourceFiles({u"*.cpp"_s, u"*.h"_s}))
+            found += LiteralsOf(file);
         return found;
     }();
     return literals;
@@ -74,9 +68,7 @@ private Q_SLOTS:
         QFETCH(int, page);
         FakeDesk desk;
         State.ApplicationPath = desk.Folder();
-        QFile file(InstructionFile);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        desk.WriteFile(u"help\\Instruction.txt"_s, file.readAll());
+        desk.WriteFile(u"help\\Instruction.txt"_s, BytesOf(InstructionFile));
         LoadTutorInstructions();
         QCOMPARE(State.TutorInstructions(page), u'\n' + LinesOfPage(page).join(u'\n') + Footer);
     }

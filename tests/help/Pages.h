@@ -1,25 +1,41 @@
-// The pages of the help as their tests read them, and the words of the program's sources that they are held against.
+// The pages of the help as their tests read them.
 #pragma once
 
+#include "Sources.h"
+
 #include <QDir>
-#include <QDirIterator>
-#include <QFile>
+#include <QHash>
 #include <QMap>
-#include <QRegularExpression>
-#include <QSet>
 #include <QXmlStreamReader>
+#include <QtTest>
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
 inline const QString HelpFolder = QStringLiteral(PROJECT_FOLDER "/help/");
 inline const QString PagesFolder = HelpFolder + u"pages/"_s;
-inline const QString SourceFolder = QStringLiteral(PROJECT_FOLDER "/src/");
+/// The one file that all pages become.
+inline const QString HelpFile = QStringLiteral(HELP_FILE);
 
-inline QByteArray BytesOf(const QString &path)
+/// The help contexts of the message boxes with a help button, and the window that each belongs to.
+inline const QMap<int, QString> HelpContexts{
+    {4, u"frmProjects"_s},
+    {18, u"frmTotalHours"_s},
+    {22, u"frmCreditors"_s},
+    {23, u"frmRegulars"_s},
+    {24, u"frmExtras"_s},
+    {25, u"frmProjects"_s},
+    {26, u"frmAverageNetPercentage"_s},
+    {27, u"frmAverageNetPercentage"_s},
+    {28, u"frmAverageNetPercentage"_s},
+    {29, u"frmAverageNetPercentage"_s},
+    {30, u"frmCalculateWages"_s},
+};
+
+/// The name of a page in an address, without its folders, its ending and the place on it.
+inline QString NameIn(const QString &address)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return address.section(u'#', 0, 0).section(u'/', -1).section(u'.', 0, 0);
 }
 
 /// An element of a page, or a text between elements, which has no name.
@@ -103,41 +119,28 @@ inline Node PageOf(const QString &name)
     return ReadPage(BytesOf(PagesFolder + name + u".html"_s));
 }
 
-/// A caption as it is read: without the mark of its access key and without the colon at its end.
-inline QString Plain(QString caption)
+inline QString TitleOf(const QString &name)
 {
-    caption.replace(u"&&"_s, u"\x1"_s).remove(u'&').replace(u"\x1"_s, u"&"_s);
-    caption = caption.section(u'\t', 0, 0).simplified(); // behind the tab stands a key
-    return caption.endsWith(u':') ? caption.chopped(1).trimmed() : caption;
+    const Node page = PageOf(name);
+    const QList<const Node *> titles = page.All(u"title"_s);
+    return titles.isEmpty() ? QString() : titles[0]->Text();
 }
 
-/// The texts between double quotes in a C++ source, those that stand side by side joined, escapes resolved.
-inline QStringList LiteralsOf(const QString &path)
+/// All that can be read on a page.
+inline QString WordsOf(const QString &name)
 {
-    static const QRegularExpression comment(u"^\\s*//[^\\n]*|[;{},)] +//[^\\n]*"_s,
-                                            QRegularExpression::MultilineOption);
-    static const QRegularExpression piece(u"(?:u8|u|L)?\"((?:[^\"\\\\]|\\\\.)*)\"(?:_s|_L1)?|'(?:[^'\\\\]|\\\\.)'"_s);
-    const QString source = QString::fromUtf8(BytesOf(path)).remove(comment);
-    QStringList literals;
-    qsizetype end = -1;
-    for (auto pieces = piece.globalMatch(source); pieces.hasNext();) {
-        const QRegularExpressionMatch match = pieces.next();
-        if (match.capturedStart(1) < 0)
-            continue;
-        QString words = match.captured(1);
-        words.replace(u"\\n"_s, u" "_s)
-            .replace(u"\\t"_s, u"\t"_s)
-            .replace(u"\\\""_s, u"\""_s)
-            .replace(u"\\\\"_s, u"\\"_s);
-        const bool continues =
-            end >= 0 && source.mid(end, match.capturedStart() - end).trimmed().isEmpty() && !literals.isEmpty();
-        if (continues)
-            literals.last() += words;
-        else
-            literals += words;
-        end = match.capturedEnd();
-    }
-    return literals;
+    static QHash<QString, QString> known;
+    if (!known.contains(name))
+        known[name] = PageOf(name).Text();
+    return known[name];
+}
+
+/// The rows of a test that looks at every page, with its name as their one column.
+inline void EachPage()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : PageNames())
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 /// The texts of a design.
@@ -150,16 +153,6 @@ inline QStringList TextsOfDesign(const QString &path)
     return texts;
 }
 
-/// The files of the program's sources with one of these endings.
-inline QStringList SourceFiles(const QStringList &endings)
-{
-    QStringList files;
-    for (QDirIterator each(SourceFolder, endings, QDir::Files, QDirIterator::Subdirectories); each.hasNext();)
-        files += each.next();
-    files.sort();
-    return files;
-}
-
 /// The pieces of a text between its varying places: "%1" in a source, "…" on a page.
 inline QStringList PiecesOf(const QString &text)
 {
@@ -169,4 +162,17 @@ inline QStringList PiecesOf(const QString &text)
         if (!piece.trimmed().isEmpty())
             pieces += piece.simplified();
     return pieces;
+}
+
+/// Whether the pieces stand in the text one behind the other.
+inline bool StandInOrder(const QStringList &pieces, const QString &text)
+{
+    qsizetype from = 0;
+    for (const QString &piece : pieces) {
+        from = text.indexOf(piece, from);
+        if (from < 0)
+            return false;
+        from += piece.size();
+    }
+    return true;
 }

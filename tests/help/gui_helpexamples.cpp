@@ -1,5 +1,6 @@
 // The pages of the help against the windows: the captions that they name exist, and their examples come out as they
 // say.
+#include "Captions.h"
 #include "GuiDesk.h"
 #include "Households.h"
 #include "Pages.h"
@@ -8,8 +9,6 @@
 
 #include <QAction>
 #include <QEventLoop>
-#include <QHeaderView>
-#include <QMenu>
 #include <QTabBar>
 #include <QThread>
 #include <QTimer>
@@ -37,13 +36,9 @@ QSet<QString> CaptionsOf(const QString &window)
     const Form &form = TheWindows.Touch(window);
     captions += Plain(form.windowTitle());
     for (const QWidget *widget : form.findChildren<QWidget *>()) {
-        if (auto *button = qobject_cast<const QAbstractButton *>(widget))
-            captions += Plain(button->text());
-        else if (auto *label = qobject_cast<const QLabel *>(widget))
-            captions += Plain(label->text());
-        else if (auto *group = qobject_cast<const QGroupBox *>(widget))
-            captions += Plain(group->title());
-        else if (auto *list = qobject_cast<const ListBox *>(widget))
+        for (const QString &caption : CaptionsOf(*widget))
+            captions += caption;
+        if (auto *list = qobject_cast<const ListBox *>(widget))
             for (const QString &row : list->Items())
                 captions += Plain(row.section(u": "_s, 0, 0));
         else if (auto *choice = qobject_cast<const QComboBox *>(widget))
@@ -52,16 +47,11 @@ QSet<QString> CaptionsOf(const QString &window)
         else if (auto *tabs = qobject_cast<const QTabBar *>(widget))
             for (int tab = 0; tab < tabs->count(); ++tab)
                 captions += Plain(tabs->tabText(tab));
-        if (auto *grid = qobject_cast<const Grid *>(widget))
-            for (int column = 0; column < grid->Columns(); ++column)
-                captions += Plain(grid->Text(0, column));
         // A button with a picture goes by its name.
         captions += Plain(widget->accessibleName());
     }
     for (const QAction *action : form.findChildren<QAction *>())
         captions += Plain(action->text());
-    for (const QMenu *menu : form.findChildren<QMenu *>())
-        captions += Plain(menu->title());
     const QString folder = FolderOf(window);
     for (const QString &path : SourceFiles({u"*.cpp"_s, u"*.h"_s})) {
         const QFileInfo file(path);
@@ -91,14 +81,7 @@ bool Says(const QString &said, const QString &page)
     const QString text = said.simplified();
     if (pieces.size() == 1 && !page.contains(u'\u2026'))
         return text == pieces[0];
-    qsizetype from = 0;
-    for (const QString &piece : pieces) {
-        from = text.indexOf(piece, from);
-        if (from < 0)
-            return false;
-        from += piece.size();
-    }
-    return true;
+    return StandInOrder(pieces, text);
 }
 
 /// Carries out the rows of an example one after the other. A row that opens a modal window returns only when that is
@@ -391,26 +374,21 @@ private Q_SLOTS:
         QCOMPARE(missing.join(u" | "_s), QString());
     }
 
-    void CaptionsExist_data()
-    {
-        QTest::addColumn<QString>("page");
-        for (const QString &page : PageNames())
-            QTest::newRow(qPrintable(page)) << page;
-    }
+    void CaptionsExist_data() { EachPage(); }
     void CaptionsExist()
     {
-        QFETCH(QString, page);
+        QFETCH(QString, name);
         GuiDesk desk;
         desk.StartProgram();
         QStringList missing;
-        const Node read = PageOf(page);
-        for (const Node *bold : read.All(u"b"_s)) {
+        const Node page = PageOf(name);
+        for (const Node *bold : page.All(u"b"_s)) {
             const QString other = bold->Attributes.value(u"title"_s);
             QString caption = bold->Text();
             if (caption.endsWith(u':'))
                 caption.chop(1);
             QSet<QString> captions = other.isEmpty() ? CaptionsOf(MainWindow) : QSet<QString>();
-            const QString window = other.isEmpty() ? page : other;
+            const QString window = other.isEmpty() ? name : other;
             if (TheWindows.Knows(window))
                 captions += CaptionsOf(window);
             else if (window.startsWith(u"frm"_s))

@@ -1,13 +1,10 @@
 // The program's side of the help: one viewer for all questions, and a box wherever the help cannot be shown.
 #include "GuiDesk.h"
+#include "Pages.h"
 #include "TestProgram.h"
 #include "platform/desk/HelpViewer.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
-
-const QString HelpFile = QStringLiteral(HELP_FILE);
 
 /// A stand-in for the viewer, a shell script that writes each line it hears to the file `heard`.
 class StandIn

@@ -1,5 +1,6 @@
 // The window of the help, with the help file as it is laid down.
 #include "GuiDesk.h"
+#include "Pages.h"
 #include "TestProgram.h"
 #include "help/HelpBook.h"
 #include "help/HelpPages.h"
@@ -13,11 +14,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
-const QString HelpFile = QStringLiteral(HELP_FILE);
 constexpr int LongestIndexing = 20000; // milliseconds
 
 /// The window as the viewer shows it.
@@ -38,7 +36,7 @@ public:
             qFatal("the words are not listed");
     }
 
-    QString Page() const { return Window.findChild<HelpPages *>()->source().fileName().section(u'.', 0, 0); }
+    QString Page() const { return NameIn(Window.findChild<HelpPages *>()->source().fileName()); }
     QAction &Action(const QString &name) const { return *Window.findChild<QAction *>(name); }
     int Side() const { return Window.findChild<QTabWidget *>(u"sides"_s)->currentIndex(); }
     template <class Control>
@@ -58,26 +56,13 @@ public:
             qFatal("the search does not end");
         QStringList pages;
         for (const QHelpSearchResult &result : engine->searchResults(0, engine->searchResultCount()))
-            pages += result.url().fileName().section(u'.', 0, 0);
+            pages += NameIn(result.url().fileName());
         return pages;
     }
 
     HelpBook Book;
     HelpWindow Window;
 };
-
-/// The pages that windows have, with their titles.
-QMap<QString, QString> WindowPages(Reader &reader)
-{
-    QMap<QString, QString> pages;
-    for (const QString &window : TheWindows.Names()) {
-        const QUrl page = reader.Book.PageOf(window);
-        QTextDocument document;
-        document.setHtml(QString::fromUtf8(reader.Book.Engine().fileData(page)));
-        pages[window] = document.metaInformation(QTextDocument::DocumentTitle);
-    }
-    return pages;
-}
 
 } // namespace
 
@@ -113,17 +98,9 @@ private Q_SLOTS:
         desk.StartProgram();
         desk.TakeAll();
         Reader reader(u"topic frmMain"_s);
-        for (const auto &[context, window] : {std::pair(4, u"frmProjects"_s),
-                                              {18, u"frmTotalHours"_s},
-                                              {22, u"frmCreditors"_s},
-                                              {23, u"frmRegulars"_s},
-                                              {24, u"frmExtras"_s},
-                                              {25, u"frmProjects"_s},
-                                              {26, u"frmAverageNetPercentage"_s},
-                                              {29, u"frmAverageNetPercentage"_s},
-                                              {30, u"frmCalculateWages"_s}}) {
-            reader.Window.Answer(u"context %1"_s.arg(context));
-            QCOMPARE(reader.Page(), window);
+        for (auto context = HelpContexts.begin(); context != HelpContexts.end(); ++context) {
+            reader.Window.Answer(u"context %1"_s.arg(context.key()));
+            QCOMPARE(reader.Page(), context.value());
         }
         // What F1 says of a window's context agrees with its page.
         for (const QString &window : TheWindows.Names())
@@ -171,7 +148,7 @@ private Q_SLOTS:
         }
         back.prepend(reader.Page());
         QCOMPARE(forth.join(u" "_s), back.join(u" "_s));
-        QCOMPARE(forth.size(), QDir(QStringLiteral(PROJECT_FOLDER "/help/pages")).entryList({u"*.html"_s}).size());
+        QCOMPARE(forth.size(), PageNames().size());
         QCOMPARE(QSet<QString>(forth.begin(), forth.end()).size(), forth.size());
         QCOMPARE(reader.Action(u"previous"_s).text(), u"<<"_s);
         QCOMPARE(reader.Action(u"next"_s).text(), u">>"_s);
@@ -201,11 +178,10 @@ private Q_SLOTS:
     {
         GuiDesk desk;
         Reader reader(u"contents"_s);
-        const QMap<QString, QString> pages = WindowPages(reader);
-        for (auto page = pages.begin(); page != pages.end(); ++page) {
-            const QStringList found = reader.Search(page.value());
-            QVERIFY2(found.contains(page.key()),
-                     qPrintable(u"%1 by \"%2\": %3"_s.arg(page.key(), page.value(), found.join(u' '))));
+        for (const QString &window : TheWindows.Names()) {
+            const QString title = TitleOf(window);
+            const QStringList found = reader.Search(title);
+            QVERIFY2(found.contains(window), qPrintable(u"%1 by \"%2\": %3"_s.arg(window, title, found.join(u' '))));
         }
     }
 

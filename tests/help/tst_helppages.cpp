@@ -4,25 +4,8 @@
 #include "TestProgram.h"
 
 #include <QProcess>
-#include <QStandardPaths>
-#include <QtTest>
 
 namespace {
-
-/// The help contexts of the message boxes with a help button, and the window that each belongs to.
-const QMap<int, QString> Contexts{
-    {4, u"frmProjects"_s},
-    {18, u"frmTotalHours"_s},
-    {22, u"frmCreditors"_s},
-    {23, u"frmRegulars"_s},
-    {24, u"frmExtras"_s},
-    {25, u"frmProjects"_s},
-    {26, u"frmAverageNetPercentage"_s},
-    {27, u"frmAverageNetPercentage"_s},
-    {28, u"frmAverageNetPercentage"_s},
-    {29, u"frmAverageNetPercentage"_s},
-    {30, u"frmCalculateWages"_s},
-};
 
 /// What stands in the sources and is read by nobody, or is explained where it stands.
 const QRegularExpression NoMessage(u"^(Show (Welcome|Tips) [Aa]t Startup"         // options
@@ -35,44 +18,23 @@ const QRegularExpression NoMessage(u"^(Show (Welcome|Tips) [Aa]t Startup"       
 /// Files whose texts are read elsewhere than in boxes: menus, hints and the printed test page.
 const QStringList NoMessages{u"mainwindow/MainMenu.cpp"_s, u"mainwindow/TestPage.cpp"_s};
 
-void AddPages()
-{
-    QTest::addColumn<QString>("name");
-    for (const QString &name : PageNames())
-        QTest::newRow(qPrintable(name)) << name;
-}
-
-/// All that can be read on a page.
-QString WordsOf(const QString &name)
-{
-    static QHash<QString, QString> known;
-    if (!known.contains(name))
-        known[name] = PageOf(name).Text();
-    return known[name];
-}
-
-/// Whether the pieces stand in the text one after the other.
-bool Contains(const QString &text, const QStringList &pieces)
-{
-    qsizetype from = 0;
-    for (const QString &piece : pieces) {
-        from = text.indexOf(piece, from);
-        if (from < 0)
-            return false;
-        from += piece.size();
-    }
-    return true;
-}
-
 const Node &Project()
 {
     static const Node project = ReadPage(BytesOf(HelpFolder + u"tallymere.qhp"_s));
     return project;
 }
 
-QString NameIn(const QString &ref)
+/// The words that the spelling checker does not know.
+QStringList Misspelled(const QString &words)
 {
-    return ref.section(u'#', 0, 0).section(u'/', -1).section(u'.', 0, 0);
+    QProcess checker;
+    checker.start(u"hunspell"_s, {u"-d"_s, u"en_US"_s, u"-i"_s, u"utf-8"_s, u"-p"_s,
+                                  QStringLiteral(PROJECT_FOLDER "/tests/help/words.txt"), u"-l"_s});
+    checker.write(words.toUtf8());
+    checker.closeWriteChannel();
+    if (!checker.waitForFinished() || checker.exitCode() != 0)
+        qFatal("hunspell is not installed or has failed");
+    return QString::fromUtf8(checker.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -99,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(PageNames().contains(u"frmPaymentCalculator"_s));
     }
 
-    void ItIsWellFormed_data() { AddPages(); }
+    void ItIsWellFormed_data() { EachPage(); }
     void ItIsWellFormed()
     {
         QFETCH(QString, name);
@@ -118,12 +80,11 @@ private Q_SLOTS:
         QVERIFY2(page.Text().size() > 300, "there is hardly anything on it");
     }
 
-    void EveryPageHasItsPlace_data() { AddPages(); }
+    void EveryPageHasItsPlace_data() { EachPage(); }
     void EveryPageHasItsPlace()
     {
         QFETCH(QString, name);
-        const Node page = PageOf(name);
-        const QString title = page.All(u"title"_s).value(0)->Text();
+        const QString title = TitleOf(name);
         QStringList inContents, inIndex;
         for (const Node *section : Project().All(u"section"_s))
             if (NameIn(section->Attributes.value(u"ref"_s)) == name)
@@ -157,10 +118,10 @@ private Q_SLOTS:
         for (const Node *keyword : Project().All(u"keyword"_s))
             if (const QString id = keyword->Attributes.value(u"id"_s); id.startsWith(u"context-"_s))
                 found[id.mid(8).toInt()] = NameIn(keyword->Attributes.value(u"ref"_s));
-        QCOMPARE(found, Contexts);
+        QCOMPARE(found, HelpContexts);
     }
 
-    void NoLinkIsDead_data() { AddPages(); }
+    void NoLinkIsDead_data() { EachPage(); }
     void NoLinkIsDead()
     {
         QFETCH(QString, name);
@@ -187,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(dead.join(u" | "_s), QString());
     }
 
-    void WhatItQuotesIsInTheProgram_data() { AddPages(); }
+    void WhatItQuotesIsInTheProgram_data() { EachPage(); }
     void WhatItQuotesIsInTheProgram()
     {
         QFETCH(QString, name);
@@ -231,12 +192,12 @@ private Q_SLOTS:
         QStringList missing;
         for (const QString &literal : LiteralsOf(SourceFolder + file))
             if (sentence.match(literal).hasMatch() && !NoMessage.match(literal.simplified()).hasMatch() &&
-                !Contains(words, PiecesOf(literal)))
+                !StandInOrder(PiecesOf(literal), words))
                 missing += literal;
         QCOMPARE(missing.join(u" | "_s), QString());
     }
 
-    void FiguresStandInExamples_data() { AddPages(); }
+    void FiguresStandInExamples_data() { EachPage(); }
     void FiguresStandInExamples()
     {
         // Any other amount of money could be wrong without a test that notices.
@@ -286,20 +247,13 @@ private Q_SLOTS:
     {
         QFETCH(QString, page);
         QFETCH(QStringList, words);
-        const QString text = WordsOf(page);
-        QVERIFY2(Contains(text, words), qPrintable(words.join(u" ... "_s)));
+        QVERIFY2(StandInOrder(words, WordsOf(page)), qPrintable(words.join(u" ... "_s)));
     }
 
-    void SpellingIsRight_data() { AddPages(); }
+    void SpellingIsRight_data() { EachPage(); }
     void SpellingIsRight()
     {
         QFETCH(QString, name);
-        const QString program = QStandardPaths::findExecutable(u"hunspell"_s);
-        QVERIFY2(!program.isEmpty(), "hunspell is not installed");
-        QProcess hunspell;
-        hunspell.start(program, {u"-d"_s, u"en_US"_s, u"-i"_s, u"utf-8"_s, u"-p"_s,
-                                 QStringLiteral(PROJECT_FOLDER "/tests/help/words.txt"), u"-l"_s});
-        QVERIFY(hunspell.waitForStarted());
         // What stands in a quotation or an answer is the program's; its own misspelling is explained there.
         QString words;
         const std::function<void(const Node &)> read = [&](const Node &node) {
@@ -312,23 +266,12 @@ private Q_SLOTS:
                 words += u'\n';
         };
         read(PageOf(name));
-        hunspell.write(words.replace(u'\u2019', u'\'').toUtf8());
-        hunspell.closeWriteChannel();
-        QVERIFY(hunspell.waitForFinished());
-        QCOMPARE(hunspell.exitCode(), 0);
-        QCOMPARE(QString::fromUtf8(hunspell.readAllStandardOutput()).simplified(), QString());
+        QCOMPARE(Misspelled(words.replace(u'\u2019', u'\'')), QStringList());
     }
 
     void TheSpellingCheckerKnowsWhatIsWrong()
     {
-        QProcess hunspell;
-        hunspell.start(u"hunspell"_s,
-                       {u"-d"_s, u"en_US"_s, u"-p"_s, QStringLiteral(PROJECT_FOLDER "/tests/help/words.txt"), u"-l"_s});
-        QVERIFY(hunspell.waitForStarted());
-        hunspell.write("A recieved colour\n");
-        hunspell.closeWriteChannel();
-        QVERIFY(hunspell.waitForFinished());
-        QCOMPARE(hunspell.readAllStandardOutput(), "recieved\ncolour\n");
+        QCOMPARE(Misspelled(u"A recieved colour\n"_s), (QStringList{u"recieved"_s, u"colour"_s}));
     }
 };
 
