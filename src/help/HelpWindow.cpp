@@ -21,6 +21,16 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// An entry of the contents that only stands above others leads to no page.
+bool IsHeading(const QUrl &page)
+{
+    return page.fileName().isEmpty();
+}
+
+} // namespace
+
 HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
 {
     setObjectName(u"helpWindow"_s);
@@ -32,7 +42,10 @@ HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
     contents->setObjectName(u"contents"_s);
     contents->setAccessibleName(u"Contents"_s);
     contents->setHeaderHidden(true);
+    // A single click opens a page as Enter does, whatever the desktop's habit is.
     connect(contents, &QHelpContentWidget::linkActivated, this, &HelpWindow::Open);
+    connect(contents, &QAbstractItemView::clicked, this,
+            [this](const QModelIndex &entry) { Open(m_book.Engine().contentModel()->contentItemAt(entry)->url()); });
     connect(book.Engine().contentModel(), &QHelpContentModel::contentsCreated, this, &HelpWindow::ListPages);
 
     m_sides = new QTabWidget;
@@ -151,6 +164,7 @@ QWidget *HelpWindow::MakeIndex()
     connect(m_indexFilter, &QLineEdit::textChanged, index,
             [index](const QString &text) { index->filterIndices(text); });
     connect(m_indexFilter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
+    connect(index, &QAbstractItemView::clicked, index, &QHelpIndexWidget::activateCurrentItem);
     connect(index, &QHelpIndexWidget::documentActivated, this, [this](const QHelpLink &page) { Open(page.url); });
     connect(index, &QHelpIndexWidget::documentsActivated, this,
             [this](const QList<QHelpLink> &pages) { Open(pages.constFirst().url); });
@@ -203,7 +217,7 @@ void HelpWindow::ListPages()
         for (int row = 0; row < model->rowCount(parent); ++row) {
             const QModelIndex entry = model->index(row, 0, parent);
             const QUrl page = model->contentItemAt(entry)->url();
-            if (!page.fileName().isEmpty()) // else it is the heading of a group
+            if (!IsHeading(page))
                 m_order += page;
             addChildren(entry, addChildren);
         }
@@ -234,6 +248,8 @@ void HelpWindow::ComeForward()
 
 void HelpWindow::Open(const QUrl &page)
 {
+    if (IsHeading(page))
+        return;
     m_pages->setSource(page);
     if (m_sides->currentIndex() == Contents)
         m_pages->setFocus();

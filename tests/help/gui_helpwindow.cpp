@@ -1,4 +1,5 @@
 // The window of the help, with the help file as it is laid down.
+#include "../platform/PdfText.h"
 #include "GuiDesk.h"
 #include "Pages.h"
 #include "TestProgram.h"
@@ -7,12 +8,17 @@
 #include "help/HelpWindow.h"
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QHelpIndexWidget>
+#include <QHelpLink>
 #include <QHelpSearchEngine>
 #include <QHelpSearchResult>
 #include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QTabWidget>
 #include <QToolButton>
+#include <unistd.h>
 
 namespace {
 
@@ -62,6 +68,75 @@ public:
 
     HelpBook Book;
     HelpWindow Window;
+};
+
+/// A place on a page at which a link can be clicked; not valid where it has none.
+QTextCursor FirstLink(const QTextBrowser &page)
+{
+    for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next())
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece)
+            if (!piece.fragment().charFormat().anchorHref().isEmpty()) {
+                QTextCursor cursor(page.document());
+                cursor.setPosition(piece.fragment().position() + piece.fragment().length() / 2);
+                return cursor;
+            }
+    return {};
+}
+
+/// Clicks on the first link of a page. Returns its address.
+QString ClickLink(QTextBrowser &page)
+{
+    const QTextCursor link = FirstLink(page);
+    if (link.isNull())
+        return {};
+    page.setTextCursor(link);
+    page.ensureCursorVisible();
+    const QPoint place = page.cursorRect(link).center();
+    const QString address = page.anchorAt(place);
+    QTest::mouseClick(page.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    Settle();
+    return address;
+}
+
+/// Gives a variable of the environment another value for a while.
+class WithVariable
+{
+public:
+    WithVariable(const char *name, const QByteArray &value)
+        : m_name(name), m_wasSet(qEnvironmentVariableIsSet(name)), m_before(qgetenv(name))
+    {
+        qputenv(name, value);
+    }
+    ~WithVariable() { m_wasSet ? qputenv(m_name, m_before) : qunsetenv(m_name); }
+
+private:
+    const char *m_name;
+    bool m_wasSet;
+    QByteArray m_before;
+};
+
+/// Hears what the desktop is asked to open.
+class Desktop : public QObject
+{
+    Q_OBJECT
+public:
+    Desktop()
+    {
+        for (const QString &scheme : Schemes)
+            QDesktopServices::setUrlHandler(scheme, this, "Open");
+    }
+    ~Desktop() override
+    {
+        for (const QString &scheme : Schemes)
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+    QStringList Opened;
+
+public Q_SLOTS:
+    void Open(const QUrl &address) { Opened += address.toString(); }
+
+private:
+    const QStringList Schemes{u"https"_s, u"mailto"_s, u"file"_s, u"qthelp"_s};
 };
 
 } // namespace
@@ -289,14 +364,219 @@ private Q_SLOTS:
         QVERIFY(text.contains(u"\u201cBorrowed Amount does not contain a valid currency amount\u201d"_s));
     }
 
+    void ALinkIsFollowed()
+    {
+        Desktop desktop;
+        Reader reader(u"contents"_s);
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        const QString address = ClickLink(pages);
+        QVERIFY(!address.isEmpty());
+        QCOMPARE(reader.Page(), NameIn(address));
+        QCOMPARE(reader.Window.windowTitle(), TitleOf(NameIn(address)) + u" - Help"_s);
+        QCOMPARE(desktop.Opened, QStringList());
+    }
+
+    void ALinkStaysInTheHelp_data()
+    {
+        QTest::addColumn<QString>("address");
+        for (const char *address : {"https://tallymere.example/", "mailto:us@tallymere.example", "file:///etc/passwd"})
+            QTest::newRow(address) << QString::fromLatin1(address);
+    }
     void ALinkStaysInTheHelp()
+    {
+        QFETCH(QString, address);
+        Desktop desktop;
+        Reader reader(u"topic frmPaymentCalculator"_s);
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        pages.setHtml(u"<p><a href='%1'>Somewhere else</a></p>"_s.arg(address));
+        QCOMPARE(ClickLink(pages), address);
+        QCOMPARE(reader.Page(), u"frmPaymentCalculator"_s);
+        QVERIFY(pages.toPlainText().startsWith(u"Somewhere else"_s));
+        QCOMPARE(desktop.Opened, QStringList());
+    }
+
+    void ALinkToNoPageIsTold()
     {
         Reader reader(u"topic frmPaymentCalculator"_s);
         auto &pages = reader.Part<HelpPages>(u"pages"_s);
-        pages.setSource(QUrl(u"file:///etc/passwd"_s));
-        QCOMPARE(reader.Page(), u"frmPaymentCalculator"_s);
         pages.setSource(pages.source().resolved(QUrl(u"nothing.html"_s)));
         QVERIFY(pages.toPlainText().startsWith(u"There is no such page"_s));
+        // It is nowhere in the contents.
+        QVERIFY(!reader.Action(u"previous"_s).isEnabled());
+        QVERIFY(!reader.Action(u"next"_s).isEnabled());
+    }
+
+    void APlaceOnAPageIsThatPage()
+    {
+        Reader reader(u"topic frmCreditors"_s);
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        pages.setSource(reader.Book.PageOf(u"frmRegulars"_s).resolved(QUrl(u"#frmRegulars"_s)));
+        QCOMPARE(pages.source().fragment(), u"frmRegulars"_s);
+        QCOMPARE(reader.Part<QHelpContentWidget>(u"contents"_s).currentIndex().data().toString(),
+                 TitleOf(u"frmRegulars"_s));
+        reader.Action(u"previous"_s).trigger();
+        QCOMPARE(reader.Page(), u"frmCreditors"_s);
+    }
+
+    void LinksHaveTheColorOfTheMoment()
+    {
+        Reader reader(u"contents"_s);
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        const auto colorOfLink = [&] { return FirstLink(pages).charFormat().foreground().color(); };
+        for (const QColor &color : {QColor(Qt::darkMagenta), QColor(Qt::darkGreen)}) {
+            QPalette palette = pages.palette();
+            palette.setColor(QPalette::Link, color);
+            QApplication::setPalette(palette);
+            Settle();
+            QCOMPARE(colorOfLink(), color);
+        }
+        QApplication::setPalette(QPalette());
+    }
+
+    // The sides
+
+    void APageIsPickedInTheContents()
+    {
+        Reader reader(u"topic frmMain"_s);
+        auto &contents = reader.Part<QHelpContentWidget>(u"contents"_s);
+        const auto click = [&](const QModelIndex &entry) {
+            contents.scrollTo(entry);
+            const QPoint place = contents.visualRect(entry).center();
+            QTest::mouseClick(contents.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        };
+        const QModelIndex savings = contents.indexOf(reader.Book.PageOf(u"frmSavings"_s));
+        click(savings);
+        QCOMPARE(reader.Page(), u"frmSavings"_s);
+        // The heading above it has no page, neither by a click nor by Enter.
+        click(savings.parent());
+        QCOMPARE(reader.Page(), u"frmSavings"_s);
+        QTest::keyClick(&contents, Qt::Key_Return);
+        QCOMPARE(reader.Page(), u"frmSavings"_s);
+        // Enter opens the one that the arrows lead to.
+        contents.setCurrentIndex(savings);
+        QTest::keyClick(&contents, Qt::Key_Up);
+        QTest::keyClick(&contents, Qt::Key_Return);
+        QCOMPARE(reader.Page(), u"frmInterestRateCalculator"_s);
+    }
+
+    void APageIsPickedAmongThoseFound()
+    {
+        Reader reader(u"contents"_s);
+        const QStringList found = reader.Search(u"amortization table"_s);
+        QVERIFY(found.contains(u"frmAmortization"_s));
+        auto &list = reader.Part<QTextBrowser>(u"foundPages"_s);
+        QTRY_VERIFY(!FirstLink(list).isNull());
+        QCOMPARE(NameIn(ClickLink(list)), found[0]);
+        QCOMPARE(reader.Page(), found[0]);
+        QCOMPARE(reader.Side(), 2); // the others are still there to be picked
+    }
+
+    void APageIsPickedInTheIndex()
+    {
+        Reader reader(u"topic frmMain"_s);
+        auto &index = reader.Part<QHelpIndexWidget>(u"index"_s);
+        reader.Part<QTabWidget>(u"sides"_s).setCurrentIndex(1);
+        reader.Part<QLineEdit>(u"indexFilter"_s).setText(u"overtime"_s); // in any letter case
+        Settle();
+        QCOMPARE(index.model()->rowCount(), 1);
+        QTest::mouseClick(index.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          index.visualRect(index.model()->index(0, 0)).center());
+        QTRY_COMPARE(reader.Page(), u"frmCalculateWages"_s);
+    }
+
+    void EveryWordOfTheIndexIsThatOfOnePage()
+    {
+        Reader reader(u"topic frmMain"_s);
+        for (const QString &word : reader.Book.Engine().indexModel()->stringList()) {
+            QSet<QUrl> pages;
+            for (const QHelpLink &page : reader.Book.Engine().documentsForKeyword(word))
+                pages += page.url;
+            QVERIFY2(pages.size() == 1, qPrintable(word));
+        }
+    }
+
+    // Keys
+
+    void KeysOfTheToolbar_data()
+    {
+        QTest::addColumn<QKeySequence>("key");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("back") << QKeySequence(Qt::ALT | Qt::Key_Left) << u"frmCreditors"_s;
+        QTest::newRow("back by the key for it") << QKeySequence(Qt::Key_Back) << u"frmCreditors"_s;
+        QTest::newRow("the page before") << QKeySequence(Qt::ALT | Qt::Key_PageUp) << u"frmCreditors"_s;
+        QTest::newRow("the page behind") << QKeySequence(Qt::ALT | Qt::Key_PageDown) << u"frmExtras"_s;
+        QTest::newRow("the first page") << QKeySequence(Qt::ALT | Qt::Key_Home) << u"index"_s;
+        QTest::newRow("the help about the help") << QKeySequence(Qt::Key_F1) << u"index"_s;
+    }
+    void KeysOfTheToolbar()
+    {
+        QFETCH(QKeySequence, key);
+        Reader reader(u"topic frmCreditors"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        reader.Window.Answer(u"topic frmRegulars"_s);
+        QTest::keySequence(&reader.Window, key);
+        QTEST(reader.Page(), "page");
+    }
+
+    void ForwardHasKeys()
+    {
+        Reader reader(u"topic frmCreditors"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        reader.Window.Answer(u"topic frmRegulars"_s);
+        for (const QKeySequence &key : {QKeySequence(Qt::ALT | Qt::Key_Right), QKeySequence(Qt::Key_Forward)}) {
+            reader.Action(u"back"_s).trigger();
+            QCOMPARE(reader.Page(), u"frmCreditors"_s);
+            QTest::keySequence(&reader.Window, key);
+            QCOMPARE(reader.Page(), u"frmRegulars"_s);
+        }
+    }
+
+    void KeysOfTheLetters()
+    {
+        Reader reader(u"topic frmMain"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        const double usual = pages.font().pointSizeF();
+        const auto press = [&](Qt::Key key) { QTest::keySequence(&reader.Window, QKeySequence(Qt::CTRL | key)); };
+        press(Qt::Key_Plus);
+        QCOMPARE(pages.font().pointSizeF(), usual + 1);
+        press(Qt::Key_Equal); // the same key without Shift
+        QCOMPARE(pages.font().pointSizeF(), usual + 2);
+        press(Qt::Key_Minus);
+        QCOMPARE(pages.font().pointSizeF(), usual + 1);
+        press(Qt::Key_0);
+        QCOMPARE(pages.font().pointSizeF(), usual);
+    }
+
+    void APageIsPrinted()
+    {
+        QTemporaryDir folder;
+        Reader reader(u"topic frmTip"_s);
+        const QString file = folder.filePath(u"page.pdf"_s);
+        bool isAsked = false;
+        QTimer::singleShot(0, &reader.Window, [&] {
+            auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+            isAsked = dialog;
+            if (!dialog)
+                return;
+            dialog->printer()->setOutputFileName(file);
+            dialog->done(QDialog::Accepted);
+        });
+        reader.Action(u"print"_s).trigger();
+        QVERIFY(isAsked);
+        QVERIFY(PagesOf(file).join(QString()).contains(TitleOf(u"frmTip"_s)));
+    }
+
+    void ItComesBackFromTheTaskBar()
+    {
+        Reader reader(u"topic frmMain"_s);
+        reader.Window.showMaximized();
+        reader.Window.ComeForward();
+        QVERIFY(reader.Window.isMaximized()); // it keeps its size
+        reader.Window.showMinimized();
+        reader.Window.ComeForward();
+        QVERIFY(!reader.Window.isMinimized());
+        QVERIFY(reader.Window.isVisible());
     }
 
     // The working copy
@@ -324,23 +604,35 @@ private Q_SLOTS:
         QVERIFY(cache.path().startsWith(m_home.path()));
         const auto folders = [&] { return cache.entryList({u"reading-*"_s}, QDir::Dirs); };
         QVERIFY(cache.mkpath(u"reading-4194999-abcdef/deep"_s)); // of a process that has been ended
+        const QStringList ofOthers{u"reading-%1-abcdef"_s.arg(::getppid()), u"reading-mine"_s};
+        for (const QString &folder : ofOthers)
+            QVERIFY(cache.mkpath(folder));
         {
             Reader reader(u"topic frmMain"_s);
-            QCOMPARE(folders().size(), 1);
-            QVERIFY(folders()[0].startsWith(u"reading-%1-"_s.arg(QCoreApplication::applicationPid())));
+            QCOMPARE(folders().size(), 1 + ofOthers.size());
+            QCOMPARE(folders().filter(u"reading-%1-"_s.arg(QCoreApplication::applicationPid())).size(), 1);
         }
-        QCOMPARE(folders(), QStringList());
+        QCOMPARE(folders(), ofOthers);
+        for (const QString &folder : ofOthers)
+            QVERIFY(cache.rmdir(folder));
     }
 
     void WithoutACacheItIsReadAllTheSame()
     {
-        const QByteArray before = qgetenv("XDG_CACHE_HOME");
-        qputenv("XDG_CACHE_HOME", "/proc/nothing");
-        {
-            Reader reader(u"topic frmMain"_s);
-            QCOMPARE(reader.Page(), u"frmMain"_s);
-        }
-        qputenv("XDG_CACHE_HOME", before);
+        const WithVariable cache("XDG_CACHE_HOME", "/proc/nothing");
+        Reader reader(u"topic frmMain"_s);
+        QCOMPARE(reader.Page(), u"frmMain"_s);
+    }
+
+    void WhereNothingCanBeWrittenThatIsTold()
+    {
+        const WithVariable cache("XDG_CACHE_HOME", "/proc/nothing");
+        const WithVariable temporary("TMPDIR", "/proc");
+        HelpBook book(HelpFile);
+        QVERIFY2(
+            book.Error().startsWith(u"The help could not be opened, since its working copy cannot be written:\n"_s),
+            qPrintable(book.Error()));
+        QVERIFY(book.PageOf(u"frmMain"_s).isEmpty());
     }
 
     void WhatCannotBeReadIsTold()
@@ -348,6 +640,7 @@ private Q_SLOTS:
         QTemporaryDir folder;
         const QString file = folder.filePath(u"budget help.hlp"_s);
         QCOMPARE(HelpBook(file).Error(), u"The help file is missing:\n"_s + file);
+        QCOMPARE(HelpBook(folder.path()).Error(), u"The help file cannot be read:\n"_s + folder.path());
         QFile damaged(file);
         QVERIFY(damaged.open(QIODevice::WriteOnly));
         damaged.write("nothing that could be read");
@@ -358,6 +651,8 @@ private Q_SLOTS:
         QVERIFY(whole.open(QIODevice::ReadOnly));
         damaged.write(whole.read(whole.size() / 3));
         damaged.close();
+        QCOMPARE(HelpBook(file).Error(), u"The help file is damaged:\n"_s + file);
+        QVERIFY(damaged.resize(0));
         QCOMPARE(HelpBook(file).Error(), u"The help file is damaged:\n"_s + file);
     }
 };
