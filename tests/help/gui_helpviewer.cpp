@@ -20,10 +20,11 @@ public:
     }
     QString Program() const { return m_folder.filePath(u"viewer"_s); }
     QString File() const { return m_folder.filePath(u"a file.hlp"_s); }
-    void WriteFile(const QByteArray &text) const
+    void WriteFile(const QByteArray &text, const QDateTime &time = QDateTime::currentDateTime()) const
     {
         QFile file(File());
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush() ||
+            !file.setFileTime(time, QFileDevice::FileModificationTime))
             qFatal("cannot write the help file");
     }
     QString Heard() const
@@ -37,6 +38,46 @@ private:
 };
 
 const QString AnswersAll = u"echo start >>$heard; while read -r line; do echo \"$line;\" >>$heard; echo shown; done"_s;
+const QString ThenEnds = u"; echo end >>$heard"_s;
+
+/// The viewer itself, as the program starts it, with a cache of its own.
+class RealViewer : public QProcess
+{
+public:
+    explicit RealViewer(const QStringList &arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_CACHE_HOME"_s, m_home.path());
+        setProcessEnvironment(environment);
+        setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        start(QStringLiteral(HELP_PROGRAM), QStringList{u"--listen"_s} + arguments);
+    }
+    ~RealViewer() override
+    {
+        kill();
+        waitForFinished();
+    }
+    QString Line()
+    {
+        while (!canReadLine() && waitForReadyRead(Longest))
+            ;
+        return QString::fromUtf8(readLine()).trimmed();
+    }
+    /// Closes its input, as the end of the program that asks does.
+    bool End()
+    {
+        closeWriteChannel();
+        return waitForFinished(Longest) && exitStatus() == QProcess::NormalExit && exitCode() == 0;
+    }
+    QStringList WorkingFolders() const
+    {
+        return QDir(m_home.filePath(u"TallymereHelp"_s)).entryList({u"reading-*"_s}, QDir::Dirs);
+    }
+
+private:
+    static constexpr int Longest = 20000; // milliseconds
+    QTemporaryDir m_home;
+};
 
 Message Warning(const QString &text)
 {
@@ -79,17 +120,74 @@ private Q_SLOTS:
         QTRY_COMPARE(standIn.Heard(), u"start contents;"_s);
     }
 
+    void ARenewedFileIsOpenedAnew_data()
+    {
+        QTest::addColumn<QByteArray>("pages");
+        QTest::addColumn<int>("laterBySeconds");
+        QTest::newRow("of another size") << QByteArray("other pages") << 0;
+        QTest::newRow("of another time") << QByteArray("seeds") << 1;
+        QTest::newRow("older than the one before") << QByteArray("seeds") << -1;
+    }
     void ARenewedFileIsOpenedAnew()
     {
+        QFETCH(QByteArray, pages);
+        QFETCH(int, laterBySeconds);
         GuiDesk desk;
         const StandIn standIn(AnswersAll);
+        const QDateTime time(QDate(2026, 1, 5), QTime(9, 30));
+        standIn.WriteFile("pages", time);
+        HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QTRY_VERIFY(viewer.HasAnswered());
+        standIn.WriteFile(pages, time.addSecs(laterBySeconds));
+        viewer.Ask({QString(), 0, u"frmMain"_s});
+        QTRY_COMPARE(standIn.Heard(), u"start topic frmTip; start topic frmMain;"_s);
+        QTRY_VERIFY(viewer.HasAnswered());
+        viewer.Ask({QString(), 0, u"frmTip"_s}); // now the same one
+        QTRY_VERIFY(standIn.Heard().endsWith(u"start topic frmMain; topic frmTip;"_s));
+    }
+
+    void AClosedViewerIsStartedByTheNextQuestion()
+    {
+        GuiDesk desk;
+        const StandIn standIn(u"echo start >>$heard; read -r line; echo \"$line;\" >>$heard; echo shown; exit 0"_s);
+        standIn.WriteFile("pages");
+        HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
+        viewer.Ask({QString(), 0, u"frmTip"_s});
+        QTRY_COMPARE(standIn.Heard(), u"start topic frmTip;"_s);
+        QTRY_VERIFY(!viewer.HasAnswered());
+        QTest::qWait(200);
+        QCOMPARE(standIn.Heard(), u"start topic frmTip;"_s); // nobody has asked
+        viewer.Ask({QString(), 0, u"frmMain"_s});
+        QTRY_COMPARE(standIn.Heard(), u"start topic frmTip; start topic frmMain;"_s);
+    }
+
+    void ItEndsWithTheProgram()
+    {
+        GuiDesk desk;
+        const StandIn standIn(AnswersAll + ThenEnds);
+        standIn.WriteFile("pages");
+        {
+            HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
+            viewer.Ask({QString(), 0, u"frmTip"_s});
+            QTRY_VERIFY(viewer.HasAnswered());
+        }
+        QCOMPARE(standIn.Heard(), u"start topic frmTip; end"_s); // and nobody has had to kill it
+    }
+
+    void AViewerThatDoesNotEndIsKilled()
+    {
+        GuiDesk desk;
+        const StandIn standIn(u"read -r line; echo shown; exec sleep 60"_s);
         standIn.WriteFile("pages");
         HelpViewer viewer(standIn.Program(), [&] { return standIn.File(); });
         viewer.Ask({QString(), 0, u"frmTip"_s});
         QTRY_VERIFY(viewer.HasAnswered());
-        standIn.WriteFile("other pages");
-        viewer.Ask({QString(), 0, u"frmMain"_s});
-        QTRY_COMPARE(standIn.Heard(), u"start topic frmTip; start topic frmMain;"_s);
+        QElapsedTimer time;
+        time.start();
+        viewer.Close();
+        QVERIFY(!viewer.HasAnswered());
+        QVERIFY2(time.elapsed() < 10000, qPrintable(QString::number(time.elapsed())));
     }
 
     void AViewerThatIsClosedInThatMomentIsStartedAgain()
@@ -154,6 +252,43 @@ private Q_SLOTS:
         qInfo("from the question to the page: %lld ms", time.elapsed());
         viewer.Close();
         QVERIFY(!viewer.HasAnswered());
+    }
+
+    // The viewer, as it is spoken to
+
+    void EachQuestionIsAnsweredByALine()
+    {
+        RealViewer viewer({HelpFile});
+        viewer.write("topic frmTip\ncontext 22\n"); // together
+        QCOMPARE(viewer.Line(), u"shown"_s);
+        QCOMPARE(viewer.Line(), u"shown"_s);
+        viewer.write("topic fr"); // in two parts
+        QVERIFY(viewer.waitForBytesWritten());
+        QTest::qWait(200);
+        QCOMPARE(viewer.readAll(), QByteArray());
+        viewer.write("mMain\n");
+        QCOMPARE(viewer.Line(), u"shown"_s);
+        QTest::qWait(200);
+        QCOMPARE(viewer.readAll(), QByteArray());
+    }
+
+    void NothingOfItStaysBehind()
+    {
+        RealViewer viewer({HelpFile});
+        viewer.write("contents\n");
+        QCOMPARE(viewer.Line(), u"shown"_s);
+        QCOMPARE(viewer.WorkingFolders().size(), 1);
+        QVERIFY(viewer.End());
+        QCOMPARE(viewer.WorkingFolders(), QStringList());
+    }
+
+    void TheFileBesideItIsItsOwn()
+    {
+        RealViewer viewer({});
+        const QString own = QFileInfo(QStringLiteral(HELP_PROGRAM)).path() + u"/help/budget help.hlp"_s;
+        QVERIFY(!QFile::exists(own)); // which is laid down only later
+        QCOMPARE(viewer.Line(), u"error The help file is missing:\t"_s + own);
+        QVERIFY(!viewer.End()); // that is a failure
     }
 };
 

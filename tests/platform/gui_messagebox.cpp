@@ -202,6 +202,27 @@ private Q_SLOTS:
         QCOMPARE(asked, (QList<HelpQuestion>{{QString(), 22}}));
     }
 
+    void F1HeldDownInABoxAsksOnce_data()
+    {
+        QTest::addColumn<Buttons>("buttons");
+        QTest::newRow("with a help button") << Buttons::OkHelp;
+        QTest::newRow("without one") << Buttons::Ok;
+    }
+    void F1HeldDownInABoxAsksOnce()
+    {
+        QFETCH(Buttons, buttons);
+        QList<HelpQuestion> asked;
+        TheDesk.ShowHelp = [&](const HelpQuestion &question) { asked += question; };
+        Ask({"Please enter an amount", "Creditors", Icon::Stop, buttons, 22}, [&](QMessageBox &box) {
+            QTest::keyPress(box.button(QMessageBox::Ok), Qt::Key_F1);
+            QKeyEvent again(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(box.button(QMessageBox::Ok), &again);
+            Settle();
+            QVERIFY(box.isVisible());
+        });
+        QCOMPARE(asked.size(), 1);
+    }
+
     void F1InABoxWithoutHelpAsksForThePageOfTheWindowBehind()
     {
         QList<HelpQuestion> asked;
