@@ -1,14 +1,19 @@
-// Takes a picture of every window, empty and filled, on a light and on a dark desktop, at the scale that
-// QT_SCALE_FACTOR tells: screenshots FOLDER. The clock stands still, so that pictures change with the windows only.
+// Takes a picture of every window, empty and filled, and of the help, on a light and on a dark desktop, at the scale
+// that QT_SCALE_FACTOR tells: screenshots FOLDER. The clock stands still, so that pictures change with the windows
+// only.
 #include "Households.h"
 
 #include "GuiDesk.h"
 #include "Windows.h"
+#include "help/HelpBook.h"
+#include "help/HelpWindow.h"
 #include "platform/controls/ClearEdges.h"
 #include "platform/values/Locale.h"
 #include "platform/windows/Application.h"
 
+#include <QHelpSearchEngine>
 #include <QImage>
+#include <QLineEdit>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -48,6 +53,18 @@ QImage SmallPicture(const QPixmap &pixmap)
     return picture;
 }
 
+bool SavePicture(QWidget &window, const QString &folder, const QString &view, bool dark)
+{
+    const QPixmap picture = window.grab();
+    const QString name = u"%1/%2-%3-%4.png"_s.arg(folder, view)
+                             .arg(qRound(picture.devicePixelRatio() * 100))
+                             .arg(dark ? u"dark"_s : u"light"_s);
+    const bool saved = SmallPicture(picture).save(name, "PNG", 0);
+    if (!saved)
+        qWarning("cannot write %s", qPrintable(name));
+    return saved;
+}
+
 bool TakePicture(const QString &view, Household household, bool dark, const QString &folder)
 {
     RecordingDesk desk;
@@ -60,17 +77,39 @@ bool TakePicture(const QString &view, Household household, bool dark, const QStr
         TheWindows.Reset();
         return false;
     }
-    Form &form = *TheWindows.Loaded(WindowOf(view));
-    const QPixmap picture = form.grab();
-    const QString name =
-        u"%1/%2-%3-%4-%5.png"_s.arg(folder, view, household == Household::Empty ? u"empty"_s : u"filled"_s)
-            .arg(qRound(picture.devicePixelRatio() * 100))
-            .arg(dark ? u"dark"_s : u"light"_s);
-    const bool saved = SmallPicture(picture).save(name, "PNG", 0);
-    if (!saved)
-        qWarning("cannot write %s", qPrintable(name));
+    const bool saved = SavePicture(*TheWindows.Loaded(WindowOf(view)), folder,
+                                   view + (household == Household::Empty ? u"-empty"_s : u"-filled"_s), dark);
     TheWindows.Reset();
     Settle();
+    return saved;
+}
+
+/// The help at a page, and with what a search finds.
+bool TakeHelpPictures(bool dark, const QString &folder)
+{
+    constexpr int LongestSearch = 20000; // milliseconds
+    HelpBook book(QStringLiteral(HELP_FILE));
+    if (!book.Error().isEmpty()) {
+        qWarning("%s", qPrintable(book.Error()));
+        return false;
+    }
+    HelpWindow window(book);
+    QSignalSpy ready(&window, &HelpWindow::SearchIsReady);
+    window.Answer(u"topic frmCreditors"_s);
+    window.ComeForward();
+    if (ready.isEmpty() && !ready.wait(LongestSearch))
+        return false;
+    Settle();
+    bool saved = SavePicture(window, folder, u"help-page"_s, dark);
+    QSignalSpy found(book.Engine().searchEngine(), &QHelpSearchEngine::searchingFinished);
+    window.Answer(u"contents"_s);
+    auto &field = *window.findChild<QLineEdit *>(u"searchField"_s);
+    field.setText(u"pay day"_s);
+    QTest::keyClick(&field, Qt::Key_Return);
+    if (found.isEmpty() && !found.wait(LongestSearch))
+        return false;
+    Settle();
+    saved = SavePicture(window, folder, u"help-search"_s, dark) && saved;
     return saved;
 }
 
@@ -94,6 +133,7 @@ int main(int argc, char **argv)
         for (const QString &view : views)
             for (const Household household : {Household::Empty, Household::Filled})
                 missing += !TakePicture(view, household, dark, application.arguments().at(1));
+        missing += !TakeHelpPictures(dark, application.arguments().at(1));
     }
     return missing == 0 ? 0 : 1;
 }
