@@ -96,6 +96,5 @@ void RegisterWindows()
 
 QString FirstWindow()
 {
-    const bool welcome = OptionValue(ShowWelcome) == 1 && TheWindows.Knows(WindowName::frmWelcome);
-    return welcome ? WindowName::frmWelcome : WindowName::frmSplash;
+    return OptionValue(ShowWelcome) == 1 ? WindowName::frmWelcome : WindowName::frmSplash;
 }

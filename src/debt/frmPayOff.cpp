@@ -39,18 +39,12 @@ int HeightOfLine(const QFont &font)
     return list.sizeHintForRow(0);
 }
 
-void HideIfKnown(const QString &window)
-{
-    if (TheWindows.Knows(window))
-        TheWindows.Hide(window);
-}
-
 /// Asks and waits. A dialog that is closed without OK leaves the answer from before, which then counts as this one.
 QString Ask(const frmInput::Question &question)
 {
     frmInput::Prepare(question);
     if (RememberedTutorTimer.contains(WindowName::frmPayOff))
-        HideIfKnown(WindowName::frmTallymereTutor);
+        TheWindows.Hide(WindowName::frmTallymereTutor);
     TheWindows.ShowModal(WindowName::frmInput);
     return Debt.InputResult;
 }
@@ -94,7 +88,7 @@ void frmPayOff::GiveListItsHeight()
 void frmPayOff::Load()
 {
     if (State.GuidedSetupActive)
-        HideIfKnown(WindowName::frmGettingStarted);
+        TheWindows.Hide(WindowName::frmGettingStarted);
 }
 
 void frmPayOff::Unload()

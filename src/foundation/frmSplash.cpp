@@ -26,7 +26,7 @@ void frmSplash::cmdContinue_Click()
 {
     // Who asked the welcome window for a guide (level 0 or 1) is not held up by a tip.
     const bool tipWanted = !State.WelcomeLevelPending || State.WelcomeLevel > 1;
-    if (tipWanted && OptionValue(ShowTips) == 1 && TheWindows.Knows(WindowName::frmTip))
+    if (tipWanted && OptionValue(ShowTips) == 1)
         TheWindows.ShowModal(WindowName::frmTip);
     TheDesk.Hourglass(true);
     TheWindows.Show(WindowName::frmMain);

@@ -99,8 +99,7 @@ void frmEnvironmentSettings::optPayFrequency_Click(qint16 frequency)
         return;
     const PayFrequencyOption &chosen = PayFrequencyOptions()[OptionOfPayFrequency(frequency)];
     State.PayFrequency = frequency;
-    if (TheWindows.Knows(WindowName::frmCalculateWages))
-        TheWindows.Touch(WindowName::frmCalculateWages).setWindowTitle(chosen.WagesCaption);
+    TheWindows.Touch(WindowName::frmCalculateWages).setWindowTitle(chosen.WagesCaption);
     if (!chosen.DatesWindow.isEmpty() && !State.InitializingVariables)
         TheWindows.ShowModal(chosen.DatesWindow);
     DescribePayDays();

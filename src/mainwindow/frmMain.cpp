@@ -64,9 +64,6 @@ frmMain::frmMain()
     ui.lstBudgetState->setItemDelegate(new StateLineLook(ui.lstBudgetState));
     ui.lstBudgetState->setMouseTracking(true);
     ReserveSpace();
-    ui.cmdTutor->setEnabled(Entry(u"mnuTallymereTutor"_s)->isEnabled());
-    ui.cmdHowDoI->setEnabled(Entry(u"mnuHowDoI"_s)->isEnabled());
-    ui.cmdGettingStarted->setEnabled(Entry(u"mnuGettingStarted"_s)->isEnabled());
 
     connect(ui.lstBudgetState, &ListBox::Click, this, &frmMain::lstBudgetState_Click);
     OnClick(ui.cmdExit, LeaveProgram);
@@ -97,7 +94,6 @@ void frmMain::BuildMenus()
         } else {
             action = parent->addAction(entry.Caption);
             action->setShortcut(QKeySequence(entry.Shortcut));
-            action->setEnabled(IsAvailable(entry));
             connect(action, &QAction::triggered, this, [this, entry] { Act(entry); });
         }
         action->setObjectName(entry.Name);
@@ -105,13 +101,6 @@ void frmMain::BuildMenus()
     }
     for (const auto &name : {u"mnuTipOfTheDay"_s, u"mnuTallymereTutor"_s, u"mnuWelcomeScreen"_s})
         Entry(name)->setCheckable(true);
-    // A submenu in which nothing can be chosen is grey itself.
-    for (auto menu = m_menus.begin(); menu != m_menus.end(); ++menu) {
-        const QList<QAction *> actions = menu.value()->actions();
-        Entry(menu.key())->setEnabled(std::any_of(actions.begin(), actions.end(), [](const QAction *action) {
-            return action->isEnabled() && !action->isSeparator();
-        }));
-    }
 }
 
 void frmMain::BuildToolbar()
@@ -126,7 +115,6 @@ void frmMain::BuildToolbar()
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         button->setMinimumSize(LeastButton, LeastButton);
         button->setFocusPolicy(Qt::NoFocus); // the menu is the way for the keyboard
-        button->setEnabled(Entry(entry.ActsAs)->isEnabled());
         connect(button, &QToolButton::clicked, this, [this, name = entry.ActsAs] { ActOn(name); });
         button->setMouseTracking(true);
         button->installEventFilter(this);
@@ -210,8 +198,6 @@ void frmMain::Load()
 /// covers as little of it as can be.
 void frmMain::StandLeftOfTheTutor()
 {
-    if (!TheWindows.Knows(WindowName::frmTallymereTutor))
-        return;
     const QRect room = screen()->availableGeometry();
     const int left = TheWindows.Touch(WindowName::frmTallymereTutor).x() - width();
     const int spare = left < room.left() ? 0 : room.height() - TitleBarHeight - height();
@@ -258,10 +244,7 @@ void frmMain::FillBudgetState()
     ui.lstBudgetState->Clear();
     for (const StateEntry &entry : BudgetStateLines()) {
         ui.lstBudgetState->AddItem({});
-        QListWidgetItem *line = ui.lstBudgetState->item(ui.lstBudgetState->count() - 1);
-        if (!TheWindows.Knows(entry.Window))
-            line->setFlags(line->flags() & ~Qt::ItemIsEnabled);
-        ShowStateLine(*line, entry);
+        ShowStateLine(*ui.lstBudgetState->item(ui.lstBudgetState->count() - 1), entry);
     }
     ReserveSpace();
 }
@@ -273,19 +256,13 @@ void frmMain::ShowCurrentList()
         ShowStateLine(*line, BudgetStateLines()[CurrentListLine]);
 }
 
-bool frmMain::IsAvailable(const MenuEntry &entry) const
-{
-    return entry.Window.isEmpty() || TheWindows.Knows(entry.Window);
-}
-
 void frmMain::ActOn(const QString &entryName)
 {
     const QList<MenuEntry> &menu = MainMenu();
     const auto entry =
         std::find_if(menu.begin(), menu.end(), [&](const MenuEntry &one) { return one.Name == entryName; });
     Q_ASSERT_X(entry != menu.end(), "ActOn", qPrintable(entryName));
-    if (IsAvailable(*entry))
-        Act(*entry);
+    Act(*entry);
 }
 
 void frmMain::Act(const MenuEntry &entry)
@@ -368,8 +345,7 @@ void frmMain::mnuShopperOpenStoreList_Click(const MenuEntry &entry)
         } while (!AcceptsListName(chosen, u"Open Store File"_s));
         // A cancelled dialog goes on with the old name, which an edited settings file may give with folders.
         State.CurrentStoreFile = chosen.isEmpty() ? State.CurrentStoreFile.section(separators, -1) : chosen;
-        if (TheWindows.Knows(WindowName::frmEnvironmentSettings))
-            WindowField::StoreFile().setText(State.CurrentStoreFile);
+        WindowField::StoreFile().setText(State.CurrentStoreFile);
         ShowCurrentList();
         InputCurrentShoppingList();
     };
@@ -430,7 +406,7 @@ void frmMain::StartRoute(const MenuEntry &entry)
 void frmMain::lstBudgetState_Click()
 {
     const int line = ui.lstBudgetState->ListIndex();
-    if (line >= 0 && TheWindows.Knows(BudgetStateLines()[line].Window))
+    if (line >= 0)
         TheWindows.Show(BudgetStateLines()[line].Window);
 }
 

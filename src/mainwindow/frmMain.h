@@ -41,7 +41,6 @@ private:
     void FillBudgetState();
     void ShowCurrentList();
     /// Whether what the entry opens exists. One whose window does not stays grey.
-    bool IsAvailable(const MenuEntry &entry) const;
     void Act(const MenuEntry &entry);
     void ActOn(const QString &entryName);
 

@@ -209,10 +209,8 @@ void frmCurrentShoppingList::cmdChange_Click()
         return;
     LeaveLine();
     FillCurrentShoppingGrid();
-    if (TheWindows.Knows(WindowName::frmMasterShoppingList)) {
-        TheWindows.Touch(WindowName::frmMasterShoppingList); // its shelf is filled, seen or not
-        Q_EMIT TheShoppingDoors.ShelfChanged();
-    }
+    TheWindows.Touch(WindowName::frmMasterShoppingList); // its shelf is filled, seen or not
+    Q_EMIT TheShoppingDoors.ShelfChanged();
 }
 
 void frmCurrentShoppingList::cmdDelete_Click()

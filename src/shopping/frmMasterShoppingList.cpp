@@ -67,7 +67,7 @@ void frmMasterShoppingList::Load()
     ui.cmdDeleteFromMaster->setEnabled(false);
     ui.cmdSaveChanges->setEnabled(false);
     ui.cmdClear->setEnabled(false);
-    if (State.GuidedSetupActive && TheWindows.Knows(WindowName::frmGettingStarted))
+    if (State.GuidedSetupActive)
         TheWindows.Hide(WindowName::frmGettingStarted);
 }
 
@@ -82,7 +82,7 @@ void frmMasterShoppingList::Activate()
 
 void frmMasterShoppingList::Unload()
 {
-    if (State.GuidedSetupActive && TheWindows.Knows(WindowName::frmGettingStarted))
+    if (State.GuidedSetupActive)
         TheWindows.Show(WindowName::frmGettingStarted);
 }
 

@@ -70,17 +70,6 @@ private Q_SLOTS:
         QCOMPARE(FirstWindow(), value == 1 ? u"frmWelcome"_s : u"frmSplash"_s);
         QVERIFY(TheWindows.Knows(FirstWindow()));
     }
-
-    void WithoutAWelcomeWindowTheSplashComesFirst_data() { Rows(); }
-    void WithoutAWelcomeWindowTheSplashComesFirst()
-    {
-        QFETCH(QString, option);
-        FakeDesk desk;
-        QVERIFY(!TheWindows.Knows(u"frmWelcome"_s)); // no window is declared here
-        if (!option.isNull())
-            desk.Options[u"show welcome at startup"_s] = option;
-        QCOMPARE(FirstWindow(), u"frmSplash"_s);
-    }
 };
 
 REGISTER_TEST(gui_firstwindow)

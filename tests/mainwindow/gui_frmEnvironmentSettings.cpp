@@ -311,8 +311,6 @@ private Q_SLOTS:
         QFETCH(QString, question);
         GuiDesk desk;
         const QString wages = u"frmCalculateWages"_s;
-        if (!TheWindows.Knows(wages)) // the frequency needs no more of it than its title
-            TheWindows.Register(wages, [] { return new Form; });
         TakeHousehold();
         State.PayFrequency = qint16(before);
         State.CurrentPayPeriod = u"May 24, 1997"_s;
