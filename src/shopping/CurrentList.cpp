@@ -128,7 +128,7 @@ void ChangeCurrentItem(const CurrentItemEntry &entry)
 
 bool HasItsRecordAtHand(const CurrentItemRecord &line)
 {
-    if (Shopping.MasterItemIndex < 1 || Shopping.MasterItemIndex > State.MasterShoppingList.Size())
+    if (Shopping.MasterItemIndex < 1 || Shopping.MasterItemIndex > State.NumberOfMasterItems)
         return false;
     const MasterItemRecord &item = State.MasterShoppingList(Shopping.MasterItemIndex);
     return item.Item == line.Item && item.Store == line.Store;

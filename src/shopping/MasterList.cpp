@@ -113,7 +113,7 @@ MasterItemRecord RecordOf(const ItemEntry &entry)
 MasterItemRecord AtHandWith(const ItemEntry &entry)
 {
     const qint16 index = Shopping.MasterItemIndex;
-    const bool isRecord = index >= 1 && index <= State.MasterShoppingList.Size();
+    const bool isRecord = index >= 1 && index <= State.NumberOfMasterItems;
     if (!isRecord || entry.UnitPrice != FormatCurrency(State.MasterShoppingList(index).UnitPrice))
         return RecordOf(entry);
     return {entry.Item, entry.Unit, State.MasterShoppingList(index).UnitPrice, entry.Store, entry.Taxable};
@@ -148,6 +148,9 @@ void AddMasterItem(const MasterItemRecord &item)
 
 void ChangeMasterItem(const MasterItemRecord &item)
 {
+    // A file that holds no items leaves the records of before in the list.
+    if (Shopping.MasterItemIndex > State.NumberOfMasterItems)
+        RaiseError(RuntimeError::SubscriptOutOfRange);
     State.MasterShoppingList(Shopping.MasterItemIndex) = item;
 }
 

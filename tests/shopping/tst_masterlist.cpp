@@ -245,6 +245,21 @@ private Q_SLOTS:
         QCOMPARE(ErrorOf([] { ChangeMasterItem(Milk); }), SubscriptOutOfRange);
     }
 
+    void ARecordBehindTheCountIsNone()
+    {
+        const FakeDesk desk;
+        TakeCatalogue({Soap, Milk});
+        State.NumberOfMasterItems = 0; // as a file of no items leaves it
+        Shopping.MasterItemIndex = 2;
+        QCOMPARE(ErrorOf([] { ChangeMasterItem(DearMilk); }), SubscriptOutOfRange);
+        QCOMPARE(State.MasterShoppingList(2).UnitPrice, Milk.UnitPrice);
+        State.MasterShoppingList(2).UnitPrice = Currency::FromTenThousandths(29912);
+        const ItemEntry entry{Milk.Item, Milk.Unit, u"$2.99"_s, Milk.Store, Milk.Taxable};
+        QCOMPARE(AtHandWith(entry).UnitPrice, Cents(299)); // the text, and not the record's exact price
+        State.NumberOfMasterItems = 2;
+        QCOMPARE(AtHandWith(entry).UnitPrice, Currency::FromTenThousandths(29912));
+    }
+
     void TheRecordAtHandIsDeleted_data()
     {
         QTest::addColumn<QStringList>("names");
