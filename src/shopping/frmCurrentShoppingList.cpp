@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -198,6 +199,7 @@ void frmCurrentShoppingList::cmdChange_Click()
 {
     if (!Accepts(Rules))
         return;
+    const int row = Shopping.CurrentItemIndex;
     // Where it cannot be saved, the window stays as it is, so that the user can try again.
     if (!ChangeLineAndSave({.Item = ui.txtItem->text(),
                             .Unit = ui.txtUnit->text(),
@@ -209,12 +211,14 @@ void frmCurrentShoppingList::cmdChange_Click()
         return;
     LeaveLine();
     FillCurrentShoppingGrid();
+    ui.grdCurrentShoppingList->MarkRow(row);
     TheWindows.Touch(WindowName::frmMasterShoppingList); // its shelf is filled, seen or not
     Q_EMIT TheShoppingDoors.ShelfChanged();
 }
 
 void frmCurrentShoppingList::cmdDelete_Click()
 {
+    const int row = Shopping.CurrentItemIndex;
     if (!DeleteLineAndSave()) // likewise
         return;
     LeaveLine();
@@ -222,7 +226,10 @@ void frmCurrentShoppingList::cmdDelete_Click()
         field->clear();
     ui.txtUnitPrice->setText(FormatCurrency({}));
     ui.txtCouponValue->setText(FormatCurrency({}));
-    FillCurrentShoppingGrid(); // last, as the lines that are left may not be priced
+    // Last, as the lines that are left may not be priced. The keys go on with the line that has moved up.
+    const auto goOn =
+        qScopeGuard([&] { ui.grdCurrentShoppingList->MarkRow(qMin<int>(row, State.NumberOfCurrentItems)); });
+    FillCurrentShoppingGrid();
 }
 
 void frmCurrentShoppingList::cmdNew_Click()

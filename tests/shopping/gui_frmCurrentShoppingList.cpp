@@ -771,6 +771,52 @@ private Q_SLOTS:
         QCOMPARE(desk.TakeFiles(), QStringList{u"stores/weekly.lst"_s});
     }
 
+    void TheStoreTellsTheRecordsApart()
+    {
+        ShoppingDesk desk(Lines);
+        State.MasterShoppingList(2) = State.MasterShoppingList(1); // Bread again, and no record of the Milk
+        State.MasterShoppingList(2).Store = u"Market"_s;
+        State.CurrentShoppingList(2) = State.CurrentShoppingList(1);
+        State.CurrentShoppingList(2).Store = u"Valley"_s;
+        const auto catalogue = State.MasterShoppingList;
+        Show(Window);
+        ClickGridRow(1);
+        ClickGridRow(2);
+        QCOMPARE(int(Shopping.MasterItemIndex), 1); // Bread of another store
+        Type(Window, u"txtQuantity"_s, u"4"_s);
+        Click(Window, u"cmdChange"_s);
+        QVERIFY(State.MasterShoppingList == catalogue);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"stores/weekly.lst"_s});
+    }
+
+    void ARecordOfAnEmptiedCatalogueIsNone()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        ClickGridRow(1);
+        State.NumberOfMasterItems = 0; // the records of before stay in memory
+        Click(Window, u"cmdChange"_s);
+        QCOMPARE(desk.TakeFiles(), QStringList{u"stores/weekly.lst"_s});
+    }
+
+    void TheKeysGoOnFromTheChangedLine()
+    {
+        ShoppingDesk desk(Lines);
+        Show(Window);
+        ClickGridRow(2);
+        Click(Window, u"cmdChange"_s);
+        QTest::keyClick(&TheGrid(), Qt::Key_Return);
+        QVERIFY(!IsEnabled(Window, u"cmdChange"_s)); // the mark alone is no choice
+        QTest::keyClick(&TheGrid(), Qt::Key_Down);
+        QTest::keyClick(&TheGrid(), Qt::Key_Return);
+        QCOMPARE(int(Shopping.CurrentItemIndex), 3);
+        Click(Window, u"cmdDelete"_s); // the last one: its place is taken by the one before
+        QTest::keyClick(&TheGrid(), Qt::Key_Up);
+        QTest::keyClick(&TheGrid(), Qt::Key_Return);
+        QCOMPARE(int(Shopping.CurrentItemIndex), 1);
+        desk.TakeFiles();
+    }
+
     void WithoutAnyRecordTheChangeIsSaved()
     {
         ShoppingDesk desk(Lines);

@@ -500,6 +500,12 @@ void Grid::SetCurrentRow(int row)
     }
 }
 
+void Grid::MarkRow(int row)
+{
+    if (row > 0 && row <= m_model->rowCount())
+        MoveMark(m_model->index(row - 1, 0));
+}
+
 void Grid::ClickRow(int row)
 {
     SetCurrentRow(row + 1);

@@ -79,6 +79,8 @@ public:
     /// The row that was clicked or moved to last, 0 the heading.
     int CurrentRow() const { return m_currentRow; }
     void SetCurrentRow(int row);
+    /// Where the keys go on from; it selects nothing. A row that is not there is left alone.
+    void MarkRow(int row);
 
 Q_SIGNALS:
     /// A click on a row or on the heading; CurrentRow() is the row. Enter or Space on a row is a click, too
