@@ -368,6 +368,27 @@ private Q_SLOTS:
         QVERIFY(grid.horizontalScrollBar()->maximum() > 0);
     }
 
+    void AHeadingIsSeenWhole()
+    {
+        Grid grid;
+        grid.SetColumns({{QStringLiteral("Item"), 4000},
+                         {QStringLiteral("Quantity in the household"), 500},
+                         {QStringLiteral("Tax"), 400}});
+        Present(grid);
+        const QHeaderView &heading = *grid.horizontalHeader();
+        const int whole = heading.sectionSizeHint(1);
+        grid.resize(whole + heading.sectionSizeHint(0) + 200, grid.height());
+        QCoreApplication::processEvents();
+        QCOMPARE(heading.sectionSize(1), whole);
+        QCOMPARE(heading.length(), grid.viewport()->width()); // the widest column gives it
+        // Not at the price of its own heading.
+        grid.SetColumns(
+            {{QStringLiteral("An item of the household"), 700}, {QStringLiteral("Quantity in the household"), 500}});
+        grid.resize(whole + heading.sectionSizeHint(0) - 10, grid.height());
+        QCoreApplication::processEvents();
+        QVERIFY(heading.sectionSize(1) < whole);
+    }
+
     void TheWidestColumnGivesWhatAScrollBarTakes()
     {
         Grid grid;

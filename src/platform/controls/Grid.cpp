@@ -551,15 +551,27 @@ void Grid::ShareWidth()
     // lose a digit.
     const int given = claim - room <= ScrollBarWidth ? qMax(0, claim - room) : 0;
     const auto widest = std::max_element(m_twips.begin(), m_twips.end()) - m_twips.begin();
-    int used = 0;
+    std::vector<int> shares;
     for (int column = 0; column < Columns(); ++column) {
         const bool last = column == Columns() - 1;
         // The margins of a row's cells are the same in a narrow column and a wide one.
         const int letters = width - 2 * RowLook::Margin * Columns();
-        const int share = last ? width - used : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total;
-        horizontalHeader()->resizeSection(column, column == widest ? share - given : share);
-        used += share;
+        shares.push_back(last ? width - std::accumulate(shares.begin(), shares.end(), 0)
+                              : 2 * RowLook::Margin + letters * m_twips[std::size_t(column)] / total);
     }
+    shares[std::size_t(widest)] -= given;
+    // And what the others lack to show their headings whole, as far as its own stays whole.
+    for (int column = 0; column < Columns(); ++column) {
+        int &share = shares[std::size_t(column)];
+        int &spare = shares[std::size_t(widest)];
+        const int lacks = horizontalHeader()->sectionSizeHint(column) - share;
+        if (column != widest && lacks > 0 && spare - lacks >= horizontalHeader()->sectionSizeHint(int(widest))) {
+            share += lacks;
+            spare -= lacks;
+        }
+    }
+    for (int column = 0; column < Columns(); ++column)
+        horizontalHeader()->resizeSection(column, shares[std::size_t(column)]);
 }
 
 void Grid::ShareHeight()
