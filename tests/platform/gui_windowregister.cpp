@@ -310,6 +310,20 @@ private Q_SLOTS:
         QVERIFY(Unload("B"));
     }
 
+    void AWithdrawnWindowIsAskedNothing()
+    {
+        ToyBox toys;
+        Show("A");
+        Show("B");
+        Refusing = {"A", "B"};
+        TakeLog();
+        QVERIFY(TheWindows.Unload("A", Form::CloseMode::Withdrawal));
+        QCOMPARE(TakeLog(), QStringList{"A Unload"});
+        QCOMPARE(Active(), "B");
+        QVERIFY(!TheWindows.Loaded("A"));
+        Refusing.clear();
+    }
+
     void TheCloseBoxAsksUnloadsAndGivesBack()
     {
         ToyBox toys;

@@ -27,7 +27,11 @@ class Form : public QWidget
 {
     Q_OBJECT
 public:
-    enum class CloseMode { CloseBox, Code };
+    enum class CloseMode {
+        CloseBox,
+        Code,
+        Withdrawal, ///< what the window shows holds no longer: it is asked nothing and cannot refuse
+    };
 
     Form();
 

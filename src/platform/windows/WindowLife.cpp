@@ -147,15 +147,17 @@ bool WindowRegister::Unload(const QString &name, Form::CloseMode mode)
     Form *form = Loaded(name);
     if (!form || form->m_unloading) // a window that unloads itself in its Unload is on its way
         return true;
-    if (form->m_asked.contains(mode)) // nor is it asked twice at a time
-        return false;
-    form->m_asked.append(mode);
-    const bool agreed = form->QueryUnload(mode);
-    form->m_asked.removeAll(mode);
-    if (Loaded(name) != form) // the query itself has ended the window
-        return true;
-    if (!agreed)
-        return false;
+    if (mode != Form::CloseMode::Withdrawal) {
+        if (form->m_asked.contains(mode)) // nor is it asked twice at a time
+            return false;
+        form->m_asked.append(mode);
+        const bool agreed = form->QueryUnload(mode);
+        form->m_asked.removeAll(mode);
+        if (Loaded(name) != form) // the query itself has ended the window
+            return true;
+        if (!agreed)
+            return false;
+    }
     {
         const QScopedValueRollback unloading(form->m_unloading, true);
         Q_EMIT WindowUnloads(name);

@@ -54,7 +54,8 @@ public:
     /// comes to the front as it is, and this returns at once.
     void ShowModal(const QString &name);
     void Hide(const QString &name);
-    /// Ends the instance unless its QueryUnload cancels. Returns whether the window is gone.
+    /// Ends the instance unless its QueryUnload, which a withdrawal passes over, cancels. Returns whether the window is
+    /// gone.
     bool Unload(const QString &name, Form::CloseMode mode = Form::CloseMode::Code);
 
     Form *Active() const { return m_active; }
