@@ -48,6 +48,46 @@ constexpr EntryRule<Design> RegularRules[] = {
     {&Design::txtRegularItem, NotEmpty, "Please enter regular item description"},
 };
 
+/// The windows that show the household's lists and settings, or what is computed from them. The others show nothing of
+/// it, or read it anew whenever the user comes to them.
+const QStringList &ProfileWindows()
+{
+    using namespace WindowName;
+    static const QStringList windows{
+        frmAverageNetPercentage,
+        frmBudget,
+        frmCalculateWages,
+        frmCreditors,
+        frmCurrentShoppingList,
+        frmEnvironmentSettings,
+        frmExtras,
+        frmMasterShoppingList,
+        frmMonthlyOverhead,
+        frmProjects,
+        frmRegulars,
+        frmSavingsForecast,
+        frmScanPayPeriods,
+        frmViewProject,
+    };
+    return windows;
+}
+
+/// Another profile has taken the place of the one that these windows show: a row of an old list would stand for a
+/// record that is another one by now, or none.
+void WithdrawProfileWindows()
+{
+    // A shopping route that was left half-way would show the guide again, or end it.
+    State.GuidedSetupActive = false;
+    State.GuidedSetupStep = 0;
+    for (const QString &window : ProfileWindows()) {
+        if (RememberedTutorTimer.remove(window)) // the guide rests the timer for it from now on
+            RememberedTutorTimer.insert(WindowName::frmGettingStarted);
+        TheWindows.Unload(window, Form::CloseMode::Withdrawal);
+    }
+}
+
+const QString BeginsAgain = u"Coming back from another window before a pay frequency was clicked in step 3 starts the "
+                            "setup again. Please enter your incomes once more."_s;
 constexpr int LineCharacters = 68;
 constexpr double PromptSize = 1.1;
 constexpr double HeadingSize = 1.25;
@@ -443,6 +483,7 @@ void frmGettingStarted::ShowOverheadSummary()
 void frmGettingStarted::cmdSaveBS11_Click()
 {
     SaveProfile(m_setup);
+    WithdrawProfileWindows();
     ShowMessage(u"Profile saved."_s, u"Budget Setup"_s, Icon::Information);
     BringToFront(ui.pnlStartBudget12);
 }

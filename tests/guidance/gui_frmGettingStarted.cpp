@@ -3,6 +3,7 @@
 #include "GuiDesk.h"
 #include "TestProgram.h"
 
+#include "foundation/GuidedSetup.h"
 #include "foundation/Tutor.h"
 #include "guidance/frmGettingStarted.h"
 
@@ -173,6 +174,44 @@ void TypeHere(const QString &text)
     QTest::keyClicks(TheWindows.Active()->FocusControl(), text);
     Settle();
 }
+
+/// Which windows the save closes, of all but the guide and the main window.
+constexpr std::pair<const char *, bool> ClosedBySave[] = {
+    {"frmAbout", false},
+    {"frmAddItem", false},
+    {"frmAmortization", false},
+    {"frmAverageNetPercentage", true},
+    {"frmBudget", true},
+    {"frmCalculateWages", true},
+    {"frmCreditorInfo", false},
+    {"frmCreditors", true},
+    {"frmCurrentShoppingList", true},
+    {"frmEnvironmentSettings", true},
+    {"frmExtras", true},
+    {"frmHowDoI", false},
+    {"frmInput", false},
+    {"frmInterestRateCalculator", false},
+    {"frmMasterShoppingList", true},
+    {"frmMonthlyOverhead", true},
+    {"frmMonthlyPaymentOption", false},
+    {"frmPayOff", false},
+    {"frmPaymentCalculator", false},
+    {"frmPrinter", false},
+    {"frmProjects", true},
+    {"frmRegulars", true},
+    {"frmSavings", false},
+    {"frmSavingsForecast", true},
+    {"frmScanPayPeriods", true},
+    {"frmSelectMonth", false},
+    {"frmSemiMonthlyPayInfo", false},
+    {"frmSetCurrentPayPeriod", false},
+    {"frmSplash", false},
+    {"frmTallymereTutor", false},
+    {"frmTip", false},
+    {"frmTotalHours", false},
+    {"frmViewProject", true},
+    {"frmWelcome", false},
+};
 
 /// The pages that the tutor was asked for.
 class PagesWanted
@@ -1021,6 +1060,230 @@ private Q_SLOTS:
         QCOMPARE(State.NumberOfProjects, qint16(1));
         QCOMPARE(desk.ReadFile(u"creditor.txt"_s),
                  QByteArray("2\r\n15\r\n\"Rent\"\r\n650\r\n45\r\n\"Phone\"\r\n42.5\r\n"));
+        desk.TakeFiles();
+    }
+
+    void TheSaveGoesInItsOrder()
+    {
+        GuiDesk desk;
+        Begin(desk);
+        WalkTo(11);
+        for (const QString &missing : {u"environm.ini"_s, u"creditor.txt"_s, u"extra.txt"_s, u"regulars.txt"_s,
+                                       u"projects.txt"_s, u"mastshop.txt"_s, u"stores\\untitled.lst"_s})
+            desk.RemoveFile(missing);
+        Click(Guide, u"cmdSaveBS11"_s);
+        QStringList titles;
+        while (!desk.Messages.isEmpty()) {
+            const Message message = desk.TakeMessage();
+            if (message.Text == u"Error 53: File not found"_s || message.Text == u"Profile saved."_s)
+                titles += message.Title;
+        }
+        QCOMPARE(titles, (QStringList{u"Initialize Files"_s, u"Save Environment Settings"_s, u"Save Creditors"_s,
+                                      u"Save Regulars"_s, u"Input Creditors"_s, u"Input Regulars"_s,
+                                      u"Input Pay Periods"_s, u"Input Projects"_s, u"Input Master Shopping List"_s,
+                                      u"Input Current Shopping List"_s, u"Budget Setup"_s}));
+        QCOMPARE(FrontPanel(), BudgetPanel(12));
+        desk.TakeFiles();
+    }
+
+    // Two of the files, and which of the others are emptied.
+    void TheFilesAreEmptiedInTheirOrder()
+    {
+        GuiDesk desk;
+        const QByteArray roof("1\r\n\"Old roof\"\r\n3\r\n0\r\n");
+        const QByteArray extra("1\r\n\"01-15-2004\"\r\n0\r\n");
+        desk.WriteFile(u"projects.txt"_s, roof);
+        desk.WriteFile(u"extra.txt"_s, extra);
+        Begin(desk);
+        WalkTo(11);
+        desk.RemoveFile(u"mastshop.txt"_s);
+        desk.RemoveFile(u"regulars.txt"_s);
+        Click(Guide, u"cmdSaveBS11"_s);
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 53: File not found"_s, u"Initialize Files"_s, Icon::Stop, Buttons::Ok, 0}));
+        QCOMPARE(desk.TakeMessage(),
+                 (Message{u"Error 53: File not found"_s, u"Save Regulars"_s, Icon::Stop, Buttons::Ok, 0}));
+        desk.Messages.clear(); // what reading finds missing then
+        QCOMPARE(desk.ReadFile(u"extra.txt"_s), QByteArray("0\r\n"));
+        QCOMPARE(desk.ReadFile(u"projects.txt"_s), roof);
+        QCOMPARE(desk.ReadFile(u"creditor.txt"_s),
+                 QByteArray("2\r\n15\r\n\"Rent\"\r\n650\r\n45\r\n\"Phone\"\r\n42.5\r\n"));
+        desk.TakeFiles();
+    }
+
+    // ------------------------------------------------------------ windows that stand open at the save
+
+    void EachWindowIsDecidedUpon()
+    {
+        GuiDesk desk;
+        QStringList names{Guide, Main};
+        for (const auto &[window, closed] : ClosedBySave)
+            names += QString::fromLatin1(window);
+        names.sort();
+        QCOMPARE(names, TheWindows.Names());
+    }
+
+    void TheSaveClosesWhatShowsTheOldProfile_data()
+    {
+        QTest::addColumn<bool>("closed");
+        for (const auto &[window, closed] : ClosedBySave)
+            if (closed)
+                QTest::newRow(window) << true;
+        for (const char *window : {"frmAbout", "frmPayOff", "frmPaymentCalculator", "frmSavings", "frmTallymereTutor"})
+            QTest::newRow(window) << false;
+    }
+    void TheSaveClosesWhatShowsTheOldProfile()
+    {
+        QFETCH(bool, closed);
+        const QString window = QString::fromLatin1(QTest::currentDataTag());
+        GuiDesk desk;
+        desk.StartProgram();
+        auto &tutor = Find<QTimer>(Main, u"tmrAutoTutor"_s);
+        TheWindows.Show(window);
+        Settle();
+        Show(Main);
+        QVERIFY(tutor.isActive());
+        Choose(u"mnuStartBudget"_s);
+        desk.TakeAll(); // what the windows do is the matter of their own tests
+        desk.Messages.clear();
+        WalkTo(12);
+        QCOMPARE(desk.TakeMessage().Text, u"Profile saved."_s);
+        QVERIFY(desk.Messages.isEmpty());
+        QCOMPARE(!TheWindows.Loaded(window), closed);
+        QCOMPARE(IsShown(window), !closed);
+        QCOMPARE(ActiveWindow(), Guide);
+        QCOMPARE(FrontPanel(), BudgetPanel(12));
+        QVERIFY(!IsShown(Main));
+        QVERIFY(!tutor.isActive()); // the guide is still there
+        Click(Guide, u"cmdCancelBS12"_s);
+        QCOMPARE(ActiveWindow(), Main);
+        QVERIFY(tutor.isActive());
+        desk.TakeAll();
+    }
+
+    // What other windows have loaded unseen, such as the settings, holds old texts as well.
+    void TheSaveClosesUnseenWindowsToo()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        for (const auto &[window, closed] : ClosedBySave)
+            TheWindows.Touch(QString::fromLatin1(window));
+        Choose(u"mnuStartBudget"_s);
+        desk.TakeAll();
+        WalkTo(12);
+        QCOMPARE(desk.TakeMessage().Text, u"Profile saved."_s);
+        for (const auto &[window, closed] : ClosedBySave)
+            QVERIFY2(!TheWindows.Loaded(QString::fromLatin1(window)) == closed, window);
+        // Windows that were loaded while the timer ran have stopped it; it goes on with the guide's end.
+        auto &tutor = Find<QTimer>(Main, u"tmrAutoTutor"_s);
+        QVERIFY(!tutor.isActive());
+        Click(Guide, u"cmdCancelBS12"_s);
+        QVERIFY(tutor.isActive());
+        desk.TakeAll();
+    }
+
+    // A row of an old list would stand for a record that is another one by now, or none.
+    void TheListsAreReadAnewAfterTheSave_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QString>("read");
+        QTest::addColumn<QStringList>("controls"); // grey before that
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("creditors") << u"frmCreditors"_s << u"lstCreditors"_s << u"cmdListCreditors"_s
+                                   << QStringList{u"cmdAddCreditor"_s, u"cmdDeleteCreditor"_s,
+                                                  u"cmdAddChangeCreditor"_s, u"txtCreditor"_s}
+                                   << QStringList{u"Rent"_s, u"Phone"_s};
+        QTest::newRow("regular items") << u"frmRegulars"_s << u"lstRegulars"_s << u"cmdListRegularItems"_s
+                                       << QStringList{u"cmdAddRegularItem"_s, u"cmdDeleteRegularItem"_s,
+                                                      u"cmdAddChangeRegularItem"_s, u"txtRegularItem"_s}
+                                       << QStringList{u"Food"_s};
+        QTest::newRow("projects") << u"frmProjects"_s << u"lstProjects"_s << u"cmdListProjects"_s
+                                  << QStringList{u"cmdAddProject"_s, u"cmdDeleteProject"_s, u"cmdNew"_s,
+                                                 u"txtProject"_s}
+                                  << QStringList();
+        QTest::newRow("extra items") << u"frmExtras"_s << u"lstExtraItems"_s << u"cmdListPayPeriods"_s
+                                     << QStringList{u"cmdAddExtraItem"_s, u"cmdDeletePayPeriod"_s,
+                                                    u"cmdAddChangeExtraItem"_s, u"txtExtraItem"_s}
+                                     << QStringList();
+    }
+    void TheListsAreReadAnewAfterTheSave()
+    {
+        QFETCH(QString, window);
+        QFETCH(QString, list);
+        QFETCH(QString, read);
+        QFETCH(QStringList, controls);
+        GuiDesk desk;
+        desk.WriteFile(u"creditor.txt"_s, "3\r\n1\r\n\"A\"\r\n1\r\n1\r\n\"B\"\r\n1\r\n1\r\n\"C\"\r\n1\r\n");
+        desk.WriteFile(u"regulars.txt"_s, "3\r\n\"A\"\r\n1\r\n\"B\"\r\n1\r\n\"C\"\r\n1\r\n");
+        desk.WriteFile(u"projects.txt"_s, "1\r\n\"Old roof\"\r\n3\r\n0\r\n");
+        desk.WriteFile(u"extra.txt"_s, "1\r\n\"01-15-2004\"\r\n1\r\n\"Gift\"\r\n5\r\n");
+        desk.StartProgram();
+        Show(window);
+        Click(window, read);
+        const int last = int(RowsOf(window, list).size()) - 1;
+        QVERIFY(last >= 0);
+        ClickRow(window, list, last);
+        Show(Main);
+        Choose(u"mnuStartBudget"_s);
+        WalkTo(12);
+        QCOMPARE(desk.TakeMessage().Text, u"Profile saved."_s);
+        Click(Guide, u"cmdCancelBS12"_s);
+        desk.TakeFiles();
+        Show(window);
+        QCOMPARE(RowsOf(window, list), QStringList());
+        for (const QString &control : controls)
+            QVERIFY2(!IsEnabled(window, control), qPrintable(control));
+        Click(window, read);
+        QTEST(RowsOf(window, list), "rows");
+    }
+
+    // A window that asks when it is closed asks about the settings of before.
+    void ThePercentageOfBeforeIsNotAskedAbout()
+    {
+        const QString window = u"frmAverageNetPercentage"_s;
+        GuiDesk desk;
+        desk.StartProgram();
+        Show(window);
+        for (const QString &field : {u"txtFirstCheckGross"_s, u"txtSecondCheckGross"_s})
+            Type(window, field, u"100"_s);
+        for (const QString &field : {u"txtFirstCheckNet"_s, u"txtSecondCheckNet"_s})
+            Type(window, field, u"50"_s);
+        Click(window, u"cmdCalculate"_s);
+        QCOMPARE(State.AverageNetPercentage, 0.5F);
+        Show(Main);
+        Choose(u"mnuStartBudget"_s);
+        WalkTo(12);
+        QCOMPARE(desk.TakeMessage().Text, u"Profile saved."_s);
+        QVERIFY(desk.Messages.isEmpty());
+        QCOMPARE(State.AverageNetPercentage, 0.9F);
+        desk.TakeFiles();
+    }
+
+    // Closing its windows would show the guide again, or end it.
+    void TheSaveEndsAShoppingRouteThatWasLeft_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::newRow("the catalogue") << Master;
+        QTest::newRow("the list") << CurrentList;
+    }
+    void TheSaveEndsAShoppingRouteThatWasLeft()
+    {
+        QFETCH(QString, window);
+        GuiDesk desk;
+        desk.StartProgram();
+        Show(window);
+        State.GuidedSetupActive = true;
+        State.GuidedSetupRoute = ShoppingRoute;
+        State.GuidedSetupStep = 3;
+        Show(Guide);
+        WalkTo(12);
+        QCOMPARE(desk.TakeMessage().Text, u"Profile saved."_s);
+        QVERIFY(!TheWindows.Loaded(window));
+        QCOMPARE(ActiveWindow(), Guide);
+        QCOMPARE(FrontPanel(), BudgetPanel(12));
+        QVERIFY(!State.GuidedSetupActive);
+        QCOMPARE(State.GuidedSetupStep, qint16(0));
         desk.TakeFiles();
     }
 
