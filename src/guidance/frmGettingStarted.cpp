@@ -360,9 +360,11 @@ void frmGettingStarted::optPayFrequency_Click(int index)
         TheWindows.ShowModal(chosen.DatesWindow);
 }
 
-/// A press on the option that is selected by design is no change of the group, but it says what the user wants.
+/// A press on the option that is selected already is no change of the group, but it says what the user wants. It asks
+/// for pay days only where they are not those of the settings.
 void frmGettingStarted::PressedAgain(int index)
 {
+    PayOptionClicked = true;
     if (State.PayFrequency != PayFrequencyOptions()[index].Frequency)
         optPayFrequency_Click(index);
 }

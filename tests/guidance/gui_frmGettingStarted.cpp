@@ -731,19 +731,46 @@ private Q_SLOTS:
                     .startsWith(u"The paycheck amount of $530.77 will be used for your weekly budget."_s));
     }
 
+    void AClickOnTheSelectedWeeklyCounts_data()
+    {
+        QTest::addColumn<int>("frequency"); // of the settings
+        QTest::addColumn<bool>("byKey");
+        for (const int frequency : {7, 15, 21}) {
+            QTest::addRow("%d, by mouse", frequency) << frequency << false;
+            QTest::addRow("%d, by key", frequency) << frequency << true;
+        }
+    }
     void AClickOnTheSelectedWeeklyCounts()
     {
+        QFETCH(int, frequency);
+        QFETCH(bool, byKey);
         GuiDesk desk;
         desk.StartProgram();
-        State.PayFrequency = Semimonthly;
+        State.PayFrequency = qint16(frequency);
         Choose(u"mnuStartBudget"_s);
         WalkTo(3);
-        Click(Guide, u"optPayFrequency0"_s);
+        QCOMPARE(FocusOf(Guide), u"optPayFrequency0"_s);
+        if (byKey)
+            Press(Qt::Key_Space);
+        else
+            Click(Guide, u"optPayFrequency0"_s);
         QCOMPARE(State.PayFrequency, Weekly);
         QCOMPARE(TextOf(Guide, u"lblFrequencyHint"_s), QString());
         Show(Main);
         Show(Guide);
         QCOMPARE(FrontPanel(), BudgetPanel(3)); // as after any click on an option
+    }
+
+    // The settings may have changed beside the guide; then the selected option is clicked to have its frequency again.
+    void AClickOnASelectedOptionTakesItsFrequencyAgain()
+    {
+        GuiDesk desk;
+        Begin(desk);
+        WalkTo(3);
+        QVERIFY(Meanwhile(MonthEndWindow, [] { Click(Guide, u"optPayFrequency3"_s); }));
+        State.PayFrequency = Weekly;
+        QVERIFY(Meanwhile(MonthEndWindow, [] { Click(Guide, u"optPayFrequency3"_s); }));
+        QCOMPARE(State.PayFrequency, Monthly);
     }
 
     void TheHintTellsWhatTheSettingsSay_data()
