@@ -396,9 +396,12 @@ void frmMain::mnuHelpSearch_Click()
     TheDesk.ShowHelp({TheDesk.ProgramFolder() + u"\\HELP\\budget help.hlp"_s, 0});
 }
 
-/// The guide's title chooses its route, and is the entry's caption.
+/// The guide's title chooses its route, and is the entry's caption. Each entry begins its own at the first panel: one
+/// that was left half-way would be taken up instead, under the wrong title.
 void frmMain::StartRoute(const MenuEntry &entry)
 {
+    State.GuidedSetupActive = false;
+    State.GuidedSetupStep = 0;
     TheWindows.Touch(entry.Window).setWindowTitle(QString(entry.Caption).remove(u'&'));
     TheWindows.Show(entry.Window);
 }

@@ -1688,7 +1688,7 @@ private Q_SLOTS:
         QCOMPARE(ActiveWindow(), Main);
     }
 
-    // A route that was left half-way is taken up wherever its windows are opened.
+    // A route that was left half-way is taken up wherever its windows are opened, until an entry begins one.
     void AStepThatWasLeftStands_data()
     {
         QTest::addColumn<int>("step");
@@ -1732,16 +1732,61 @@ private Q_SLOTS:
         Click(Guide, u"cmdCancelSS%1"_s.arg(step + 1));
         QCOMPARE(ActiveWindow(), Main);
 
-        // Nor does an entry of the menu begin another one before this one has come to its end.
-        Choose(u"mnuStartBudget"_s);
-        QCOMPARE(FrontPanel(), u"pnlStartShopping%1"_s.arg(step + 1));
-        for (int next = step + 1; next <= 3; ++next) {
-            Click(Guide, u"cmdNextSS%1"_s.arg(next));
-            Click(next < 3 ? Master : CurrentList, next < 3 ? u"cmdExit"_s : u"cmdQuit"_s);
-        }
-        QVERIFY(!State.GuidedSetupActive);
         Choose(u"mnuStartBudget"_s);
         QCOMPARE(FrontPanel(), BudgetPanel(1));
+        QVERIFY(!State.GuidedSetupActive);
+        Click(Guide, u"cmdCancelBS1"_s);
+        Choose(entry);
+        QVERIFY(!TheWindows.Loaded(Guide));
+        Click(window, leave);
+        QVERIFY(!TheWindows.Loaded(Guide));
+        QCOMPARE(ActiveWindow(), Main);
+    }
+
+    void EachEntryBeginsItsOwnRouteAfterOneThatWasLeft_data()
+    {
+        QTest::addColumn<int>("step");
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("panel");
+        for (const int step : {1, 2})
+            for (const auto &[entry, panel] : {std::pair{"mnuStartBudget", "pnlStartBudget1"},
+                                               {"mnuStartShopping", "pnlStartShopping1"},
+                                               {"mnuStartPayingOffBills", "pnlStartPayOff1"}})
+                QTest::addRow("step %d, %s", step, entry)
+                    << step << QString::fromLatin1(entry) << QString::fromLatin1(panel);
+    }
+    void EachEntryBeginsItsOwnRouteAfterOneThatWasLeft()
+    {
+        QFETCH(int, step);
+        QFETCH(QString, entry);
+        GuiDesk desk;
+        Begin(desk, u"mnuStartShopping"_s);
+        for (int done = 1; done <= step; ++done) {
+            Click(Guide, u"cmdNextSS%1"_s.arg(done));
+            Click(Master, u"cmdExit"_s);
+        }
+        Click(Guide, u"cmdCancelSS%1"_s.arg(step + 1));
+        Choose(entry);
+        QTEST(FrontPanel(), "panel");
+        QVERIFY(!State.GuidedSetupActive);
+        QCOMPARE(State.GuidedSetupStep, qint16(0));
+    }
+
+    // The welcome's wish for the budget is that entry, too.
+    void TheWelcomesWishBeginsAtTheFirstPanel()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        State.GuidedSetupActive = true;
+        State.GuidedSetupRoute = ShoppingRoute;
+        State.GuidedSetupStep = 2;
+        State.WelcomeLevelPending = true;
+        State.WelcomeLevel = 0;
+        Show(u"frmAbout"_s);
+        Show(Main);
+        QCOMPARE(ActiveWindow(), Guide);
+        QCOMPARE(FrontPanel(), BudgetPanel(1));
+        QVERIFY(!State.GuidedSetupActive);
     }
 
     // A catalogue that stood open before is not loaded again, so it does not hide the guide; its end brings it forward.
@@ -1809,6 +1854,52 @@ private Q_SLOTS:
         QCOMPARE(ActiveWindow(), Main);
     }
 
+    // A pay off window that stood open before is not loaded again, so it does not hide the guide. Its end is that of
+    // the route, but not that of another one which was begun meanwhile.
+    void AnOpenPayOffWindowEndsItsRouteOnly()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Show(PayOff);
+        Show(Main);
+        Choose(u"mnuStartPayingOffBills"_s);
+        Click(Guide, u"cmdNextSP1"_s);
+        Click(Guide, u"cmdNextSP2"_s);
+        QCOMPARE(ActiveWindow(), PayOff);
+        QVERIFY(IsShown(Guide));
+        Show(Guide);
+        QCOMPARE(FrontPanel(), u"pnlStartPayOff2"_s);
+        Click(Guide, u"cmdCancelSP2"_s);
+        QCOMPARE(ActiveWindow(), Main);
+        QVERIFY(State.GuidedSetupActive);
+
+        Choose(u"mnuStartBudget"_s);
+        QVERIFY(!State.GuidedSetupActive);
+        WalkTo(6);
+        Show(PayOff);
+        Click(PayOff, u"cmdExit"_s);
+        QVERIFY(TheWindows.Loaded(Guide));
+        QCOMPARE(ActiveWindow(), Guide);
+        QCOMPARE(FrontPanel(), BudgetPanel(6));
+        EnterCreditor(u"15"_s, u"650"_s, u"Rent"_s);
+        QCOMPARE(TextOf(Guide, u"fraCreditorInformation"_s), u"Information for Creditor # 2..."_s);
+    }
+
+    void AnOpenPayOffWindowEndsTheRouteThatGoesThroughIt()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Show(PayOff);
+        Show(Main);
+        Choose(u"mnuStartPayingOffBills"_s);
+        Click(Guide, u"cmdNextSP1"_s);
+        Click(Guide, u"cmdNextSP2"_s);
+        Click(PayOff, u"cmdExit"_s);
+        QVERIFY(!TheWindows.Loaded(Guide));
+        QVERIFY(!State.GuidedSetupActive);
+        QCOMPARE(ActiveWindow(), Main);
+    }
+
     void TheStepDecidesWhichPanelComesBack_data()
     {
         QTest::addColumn<int>("route");
@@ -1834,7 +1925,8 @@ private Q_SLOTS:
         State.GuidedSetupActive = true;
         State.GuidedSetupRoute = route;
         State.GuidedSetupStep = qint16(step);
-        Choose(u"mnuStartShopping"_s);
+        TheWindows.Touch(Guide).setWindowTitle(RouteTitle::Shopping);
+        Show(Guide);
         QTEST(FrontPanel(), "panel");
     }
 
