@@ -1,8 +1,10 @@
 #include "guidance/frmGettingStarted.h"
 
 #include "foundation/GuidedSetup.h"
+#include "foundation/Options.h"
 #include "foundation/PayFrequency.h"
 #include "foundation/Tutor.h"
+#include "foundation/WindowFields.h"
 #include "foundation/WindowNames.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/Theme.h"
@@ -132,12 +134,12 @@ frmGettingStarted::frmGettingStarted()
     OnClick(ui.cmdNextBS10, [this] { BringToFront(ui.pnlStartBudget11); });
     OnClick(ui.cmdSaveBS11, [this] { cmdSaveBS11_Click(); });
     connect(&optPayFrequency, &QButtonGroup::idClicked, this, &frmGettingStarted::PressedAgain);
-    OnClick(ui.cmdNextSS1, [] { WorkIn(WindowName::frmMasterShoppingList, ShoppingRoute, 1, 25); });
-    OnClick(ui.cmdNextSS2, [] { WorkIn(WindowName::frmMasterShoppingList, ShoppingRoute, 2, 26); });
-    OnClick(ui.cmdNextSS3, [] { WorkIn(WindowName::frmCurrentShoppingList, ShoppingRoute, 3, 4); });
+    OnClick(ui.cmdNextSS1, [this] { WorkIn(WindowName::frmMasterShoppingList, ShoppingRoute, 1, 25); });
+    OnClick(ui.cmdNextSS2, [this] { WorkIn(WindowName::frmMasterShoppingList, ShoppingRoute, 2, 26); });
+    OnClick(ui.cmdNextSS3, [this] { WorkIn(WindowName::frmCurrentShoppingList, ShoppingRoute, 3, 4); });
     OnClick(ui.cmdNextSP1, [this] { BringToFront(ui.pnlStartPayOff2); });
     // Step 2 from the start: coming back to this window would change no panel, and the work window ends the route.
-    OnClick(ui.cmdNextSP2, [] { WorkIn(WindowName::frmPayOff, PayOffRoute, 2, 13); });
+    OnClick(ui.cmdNextSP2, [this] { WorkIn(WindowName::frmPayOff, PayOffRoute, 2, 13); });
     for (QPushButton *cancel :
          {ui.cmdCancelBS1, ui.cmdCancelBS2, ui.cmdCancelBS3, ui.cmdCancelBS4, ui.cmdCancelBS5, ui.cmdCancelBS6,
           ui.cmdCancelBS7, ui.cmdCancelBS8, ui.cmdCancelBS9, ui.cmdCancelBS10, ui.cmdCancelBS11, ui.cmdCancelBS12,
@@ -268,6 +270,9 @@ void frmGettingStarted::Activate()
 
 void frmGettingStarted::Unload()
 {
+    // Who has switched the tutor off has had its pages for this way only, unless he keeps one.
+    if (m_tutorShown && OptionValue(ShowTutor) == 0 && !WindowField::TutorIsFrozen())
+        TheWindows.Unload(WindowName::frmTallymereTutor);
     TheWindows.Show(WindowName::frmMain);
 }
 
@@ -497,6 +502,7 @@ void frmGettingStarted::WorkIn(const QString &window, qint32 route, qint16 step,
     State.GuidedSetupActive = true;
     State.GuidedSetupRoute = route;
     State.GuidedSetupStep = step;
+    m_tutorShown = true;
     TheWindows.Show(window);
     Q_EMIT TheTutorRequests.PageWanted(tutorPage);
 }

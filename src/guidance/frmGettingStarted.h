@@ -61,14 +61,15 @@ private:
     void ShowExpenseSummary();
     void ShowOverheadSummary();
     void ShowFrequencyHint();
-    static void WorkIn(const QString &window, qint32 route, qint16 step, int tutorPage);
+    void WorkIn(const QString &window, qint32 route, qint16 step, int tutorPage);
 
     // As at the start in each instance, which a load brings into being.
     QList<Route> m_routes;
     BudgetSetup m_setup;
     int m_roomFor = 0; ///< the width in which the panels were measured last
     bool PayOptionClicked = false;
-    bool m_designing = true; // the design's own selection is no click
+    bool m_tutorShown = false; ///< a page of it, on a route through work windows
+    bool m_designing = true;   // the design's own selection is no click
     OptionGroup optPayFrequencyWE;
     OptionGroup optPayFrequency;
 };

@@ -11,6 +11,7 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QTextEdit>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,6 +23,7 @@ const QString Main = u"frmMain"_s;
 const QString Master = u"frmMasterShoppingList"_s;
 const QString CurrentList = u"frmCurrentShoppingList"_s;
 const QString PayOff = u"frmPayOff"_s;
+const QString Tutor = u"frmTallymereTutor"_s;
 const QString DatesWindow = u"frmSemiMonthlyPayInfo"_s;
 const QString MonthEndWindow = u"frmMonthlyPaymentOption"_s;
 const QString NotNumeric = u"Please enter a numeric value in the textbox"_s;
@@ -1627,15 +1629,94 @@ private Q_SLOTS:
         QVERIFY(!desk.TakeEnd());
     }
 
-    void TheRouteShowsItsPagesWithoutTheTutorsOption()
+    void TheRoutesShowTheirPagesWhateverTheOption_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<bool>("staysAfterwards");
+        QTest::newRow("on") << u"1"_s << true;
+        QTest::newRow("off") << u"0"_s << false; // its pages go with the route
+        QTest::newRow("neither") << u"5"_s << true;
+    }
+    void TheRoutesShowTheirPagesWhateverTheOption()
+    {
+        QFETCH(QString, option);
+        QFETCH(bool, staysAfterwards);
+        GuiDesk desk;
+        desk.Options[u"show tallymere tutor"_s] = option;
+        Begin(desk, u"mnuStartShopping"_s);
+        const auto seesPage = [](int page) {
+            QVERIFY(IsShown(Tutor));
+            QCOMPARE(Find<QTextEdit>(Tutor, u"rtbInstructions"_s).toPlainText(), State.TutorInstructions(page));
+            QVERIFY(State.TutorInstructions(page).contains(u"Page %1"_s.arg(page)));
+        };
+        Click(Guide, u"cmdNextSS1"_s);
+        seesPage(25);
+        QCOMPARE(ActiveWindow(), Master);
+        QVERIFY(!Find<QTimer>(Main, u"tmrAutoTutor"_s).isActive());
+        Click(Master, u"cmdExit"_s);
+        Click(Guide, u"cmdNextSS2"_s);
+        seesPage(26);
+        Click(Master, u"cmdExit"_s);
+        Click(Guide, u"cmdNextSS3"_s);
+        seesPage(4);
+        Click(CurrentList, u"cmdQuit"_s);
+        QCOMPARE(ActiveWindow(), Main);
+        QCOMPARE(IsShown(Tutor), staysAfterwards);
+
+        Choose(u"mnuStartPayingOffBills"_s);
+        Click(Guide, u"cmdNextSP1"_s);
+        Click(Guide, u"cmdNextSP2"_s);
+        seesPage(13);
+        QCOMPARE(ActiveWindow(), PayOff);
+        Click(PayOff, u"cmdExit"_s);
+        QCOMPARE(ActiveWindow(), Main);
+        QCOMPARE(IsShown(Tutor), staysAfterwards);
+    }
+
+    void APageThatTheUserKeepsStays()
     {
         GuiDesk desk;
         desk.Options[u"show tallymere tutor"_s] = u"0"_s;
-        PagesWanted pages;
+        Begin(desk, u"mnuStartPayingOffBills"_s);
+        Click(Guide, u"cmdNextSP1"_s);
+        Click(Guide, u"cmdNextSP2"_s);
+        Click(Tutor, u"imgTallymereTutor"_s);
+        Show(PayOff);
+        Click(PayOff, u"cmdExit"_s);
+        QCOMPARE(ActiveWindow(), Main);
+        QVERIFY(IsShown(Tutor));
+    }
+
+    // A page that the user has asked for elsewhere is none of a route's.
+    void TheBudgetsRouteLeavesThePageThatStands()
+    {
+        GuiDesk desk;
+        desk.Options[u"show tallymere tutor"_s] = u"0"_s;
+        desk.StartProgram();
+        Q_EMIT TheTutorRequests.PageWanted(7);
+        Choose(u"mnuStartBudget"_s);
+        Click(Guide, u"cmdCancelBS1"_s);
+        QVERIFY(IsShown(Tutor));
+    }
+
+    void ThePageComesAfterTheWindow()
+    {
+        GuiDesk desk;
+        QStringList stood; // at each page
+        const auto watch = connect(&TheTutorRequests, &TutorRequests::PageWanted, this,
+                                   [&] { stood += IsShown(Guide) ? Guide : ActiveWindow(); });
         Begin(desk, u"mnuStartShopping"_s);
-        Click(Guide, u"cmdNextSS1"_s);
-        QCOMPARE(pages.Take(), QList<int>{25});
-        QVERIFY(!Find<QTimer>(Main, u"tmrAutoTutor"_s).isActive());
+        for (const auto &[next, window, leave] : {std::tuple{u"cmdNextSS1"_s, Master, u"cmdExit"_s},
+                                                  {u"cmdNextSS2"_s, Master, u"cmdExit"_s},
+                                                  {u"cmdNextSS3"_s, CurrentList, u"cmdQuit"_s}}) {
+            Click(Guide, next);
+            Click(window, leave);
+        }
+        Choose(u"mnuStartPayingOffBills"_s);
+        Click(Guide, u"cmdNextSP1"_s);
+        Click(Guide, u"cmdNextSP2"_s);
+        disconnect(watch);
+        QCOMPARE(stood, (QStringList{Master, Master, CurrentList, PayOff}));
     }
 
     void LookingAtTheListOnTheWayIsNoStep()
