@@ -170,6 +170,12 @@ QString RegularsPrompt(const BudgetSetup &setup)
            u"to exit."_s.arg(setup.BudgetFrequencyName);
 }
 
+QString RegularHint(const BudgetSetup &setup)
+{
+    return u"Enter what one %1 pay period costs. Leave quotation marks out of the name: they spoil the file."_s.arg(
+        setup.BudgetFrequencyName);
+}
+
 QString ExpenseSummary(const BudgetSetup &setup)
 {
     return u"Total creditor/monthly obligation amounts: %1\nTotal regular items amounts: %2\n\nTotal expenses: %3"_s

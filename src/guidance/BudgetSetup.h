@@ -82,6 +82,8 @@ void AddUpOverhead(BudgetSetup &setup);
 // The summaries, as the user reads them.
 QString IncomeSummary(const BudgetSetup &setup);
 QString RegularsPrompt(const BudgetSetup &setup);
+/// Which amount of a regular item is wanted; the prompt before it says so only where there are creditors.
+QString RegularHint(const BudgetSetup &setup);
 QString ExpenseSummary(const BudgetSetup &setup);
 QString OverheadSummary(const BudgetSetup &setup);
 

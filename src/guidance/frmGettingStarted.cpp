@@ -254,8 +254,11 @@ void frmGettingStarted::Activate()
         return;
     if (!State.GuidedSetupActive) {
         for (const Route &route : std::as_const(m_routes))
-            if (route.Title == windowTitle())
+            if (route.Title == windowTitle()) {
+                if (route.Panels.indexOf(Panel()) > 0)
+                    ui.lblBeginsAgain->setText(BeginsAgain);
                 BringToFront(route.Panels.first());
+            }
         return;
     }
     // A route that goes on: its step is the panel, from 0. That of a route that was left half-way stands until another
@@ -326,6 +329,7 @@ void frmGettingStarted::cmdNextBS1_Click()
     const QString count = BoundedNumberOfIncomes(ui.txtNumberOfIncomes->text());
     Change([&](BudgetSetup &setup) { TakeNumberOfIncomes(setup, count); });
     ui.txtNumberOfIncomes->setText(count);
+    ui.lblBeginsAgain->clear();
     AskForIncome();
 }
 
@@ -456,6 +460,7 @@ void frmGettingStarted::AskForRegular()
                                        : u"Information for Regular Item # %1..."_s.arg(m_setup.SetupRegularIndex + 1));
     ui.txtRegularItemAmount->setText(u"0.00"_s);
     ui.txtRegularItem->clear();
+    ui.lblRegularHint->setText(RegularHint(m_setup));
     BringToFront(ui.pnlStartBudget8);
 }
 

@@ -256,11 +256,14 @@ private Q_SLOTS:
             {"lblIncomesHint", "For each income provider in your household, Tallymere needs to know their type of pay "
                                "frequency and average take home pay. Click Next to proceed or Cancel to exit Budget "
                                "Setup."},
+            {"lblBeginsAgain", ""},
             {"lblNumberOfIncomes", "Number of incomes"},
             {"txtNumberOfIncomes", ""},
             {"lblWageEarner", "Information for Corvelle # 1..."},
             {"lblAverageTakeHomePay", "Average Take Home Pay"},
             {"txtAverageTakeHomePay", "0.00"},
+            {"lblTakeHomeHint",
+             "Take home pay is net pay: what one paycheck brings home, after taxes and all that is held back."},
             {"Frame1", "Pay Frequency"},
             {"optPayFrequencyWE0", "Weekly"},
             {"optPayFrequencyWE1", "Biweekly"},
@@ -297,6 +300,8 @@ private Q_SLOTS:
             {"txtCreditorAmount", "0.00"},
             {"lblCreditor", "Creditor"},
             {"txtCreditor", ""},
+            {"lblCreditorHint", "For a bill that is due on the 29th, 30th or 31st enter 28. Leave quotation marks out "
+                                "of the name: they spoil the file."},
             {"lblRegularItemsPrompt",
              "Tallymere considers items you need to budget for EVERY BUDGET PAY PERIOD as \"regular items\". Such "
              "items "
@@ -395,6 +400,31 @@ private Q_SLOTS:
         buttons.sort();
         expected.sort();
         QCOMPARE(buttons, expected);
+    }
+
+    void AFrequencySaysWhatItAsks()
+    {
+        GuiDesk desk;
+        Begin(desk);
+        QCOMPARE(Find(Guide, u"optPayFrequency2"_s).accessibleDescription(),
+                 u"A budget for each half of the month; the two pay days are asked for"_s);
+        QCOMPARE(Find(Guide, u"optPayFrequency3"_s).accessibleDescription(),
+                 u"A budget for every month; whether you are paid at the end of the month is asked"_s);
+    }
+
+    void CancelSaysWhatStays_data()
+    {
+        QTest::addColumn<QString>("tip");
+        for (int step = 1; step <= 11; ++step)
+            QTest::addRow("cmdCancelBS%d", step)
+                << (step < 3 ? u"Leave without saving anything"_s
+                             : u"Leave without saving; a pay frequency clicked in step 3 stays"_s);
+    }
+    void CancelSaysWhatStays()
+    {
+        GuiDesk desk;
+        Begin(desk);
+        QTEST(Find(Guide, QString::fromLatin1(QTest::currentDataTag())).toolTip(), "tip");
     }
 
     // ------------------------------------------------------------ beginning and end
@@ -957,6 +987,9 @@ private Q_SLOTS:
         QCOMPARE(FocusOf(Guide), u"txtRegularItemAmount"_s);
         QCOMPARE(SelectedText(u"txtRegularItemAmount"_s), u"0.00"_s);
         QCOMPARE(TextOf(Guide, u"fraRegularItemInformation"_s), u"Information for Regular Item # 1"_s);
+        QCOMPARE(TextOf(Guide, u"lblRegularHint"_s),
+                 u"Enter what one biweekly pay period costs. Leave quotation marks out of the name: they spoil the "
+                 u"file."_s);
         EnterRegular(u"120"_s, u"Food"_s);
         QCOMPARE(FrontPanel(), BudgetPanel(8));
         QCOMPARE(TextOf(Guide, u"fraRegularItemInformation"_s), u"Information for Regular Item # 2..."_s);
@@ -1430,7 +1463,14 @@ private Q_SLOTS:
         QCOMPARE(FrontPanel(), BudgetPanel(1));
         QCOMPARE(FocusOf(Guide), u"txtNumberOfIncomes"_s);
         QCOMPARE(TextOf(Guide, u"txtNumberOfIncomes"_s), u"2"_s);
+        const QString why = u"Coming back from another window before a pay frequency was clicked in step 3 starts the "
+                            u"setup again. Please enter your incomes once more."_s;
+        QCOMPARE(TextOf(Guide, u"lblBeginsAgain"_s), why);
+        Show(u"frmCreditors"_s);
+        Show(Guide);
+        QCOMPARE(TextOf(Guide, u"lblBeginsAgain"_s), why);
         Next(1);
+        QCOMPARE(TextOf(Guide, u"lblBeginsAgain"_s), QString());
         QCOMPARE(TextOf(Guide, u"lblWageEarner"_s), u"Information for Corvelle # 1..."_s);
         EnterIncome(u"300"_s, 0);
         EnterIncome(u"1000"_s, 3);

@@ -331,6 +331,8 @@ private Q_SLOTS:
                  u"occasionally - just your basic income."_s);
         QCOMPARE(RegularsPrompt(setup), u"For each regular item, Tallymere needs to know their name, and biweekly "
                                         u"amount. Click Next to proceed or Cancel to exit."_s);
+        QCOMPARE(RegularHint(setup), u"Enter what one biweekly pay period costs. Leave quotation marks out of the "
+                                     u"name: they spoil the file."_s);
     }
 
     // The save
