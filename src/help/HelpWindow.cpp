@@ -23,6 +23,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int TitleBarHeight = 40; // pixels; a guess, before the window manager has put its frame around the window
+
 /// An entry of the contents that only stands above others leads to no page.
 bool IsHeading(const QUrl &page)
 {
@@ -66,16 +68,18 @@ HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
     halves->addWidget(m_pages);
     halves->setStretchFactor(1, 1);
     halves->setChildrenCollapsible(false);
-    halves->setSizes({250, 550});
+    halves->setSizes({300, 580}); // room for most titles in the contents
     setCentralWidget(halves);
-    resize(800, 600);
+    resize(QSize(880, 600).boundedTo(screen()->availableSize() - QSize(0, TitleBarHeight)));
 
     connect(m_pages, &QTextBrowser::sourceChanged, this, [this](const QUrl &page) {
         m_page = page.adjusted(QUrl::RemoveFragment); // the browser itself still names the page before
         PageChanged();
     });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { Open(m_book.FirstPage()); });
+    auto *aboutHelp = new QShortcut(Qt::Key_F1, this);
+    aboutHelp->setAutoRepeat(false); // the key that has asked for a page may still be held down when the window comes
+    connect(aboutHelp, &QShortcut::activated, this, [this] { Open(m_book.FirstPage()); });
     m_pages->setFocus();
 
     // The page comes first; the words of all pages are listed on a thread of the engine's own.
@@ -164,6 +168,14 @@ QWidget *HelpWindow::MakeIndex()
     connect(m_indexFilter, &QLineEdit::textChanged, index,
             [index](const QString &text) { index->filterIndices(text); });
     connect(m_indexFilter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
+    // The arrow keys go through the words that are left, while one goes on typing.
+    for (const auto &[key, step] : {std::pair(Qt::Key_Up, -1), {Qt::Key_Down, 1}})
+        connect(new QShortcut(key, m_indexFilter, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, index,
+                [index, step = step] {
+                    const QModelIndex next = index->model()->index(index->currentIndex().row() + step, 0);
+                    if (next.isValid())
+                        index->setCurrentIndex(next);
+                });
     connect(index, &QAbstractItemView::clicked, index, &QHelpIndexWidget::activateCurrentItem);
     connect(index, &QHelpIndexWidget::documentActivated, this, [this](const QHelpLink &page) { Open(page.url); });
     connect(index, &QHelpIndexWidget::documentsActivated, this,
@@ -171,7 +183,7 @@ QWidget *HelpWindow::MakeIndex()
 
     auto *side = new QWidget;
     auto *layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 8, 0, 0);
+    layout->setContentsMargins(8, 8, 0, 0);
     layout->addWidget(m_indexFilter);
     layout->addWidget(index);
     return side;
@@ -198,7 +210,7 @@ QWidget *HelpWindow::MakeSearch()
 
     auto *side = new QWidget;
     auto *layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 8, 0, 0);
+    layout->setContentsMargins(8, 8, 0, 0);
     layout->addWidget(query);
     layout->addWidget(results, 1);
     return side;
@@ -276,6 +288,7 @@ void HelpWindow::Browse(int step)
 void HelpWindow::PrintPage()
 {
     QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(m_pages->documentTitle()); // which a PDF file gets as its name, too
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() == QDialog::Accepted)
         m_pages->print(&printer);

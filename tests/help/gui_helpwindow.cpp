@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QToolButton>
 #include <unistd.h>
@@ -484,6 +485,29 @@ private Q_SLOTS:
         QTRY_COMPARE(reader.Page(), u"frmCalculateWages"_s);
     }
 
+    void ArrowsGoThroughTheIndexWhileOneTypes()
+    {
+        Reader reader(u"topic frmMain"_s);
+        auto &index = reader.Part<QHelpIndexWidget>(u"index"_s);
+        auto &filter = reader.Part<QLineEdit>(u"indexFilter"_s);
+        reader.Part<QTabWidget>(u"sides"_s).setCurrentIndex(1);
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        filter.setText(u"over"_s); // Monthly Overhead, Overtime
+        Settle();
+        QCOMPARE(index.model()->rowCount(), 2);
+        const auto press = [&](Qt::Key key) {
+            QTest::keyClick(&filter, key);
+            return index.currentIndex().data().toString();
+        };
+        QCOMPARE(press(Qt::Key_Up), u"Monthly Overhead"_s);
+        QCOMPARE(press(Qt::Key_Up), u"Monthly Overhead"_s); // there is none above
+        QCOMPARE(press(Qt::Key_Down), u"Overtime"_s);
+        QCOMPARE(press(Qt::Key_Down), u"Overtime"_s);
+        QVERIFY(filter.hasFocus());
+        press(Qt::Key_Return);
+        QCOMPARE(reader.Page(), u"frmCalculateWages"_s);
+    }
+
     void EveryWordOfTheIndexIsThatOfOnePage()
     {
         Reader reader(u"topic frmMain"_s);
@@ -516,6 +540,14 @@ private Q_SLOTS:
         reader.Window.Answer(u"topic frmRegulars"_s);
         QTest::keySequence(&reader.Window, key);
         QTEST(reader.Page(), "page");
+    }
+
+    void AKeyThatIsStillHeldDownLeavesThePage()
+    {
+        Reader reader(u"topic frmCreditors"_s); // asked for by F1, which now repeats itself in this window
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        QTest::simulateEvent(&reader.Window, true, Qt::Key_F1, Qt::NoModifier, QString(), true);
+        QCOMPARE(reader.Page(), u"frmCreditors"_s);
     }
 
     void ForwardHasKeys()
@@ -553,18 +585,28 @@ private Q_SLOTS:
         QTemporaryDir folder;
         Reader reader(u"topic frmTip"_s);
         const QString file = folder.filePath(u"page.pdf"_s);
-        bool isAsked = false;
+        QString documentName;
         QTimer::singleShot(0, &reader.Window, [&] {
             auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
-            isAsked = dialog;
             if (!dialog)
                 return;
+            documentName = dialog->printer()->docName();
             dialog->printer()->setOutputFileName(file);
             dialog->done(QDialog::Accepted);
         });
         reader.Action(u"print"_s).trigger();
-        QVERIFY(isAsked);
+        QCOMPARE(documentName, TitleOf(u"frmTip"_s));
         QVERIFY(PagesOf(file).join(QString()).contains(TitleOf(u"frmTip"_s)));
+    }
+
+    void ItFitsTheScreen()
+    {
+        Reader reader(u"topic frmMain"_s);
+        QVERIFY(reader.Window.screen()->availableSize().height() >= reader.Window.frameGeometry().height());
+        const auto *halves = reader.Window.findChild<QSplitter *>();
+        QVERIFY(halves);
+        QVERIFY(halves->sizes().at(0) >= 200); // the titles can be read
+        QVERIFY(halves->sizes().at(1) > halves->sizes().at(0));
     }
 
     void ItComesBackFromTheTaskBar()
