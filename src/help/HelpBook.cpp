@@ -57,18 +57,17 @@ HelpBook::HelpBook(const QString &file)
         m_error = u"The help could not be opened, since its working copy cannot be written:\n%1"_s.arg(copy);
         return;
     }
-    const QString space = QHelpEngineCore::namespaceName(copy);
     m_engine = std::make_unique<QHelpEngine>(m_folder->filePath(u"collection.qhc"_s));
     m_engine->setReadOnly(false);
-    m_engine->setUsesFilterEngine(true); // without it a search finds nothing
-    if (space.isEmpty() || !m_engine->setupData() || !m_engine->registerDocumentation(copy) || !m_engine->setupData() ||
+    m_engine->setUsesFilterEngine(true); // the other kind of filters is deprecated
+    if (!m_engine->setupData() || !m_engine->registerDocumentation(copy) || !m_engine->setupData() ||
         FirstPage().isEmpty())
         m_error = u"The help file is damaged:\n%1"_s.arg(file);
 }
 
 QUrl HelpBook::PageOf(const QString &topic) const
 {
-    if (!m_engine || topic.isEmpty())
+    if (!m_engine)
         return {};
     const QList<QHelpLink> pages = m_engine->documentsForIdentifier(topic);
     return pages.isEmpty() ? QUrl() : pages.constFirst().url;

@@ -78,8 +78,12 @@ HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
     });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     auto *aboutHelp = new QShortcut(Qt::Key_F1, this);
-    aboutHelp->setAutoRepeat(false); // the key that has asked for a page may still be held down when the window comes
-    connect(aboutHelp, &QShortcut::activated, this, [this] { Open(m_book.FirstPage()); });
+    aboutHelp->setAutoRepeat(false);
+    connect(aboutHelp, &QShortcut::activated, this, [this] {
+        // The key that has asked for a page may still be held down as the window comes, where it seems to be pressed.
+        if (m_sinceAnswer.hasExpired(LongestHold))
+            Open(m_book.FirstPage());
+    });
     m_pages->setFocus();
 
     // The page comes first; the words of all pages are listed on a thread of the engine's own.
@@ -241,6 +245,7 @@ void HelpWindow::ListPages()
 
 void HelpWindow::Answer(const QString &question)
 {
+    m_sinceAnswer.start();
     const QString kind = question.section(u' ', 0, 0);
     const QString name = question.section(u' ', 1).trimmed();
     m_sides->setCurrentIndex(kind == u"contents"_s ? Search : Contents);
@@ -280,9 +285,7 @@ void HelpWindow::PageChanged()
 
 void HelpWindow::Browse(int step)
 {
-    const qsizetype place = m_order.indexOf(m_page) + step;
-    if (place >= 0 && place < m_order.size())
-        Open(m_order[place]);
+    Open(m_order.value(m_order.indexOf(m_page) + step));
 }
 
 void HelpWindow::PrintPage()

@@ -1,6 +1,7 @@
 // The window of the help: contents, index and search on the left, the page on the right. It remembers nothing.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QHelpContentWidget>
 #include <QMainWindow>
 #include <QUrl>
@@ -15,6 +16,9 @@ class HelpWindow : public QMainWindow
 {
     Q_OBJECT
 public:
+    /// Milliseconds after a question in which F1 does not count.
+    static constexpr int LongestHold = 1000;
+
     explicit HelpWindow(HelpBook &book);
 
     /// Carries out a question of the program: "topic frmX" opens the page of a window, "context 22" that of a help
@@ -49,6 +53,7 @@ private:
     QLineEdit *m_searchField = nullptr;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
+    QElapsedTimer m_sinceAnswer;
     QUrl m_page;         // the one that is shown, without the place on it
     QList<QUrl> m_order; // the pages in the order of the contents
 };

@@ -16,8 +16,10 @@
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QSplitter>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTabWidget>
+#include <QTextTable>
 #include <QToolButton>
 #include <unistd.h>
 
@@ -361,8 +363,21 @@ private Q_SLOTS:
     void QuotedMessagesAndTablesAreLaidOut()
     {
         Reader reader(u"topic frmPaymentCalculator"_s);
-        const QString text = reader.Part<HelpPages>(u"pages"_s).toPlainText();
-        QVERIFY(text.contains(u"\u201cBorrowed Amount does not contain a valid currency amount\u201d"_s));
+        const auto &pages = reader.Part<HelpPages>(u"pages"_s);
+        QVERIFY(
+            pages.toPlainText().contains(u"\u201cBorrowed Amount does not contain a valid currency amount\u201d"_s));
+        // The first column of each table is equally wide, so that they stand below each other.
+        const QTextFrame *root = pages.document()->rootFrame();
+        QVERIFY(root->childFrames().size() >= 3);
+        for (const QTextFrame *frame : root->childFrames()) {
+            const auto *table = qobject_cast<const QTextTable *>(frame);
+            QVERIFY(table);
+            QCOMPARE(table->format().columnWidthConstraints().value(0), QTextLength(QTextLength::PercentageLength, 32));
+        }
+        // The style sheet sets the headings off from what stands above.
+        const QTextCursor heading = pages.document()->find(u"Step by step"_s);
+        QVERIFY(!heading.isNull());
+        QCOMPARE(heading.blockFormat().topMargin(), 20.0);
     }
 
     void ALinkIsFollowed()
@@ -530,7 +545,6 @@ private Q_SLOTS:
         QTest::newRow("the page before") << QKeySequence(Qt::ALT | Qt::Key_PageUp) << u"frmCreditors"_s;
         QTest::newRow("the page behind") << QKeySequence(Qt::ALT | Qt::Key_PageDown) << u"frmExtras"_s;
         QTest::newRow("the first page") << QKeySequence(Qt::ALT | Qt::Key_Home) << u"index"_s;
-        QTest::newRow("the help about the help") << QKeySequence(Qt::Key_F1) << u"index"_s;
     }
     void KeysOfTheToolbar()
     {
@@ -542,12 +556,18 @@ private Q_SLOTS:
         QTEST(reader.Page(), "page");
     }
 
-    void AKeyThatIsStillHeldDownLeavesThePage()
+    void F1OpensTheFirstPageOnceItHasBeenReleased()
     {
-        Reader reader(u"topic frmCreditors"_s); // asked for by F1, which now repeats itself in this window
+        Reader reader(u"topic frmMain"_s);
         QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        reader.Window.Answer(u"topic frmCreditors"_s); // asked for by F1, which is still held down
+        QTest::keyClick(&reader.Window, Qt::Key_F1);
+        QCOMPARE(reader.Page(), u"frmCreditors"_s);
+        QTest::qWait(HelpWindow::LongestHold + 100);
         QTest::simulateEvent(&reader.Window, true, Qt::Key_F1, Qt::NoModifier, QString(), true);
         QCOMPARE(reader.Page(), u"frmCreditors"_s);
+        QTest::keyClick(&reader.Window, Qt::Key_F1);
+        QCOMPARE(reader.Page(), u"index"_s);
     }
 
     void ForwardHasKeys()
@@ -599,14 +619,17 @@ private Q_SLOTS:
         QVERIFY(PagesOf(file).join(QString()).contains(TitleOf(u"frmTip"_s)));
     }
 
-    void ItFitsTheScreen()
+    void ItFitsTheScreenAndItsTitlesFitTheContents()
     {
-        Reader reader(u"topic frmMain"_s);
-        QVERIFY(reader.Window.screen()->availableSize().height() >= reader.Window.frameGeometry().height());
-        const auto *halves = reader.Window.findChild<QSplitter *>();
-        QVERIFY(halves);
-        QVERIFY(halves->sizes().at(0) >= 200); // the titles can be read
-        QVERIFY(halves->sizes().at(1) > halves->sizes().at(0));
+        Reader reader(u"topic frmSemiMonthlyPayInfo"_s);
+        const QSize room = reader.Window.screen()->availableSize();
+        QVERIFY(room.width() >= reader.Window.width() && room.height() > reader.Window.height());
+        QVERIFY(room.width() < 880); // or the screen would be no limit
+        const auto &contents = reader.Part<QHelpContentWidget>(u"contents"_s);
+        const QModelIndex title = contents.currentIndex();
+        QCOMPARE(title.data().toString(), TitleOf(u"frmSemiMonthlyPayInfo"_s));
+        QVERIFY(contents.visualRect(title).width() >=
+                contents.fontMetrics().horizontalAdvance(title.data().toString()));
     }
 
     void ItComesBackFromTheTaskBar()
@@ -675,6 +698,22 @@ private Q_SLOTS:
             book.Error().startsWith(u"The help could not be opened, since its working copy cannot be written:\n"_s),
             qPrintable(book.Error()));
         QVERIFY(book.PageOf(u"frmMain"_s).isEmpty());
+    }
+
+    void TheHelpOfAnotherProgramIsToldToo()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"budget help.hlp"_s);
+        QVERIFY(QFile::copy(HelpFile, file));
+        {
+            QSqlDatabase pages = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"foreign"_s);
+            pages.setDatabaseName(file);
+            QVERIFY(pages.open());
+            QVERIFY(QSqlQuery(pages).exec(u"DELETE FROM IndexTable WHERE Identifier = 'index'"_s));
+            pages.close();
+        }
+        QSqlDatabase::removeDatabase(u"foreign"_s);
+        QCOMPARE(HelpBook(file).Error(), u"The help file is damaged:\n"_s + file);
     }
 
     void WhatCannotBeReadIsTold()
