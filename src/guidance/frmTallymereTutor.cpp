@@ -64,13 +64,16 @@ void frmTallymereTutor::GiveThePageItsRoom()
         return sizeHint().height() - page.sizeHint().height() + lines * letters.lineSpacing() + edge;
     };
     const int width = minimumSizeHint().width();
-    const QSize room = screen()->availableSize() - QSize(0, TitleBarHeight);
+    const QRect room = screen()->availableGeometry().adjusted(0, TitleBarHeight, 0, 0);
     int height = qMin(heightOf(Lines), room.height());
-    const Form *main = TheWindows.Loaded(WindowName::frmMain);
-    if (const Form *other = main ? main : TheWindows.Front(); other && other->width() + width > room.width()) {
-        const int below = room.height() - TitleBarHeight - other->height();
-        height = qMin(height, qMax(heightOf(FewLines), below));
-    }
+    // The main window goes to the left as far as it has to; any other stays where it is.
+    QRect other;
+    if (const Form *main = TheWindows.Loaded(WindowName::frmMain))
+        other = {room.topLeft(), main->size()};
+    else if (const Form *front = TheWindows.Front())
+        other = front->frameGeometry();
+    if (other.right() > room.right() - width)
+        height = qMin(height, qMax(heightOf(FewLines), room.bottom() - other.bottom() - TitleBarHeight));
     resize(width, height);
 }
 

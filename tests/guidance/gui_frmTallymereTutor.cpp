@@ -601,6 +601,29 @@ private Q_SLOTS:
         QCOMPARE(height(), high);
     }
 
+    // The welcome window stands where it is; only what it leaves in the corner is free.
+    void TheSampleIsLowerWhereItWouldCoverTheWindowInFront()
+    {
+        GuiDesk desk;
+        Show(u"frmTip"_s);
+        Form &front = *TheWindows.Loaded(u"frmTip"_s);
+        const QRect room = front.screen()->availableGeometry();
+        front.setMinimumSize(1, 1);
+        const auto height = [&](const QRect &place) {
+            front.setGeometry(place);
+            Settle();
+            Show(Window);
+            const int shown = TheWindows.Loaded(Window)->height();
+            TheWindows.Unload(Window);
+            return shown;
+        };
+        const int high = height(QRect(room.topLeft(), QSize(100, room.height() - 40)));
+        const int low = height(QRect(room.topLeft(), room.size() - QSize(0, 40)));
+        QVERIFY2(low < high, qPrintable(u"%1, %2"_s.arg(low).arg(high)));
+        QCOMPARE(height(QRect(room.right() - 100, room.top(), 100, room.height() - 40)), low);
+        QCOMPARE(height(QRect(room.right() - 100, room.top(), 100, 50)), high);
+    }
+
     void TheSamplesWordsGiveWayToThePage()
     {
         GuiDesk desk;
