@@ -40,7 +40,6 @@ void Stage::Glide(QWidget *piece, const QPointF &from, const QPointF &to, const 
     connect(glide, &QVariantAnimation::valueChanged, this, [move](const QVariant &place) { move(place.toPointF()); });
     connect(glide, &QVariantAnimation::finished, this, [=, this] {
         m_glides.remove(piece);
-        move(to);
         if (then)
             then();
     });

@@ -376,6 +376,8 @@ private Q_SLOTS:
         LetMotionEnd();
         QCOMPARE(PlaceOf(u"pnlTallymereTutor"_s), QPointF(158, 150));
         QVERIFY(IsVisible(u"imgTallymereTutor"_s));
+        const QWidget &teacher = Find(TheWindow, u"pnlTallymereTutor"_s); // in front of all other pieces
+        QCOMPARE(teacher.parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly).last(), &teacher);
     }
 
     void ThePiecesMoveBetweenTheirPlaces()
@@ -425,6 +427,8 @@ private Q_SLOTS:
         GuiDesk desk;
         GoToStep(1);
         Tick(u"tmrBudgetTutor"_s, 10); // all seconds at once, after a pause of the machine
+        QCOMPARE(PlaceOf(u"Label7"_s), QPointF(2928, 4440));
+        QVERIFY(IsShown(u"frmTallymereTutor"_s)); // what was to follow the first motion has followed
         LetMotionEnd();
         QCOMPARE(PlaceOf(u"Label7"_s), QPointF(2928, 360));
         QVERIFY(!TheWindows.Loaded(u"frmTallymereTutor"_s));

@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(PlaceOf(u"frmOne"_s), place);
         // It comes before the caller, another window after it.
         TheWindows.Unload(u"frmOne"_s);
-        hub.setGeometry(QRect(Screen().topLeft(), QSize(250, 300)));
+        hub.setGeometry(QRect(Screen().topLeft(), QSize(250, Screen().height())));
         const QRect beside(hub.frameGeometry().topRight() + QPoint(1, 0), Screen().bottomRight());
         TheWindows.Loaded(u"frmOnlooker"_s)->setGeometry(beside);
         TheWindows.Show(u"frmOnlooker"_s);

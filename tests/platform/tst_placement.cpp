@@ -131,6 +131,14 @@ private Q_SLOTS:
                  QPoint(900, 400));
     }
 
+    void APlaceThatTouchesTheCallerIsNearerThanOneInLineWithIt()
+    {
+        // Above the caller stands a window, right of it another that leaves room only over itself.
+        const QRect caller(0, 500, 900, 500);
+        const QList<QRect> others{QRect(0, 0, 900, 500), QRect(900, 600, 60, 450)};
+        QCOMPARE(Placed({500, 250}, {.Screens = {Screen}, .Caller = caller, .Others = others}), QPoint(900, 350));
+    }
+
     void WhatIsReadIsLeftFreeBeforeTheCaller()
     {
         // At double scale: the caller fills the screen, and what is read stands over it.
