@@ -102,9 +102,10 @@ QPoint Placed(const QSize &window, const Surroundings &around)
     QList<QPoint> sides;
     for (const QPoint &side : SidesOf(around.Caller, window))
         sides += Within(screen, side, window);
-    // What it covers of the field, of what is read, of the caller and of the other windows; how far it is off the
-    // caller, and off the nearest of its sides.
-    using Cost = std::array<qint64, 6>;
+    // What it covers of the field, of what is read and of the caller; what it covers of the other windows and how far
+    // it is off the caller, where a way as long as the window is wide weighs as much as another window wholly covered;
+    // and how far it is off the nearest of its caller's sides.
+    using Cost = std::array<qint64, 5>;
     Cost least;
     least.fill(std::numeric_limits<qint64>::max());
     QPoint best;
@@ -119,10 +120,10 @@ QPoint Placed(const QSize &window, const Surroundings &around)
                        (around.OverCaller ? Area(place.intersected(other).intersected(around.Caller)) : 0);
         if (!around.OverCaller) {
             cost[2] = Area(place.intersected(around.Caller));
-            cost[4] = Gap(place, around.Caller);
-            cost[5] = std::numeric_limits<qint64>::max();
+            cost[3] += qint64(Gap(place, around.Caller)) * window.height();
+            cost[4] = std::numeric_limits<qint64>::max();
             for (const QPoint &side : sides)
-                cost[5] = qMin<qint64>(cost[5], (place.topLeft() - side).manhattanLength());
+                cost[4] = qMin<qint64>(cost[4], (place.topLeft() - side).manhattanLength());
         }
         if (cost < least) {
             least = cost;

@@ -14,8 +14,8 @@ struct Surroundings {
     bool OverCaller = false;  ///< a modal window is centred over its caller, which can't be used meanwhile
 };
 
-/// The upper left corner for a window of this size, on the screen that holds most of the caller: the place nearest to
-/// the caller that leaves the field, what is read, the caller and the other windows free, in this order. Of several
-/// such places it is right of the caller, else left of it, below or above. Without room for that, where it covers
-/// least; it stays within the screen as far as it fits.
+/// The upper left corner for a window of this size, on the screen that holds most of the caller: the place near the
+/// caller that leaves the field, what is read and the caller free, in this order, and of the other windows as much as
+/// it can without going far. Of several such places it is right of the caller, else left of it, below or above.
+/// Without room for that, where it covers least; it stays within the screen as far as it fits.
 QPoint Placed(const QSize &window, const Surroundings &around);
