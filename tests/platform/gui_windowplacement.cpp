@@ -158,6 +158,37 @@ private Q_SLOTS:
         QVERIFY(RightOf(caller) != before);
     }
 
+    void OneThatGrowsAtItsShowingIsPlacedAnew_data()
+    {
+        QTest::addColumn<bool>("isMoved"); // the user has moved it meanwhile
+        QTest::addColumn<bool>("isLater");
+        QTest::newRow("it grows") << false << false;
+        QTest::newRow("the user has moved it") << true << false;
+        QTest::newRow("it grows later") << false << true;
+    }
+    void OneThatGrowsAtItsShowingIsPlacedAnew()
+    {
+        QFETCH(bool, isMoved);
+        QFETCH(bool, isLater);
+        Form &hub = *TheWindows.Loaded(u"frmHub"_s);
+        Find(u"frmHub"_s, u"txtField"_s).setEnabled(false); // nothing there to be filled
+        hub.move(Screen().bottomRight() - QPoint(300, 300));
+        Settle();
+        Show(u"frmOne"_s);
+        Form &one = *TheWindows.Loaded(u"frmOne"_s);
+        const QSize frame = one.frameGeometry().size() - one.size();
+        const QPoint leftOf = PlaceOf(u"frmHub"_s).topLeft() - QPoint(200 + frame.width(), 0);
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), leftOf);
+        if (isMoved)
+            one.move(20, 30);
+        if (isLater)
+            QTest::qWait(900);
+        one.resize(260, 340);
+        Settle();
+        const QPoint within(leftOf.x() - 60, Screen().bottom() + 1 - 340 - frame.height());
+        QCOMPARE(PlaceOf(u"frmOne"_s).topLeft(), isMoved ? QPoint(20, 30) : isLater ? leftOf : within);
+    }
+
     void WhatIsOnlyLookedAtKeepsItsOwnPlace()
     {
         TheWindows.Touch(u"frmOnlooker"_s).move(7, 9);

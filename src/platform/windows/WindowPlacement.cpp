@@ -39,12 +39,14 @@ QPoint PlaceOf(const Form &form, const QSize &size, const Form &caller)
     return Placed(size + frame, around);
 }
 
-/// A window whose caller is shown just now, so that the window manager has still to put that one to its place: this one
-/// goes along until the caller stands. Where the user has moved it meanwhile, it stays.
+/// The first moments of a window: it may grow when it is filled, and its caller, shown just before, may still be put to
+/// its place by the window manager. This one is placed anew then. Where the user has moved it meanwhile, it stays.
 class PlaceFollower : public QObject
 {
 public:
-    PlaceFollower(Form &form, const Form &caller) : QObject(&form), m_form(form), m_caller(&caller), m_place(form.pos())
+    PlaceFollower(Form &form, const Form &caller)
+        : QObject(&form), m_form(form), m_caller(&caller), m_callerStands(caller.windowHandle()->isExposed()),
+          m_place(form.pos())
     {
         form.installEventFilter(this);
         const_cast<Form &>(caller).installEventFilter(this);
@@ -64,8 +66,10 @@ protected:
         const QEvent::Type type = event->type();
         if (watched == &m_form && type == QEvent::Hide)
             deleteLater();
-        else if ((type == QEvent::Move || type == QEvent::Resize) && watched == m_caller) // which may be ending else
+        else if (watched == &m_form && type == QEvent::Resize)
             Follow();
+        else if ((type == QEvent::Move || type == QEvent::Resize) && watched == m_caller && !m_callerStands)
+            Follow(); // looked at by its address alone: it may be ending
         return false;
     }
 
@@ -84,6 +88,7 @@ private:
 
     Form &m_form;
     QPointer<const Form> m_caller;
+    const bool m_callerStands; // where it is moved now, it is the user who moves it
     QPoint m_place;
     QTimer m_rest;
 };
@@ -111,6 +116,5 @@ void PlaceBeside(Form &form, const Form *caller)
         return;
     form.move(PlaceOf(form, SizeWhenShown(form), *caller));
     PlaceWhenItAppears(form, *caller);
-    if (!caller->windowHandle()->isExposed())
-        new PlaceFollower(form, *caller);
+    new PlaceFollower(form, *caller);
 }
