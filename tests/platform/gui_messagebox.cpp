@@ -75,6 +75,19 @@ private Q_SLOTS:
     }
 
     // What a user has typed may stand in a message and is no mark-up.
+    void AShortTextLeavesTheTitleItsRoom()
+    {
+        const QString title = QStringLiteral("Set Current Pay Period");
+        int width = 0, needed = 0;
+        Ask({.Text = QStringLiteral("No."), .Title = title}, [&](QMessageBox &box) {
+            QFont bold = box.font();
+            bold.setBold(true);
+            width = box.width();
+            needed = QFontMetrics(bold).horizontalAdvance(title) + 100; // icon and buttons of the frame
+        });
+        QVERIFY2(width >= needed, qPrintable(QString::number(width)));
+    }
+
     void TheTextIsPlain()
     {
         const QString text = QStringLiteral("<b>A & B</b>\n\nsecond line");

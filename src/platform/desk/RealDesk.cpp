@@ -13,6 +13,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -92,6 +93,18 @@ private:
     bool m_mustBeAnswered;
 };
 
+/// The frame shows the title beside its buttons, and where the text is short it would be cut.
+void GiveTitleItsRoom(QMessageBox &box)
+{
+    constexpr int frameButtons = 120; // pixels that a frame takes beside the title
+    QFont bold = box.font();
+    bold.setBold(true);
+    const int width = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + frameButtons;
+    if (auto *layout = qobject_cast<QGridLayout *>(box.layout()))
+        layout->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Fixed), layout->rowCount(), 0, 1,
+                        layout->columnCount());
+}
+
 Answer ShowBox(const Message &message)
 {
     Box box(message.MustBeAnswered);
@@ -116,6 +129,7 @@ Answer ShowBox(const Message &message)
             TheDesk.ShowHelp({QString(), message.HelpContext});
         });
     }
+    GiveTitleItsRoom(box);
     const bool busy = QApplication::overrideCursor();
     TheDesk.Hourglass(false); // nobody answers a box under a busy pointer
     int answer = 0;
