@@ -164,6 +164,18 @@ QString IncomeSummary(const BudgetSetup &setup)
            u"income."_s.arg(FormatCurrency(setup.CombinedPaycheck), setup.BudgetFrequencyName);
 }
 
+QString IncomeHint(const BudgetSetup &setup)
+{
+    const int periods = PaychecksAYear(setup.BudgetFrequencyName);
+    const bool isRarer = std::any_of(setup.Incomes.begin(), setup.Incomes.end(), [=](const IncomeRecord &income) {
+        return PaychecksAYear(income.IncomeFrequency) < periods;
+    });
+    return isRarer ? u"A paycheck that comes less often than your budget counts with its share of each pay period. "
+                     u"Keep back "
+                     u"enough of it to last until the next one."_s
+                   : QString();
+}
+
 QString RegularsPrompt(const BudgetSetup &setup)
 {
     return u"For each regular item, Tallymere needs to know their name, and %1 amount. Click Next to proceed or Cancel "

@@ -81,6 +81,8 @@ void AddUpOverhead(BudgetSetup &setup);
 
 // The summaries, as the user reads them.
 QString IncomeSummary(const BudgetSetup &setup);
+/// What to do with an income that is paid less often than the budget counts on it; empty where there is none.
+QString IncomeHint(const BudgetSetup &setup);
 QString RegularsPrompt(const BudgetSetup &setup);
 /// Which amount of a regular item is wanted; the prompt before it says so only where there are creditors.
 QString RegularHint(const BudgetSetup &setup);

@@ -387,9 +387,9 @@ void frmGettingStarted::ShowFrequencyHint()
     if (selected == set)
         ui.lblFrequencyHint->clear();
     else
-        ui.lblFrequencyHint->setText((set < 0 ? u"The settings name no pay frequency yet. "_s
-                                              : u"The settings still say \"%1\". "_s.arg(caption(set))) +
-                                     u"Click \"%1\" if that is how you want to budget."_s.arg(caption(selected)));
+        ui.lblFrequencyHint->setText(
+            u"Click the frequency of your budget, even if it is marked already: "_s +
+            (set < 0 ? u"the settings name none yet."_s : u"until then the settings keep \"%1\"."_s.arg(caption(set))));
 }
 
 void frmGettingStarted::cmdNextBS3_Click()
@@ -398,6 +398,7 @@ void frmGettingStarted::cmdNextBS3_Click()
         ChooseBudgetFrequency(setup, BudgetFrequencyNames()[optPayFrequency.Selected()]);
     });
     ui.lblIncomeSummary->setText(IncomeSummary(m_setup));
+    ui.lblIncomeHint->setText(IncomeHint(m_setup));
     BringToFront(ui.pnlStartBudget4);
 }
 

@@ -263,7 +263,9 @@ private Q_SLOTS:
             {"lblAverageTakeHomePay", "Average Take Home Pay"},
             {"txtAverageTakeHomePay", "0.00"},
             {"lblTakeHomeHint",
-             "Take home pay is net pay: what one paycheck brings home, after taxes and all that is held back."},
+             "Corvelle # 1 is the first of you who brings a paycheck home. Take home pay is net pay: what one paycheck "
+             "brings home, after taxes and all that is held back. Biweekly is every two weeks, semimonthly twice a "
+             "month."},
             {"Frame1", "Pay Frequency"},
             {"optPayFrequencyWE0", "Weekly"},
             {"optPayFrequencyWE1", "Biweekly"},
@@ -280,6 +282,7 @@ private Q_SLOTS:
             {"optPayFrequency2", "Semimonthly"},
             {"optPayFrequency3", "Monthly"},
             {"lblIncomeSummaryTitle", "Income Summary..."},
+            {"lblIncomeHint", ""},
             {"lblExpensesPrompt",
              "Next, we need to take into consideration all your household expenses. Your basic expenses fall under 2 "
              "categories: creditors and regular items. Please take a moment to round up all household expenses. Click "
@@ -319,6 +322,7 @@ private Q_SLOTS:
             {"lblRegularItem", "Regular Item"},
             {"txtRegularItem", ""},
             {"lblExpenseSummaryTitle", "Expense Summary..."},
+            {"lblExpenseHint", "Regular items are counted by the month here: what they cost in a year, divided by 12."},
             {"lblOverheadSummaryTitle", "Overhead Summary..."},
             {"lblSavePrompt",
              "Congratulations! You now have enough information to create your new budget profile. If you wish to use "
@@ -329,12 +333,17 @@ private Q_SLOTS:
             {"lblAgainPrompt",
              "Remember, you can always try out budget profiles or actually create a new budget profile by selecting "
              "Help ->Getting Started from your main menu."},
+            {"lblReplacedHint", "Replaced are the paycheck and how often it comes, creditors, regular items, extra "
+                                "items, projects and the master shopping list. To keep them, copy the folder of the "
+                                "program first."},
             {"cmdSaveBS11", "&Save"},
             {"lblMainMenuPrompt", "When you return to the main menu..."},
             {"lblBudgetPrompt", "Click the Budget icon to view your new budget"},
             {"lblOverheadPrompt", "Click the Overhead icon to take a quick look at your monthly overhead"},
             {"lblChangePrompt", "If you need to change your creditors or regular items information select "
                                 "File/Creditors or File/Regular Items from the menu bar"},
+            {"lblPayPeriodHint", "The bottom line of the main window names the current pay period. If it is not your "
+                                 "last pay day, press F7 there first."},
             {"cmdCancelBS12", "&Exit"},
             {"lblMasterListPrompt1",
              "The first step in shopping with Tallymere is to create a master shopping list. Ideally, this list would "
@@ -756,7 +765,8 @@ private Q_SLOTS:
         Choose(u"mnuStartBudget"_s);
         WalkTo(3);
         QCOMPARE(TextOf(Guide, u"lblFrequencyHint"_s),
-                 u"The settings still say \"Semimonthly\". Click \"Weekly\" if that is how you want to budget."_s);
+                 u"Click the frequency of your budget, even if it is marked already: until then the settings keep "
+                 u"\"Semimonthly\"."_s);
         Next(3);
         QCOMPARE(State.PayFrequency, Semimonthly);
         QVERIFY(TextOf(Guide, u"lblIncomeSummary"_s)
@@ -811,11 +821,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("hint");
         QTest::newRow("weekly, as selected") << 7 << QString();
         QTest::newRow("biweekly") << 14
-                                  << u"The settings still say \"Biweekly\". Click \"Weekly\" if that is how you want "
-                                     u"to budget."_s;
+                                  << u"Click the frequency of your budget, even if it is marked already: until then "
+                                     u"the settings keep \"Biweekly\"."_s;
         QTest::newRow("none") << 21
-                              << u"The settings name no pay frequency yet. Click \"Weekly\" if that is how you want to "
-                                 u"budget."_s;
+                              << u"Click the frequency of your budget, even if it is marked already: the settings name "
+                                 u"none yet."_s;
     }
     void TheHintTellsWhatTheSettingsSay()
     {

@@ -335,6 +335,31 @@ private Q_SLOTS:
                                      u"name: they spoil the file."_s);
     }
 
+    void ARarerIncomeIsHintedAt_data()
+    {
+        QTest::addColumn<QString>("income");
+        QTest::addColumn<QString>("budget");
+        QTest::addColumn<bool>("hinted");
+        QTest::newRow("monthly in a biweekly budget") << u"monthly"_s << u"biweekly"_s << true;
+        QTest::newRow("semimonthly in a biweekly budget") << u"semimonthly"_s << u"biweekly"_s << true;
+        QTest::newRow("as often") << u"biweekly"_s << u"biweekly"_s << false;
+        QTest::newRow("more often") << u"weekly"_s << u"monthly"_s << false;
+    }
+    void ARarerIncomeIsHintedAt()
+    {
+        QFETCH(QString, income);
+        QFETCH(QString, budget);
+        QFETCH(bool, hinted);
+        BudgetSetup setup;
+        TakeNumberOfIncomes(setup, u"2"_s);
+        TakeIncome(setup, u"300"_s, budget);
+        TakeIncome(setup, u"100"_s, income);
+        ChooseBudgetFrequency(setup, budget);
+        QCOMPARE(IncomeHint(setup), hinted ? u"A paycheck that comes less often than your budget counts with its share "
+                                             u"of each pay period. Keep back enough of it to last until the next one."_s
+                                           : QString());
+    }
+
     // The save
     void TheSettingsOfTheProfile_data()
     {
