@@ -79,10 +79,13 @@ EntryOutcome ListPanel::TakePanel()
 void ListPanel::CommitEntry()
 {
     const EntryOutcome outcome = TakePanel();
+    auto *field = outcome.Focus.isEmpty() ? nullptr : findChild<QLineEdit *>(outcome.Focus);
+    SetSubject(field);
     if (outcome.Objection)
         TheDesk.ShowMessage(*outcome.Objection);
-    if (!outcome.Focus.isEmpty())
-        FocusOn(findChild<QLineEdit *>(outcome.Focus));
+    SetSubject(nullptr);
+    if (field)
+        FocusOn(field);
     if (!outcome.Saved)
         return;
     FillList();

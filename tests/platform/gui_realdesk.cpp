@@ -225,16 +225,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("top"); // of the window, in percent of the screen's free height
         QTest::addColumn<int>("lines");
         QTest::addColumn<QString>("place");
-        QTest::newRow("below it") << 30 << 1 << "below";
-        QTest::newRow("above it, at the screen's end") << 92 << 1 << "above";
-        QTest::newRow("clear of it anyway") << 0 << 1 << "clear";
-        QTest::newRow("no room") << 40 << 40 << "over";
+        QTest::addColumn<bool>("focus"); // it has the focus, or else it is what the message is said to be about
+        QTest::newRow("below it") << 30 << 1 << "below" << true;
+        QTest::newRow("above it, at the screen's end") << 92 << 1 << "above" << true;
+        QTest::newRow("clear of it anyway") << 0 << 1 << "clear" << true;
+        QTest::newRow("no room") << 40 << 40 << "over" << true;
+        QTest::newRow("the focus is elsewhere") << 30 << 1 << "below" << false;
     }
     void ABoxLeavesTheFieldInSight()
     {
         QFETCH(int, top);
         QFETCH(int, lines);
         QFETCH(QString, place);
+        QFETCH(bool, focus);
         ToyBox toys;
         ShowWindows();
         ToyWindow &window = toys["B"];
@@ -244,7 +247,9 @@ private Q_SLOTS:
         if (clear)
             window.resize(window.width(), 600); // with the first field far above its middle
         QLineEdit *marked = clear ? window.First : window.Second;
-        window.FocusOn(marked);
+        window.FocusOn(focus ? marked : window.First);
+        if (!focus)
+            window.SetSubject(marked);
         Settle();
         const QRect field(marked->mapToGlobal(QPoint()), marked->size());
         QRect box;

@@ -155,7 +155,14 @@ private Q_SLOTS:
         Loans desk;
         Fill(amount, count, name);
         Control(u"cmdCalculate"_s).setFocus();
+        QString subject = u"cmdCalculate"_s;
+        TheDesk.ShowMessage = [&, show = TheDesk.ShowMessage](const Message &message) {
+            subject = TheWindows.Loaded(Loan)->Subject()->objectName();
+            return show(message);
+        };
         Press(u"cmdCalculate"_s);
+        QCOMPARE(subject, focus); // the box is about the field that the focus then goes to
+        QCOMPARE(TheWindows.Loaded(Loan)->Subject()->objectName(), focus);
         if (!text.isEmpty())
             QCOMPARE(desk.TakeMessage(), (Message{text, u"Loans"_s, Icon::Warning, Buttons::OkHelp, help}));
         QCOMPARE(LoanWindow::Accepted, text.isEmpty());

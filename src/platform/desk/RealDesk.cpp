@@ -67,13 +67,13 @@ protected:
             QMessageBox::closeEvent(event);
     }
 
-    /// Before it goes to the screen: the toolkit centres it over the window, and it moves below or above the field with
-    /// the focus, which it may be about.
+    /// Before it goes to the screen: the toolkit centres it over the window, and it moves below or above the field that
+    /// it is about.
     void showEvent(QShowEvent *event) override
     {
         QMessageBox::showEvent(event);
         const auto *form = qobject_cast<const Form *>(parentWidget());
-        const auto *field = form ? qobject_cast<const QLineEdit *>(form->FocusControl()) : nullptr;
+        const auto *field = form ? qobject_cast<const QLineEdit *>(form->Subject()) : nullptr;
         if (!field)
             return;
         constexpr int gap = 8;

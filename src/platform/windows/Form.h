@@ -60,6 +60,10 @@ public:
     void FocusOn(QWidget *control);
     /// The control that has the focus or will have it when the window is activated.
     QWidget *FocusControl() const;
+    /// What a box that stands over this window is about: the field whose entry is refused, else the control with the
+    /// focus.
+    QWidget *Subject() const { return m_subject ? m_subject.data() : FocusControl(); }
+    void SetSubject(QWidget *field) { m_subject = field; }
 
 Q_SIGNALS:
     /// The user comes to this window, for the first time or again; its Activate follows.
@@ -96,6 +100,7 @@ private:
     };
 
     QPointer<QWidget> m_focus;
+    QPointer<QWidget> m_subject;
     QList<CloseMode> m_asked; // the closings whose QueryUnload runs
     bool m_unloading = false; // Unload runs
     QHash<const QObject *, std::function<void()>> m_enter;

@@ -56,7 +56,9 @@ void WindowBase::Refuse(const QString &text, QWidget *field, int helpContext)
     // A window that is refused while another one is active comes to the front, or the user would not see the field.
     if (TheWindows.Active() != this && isVisible())
         TheWindows.Show(objectName());
+    SetSubject(field);
     ShowText(text, helpContext); // over the window that it is about
+    SetSubject(nullptr);
     FocusOn(field);
     if (auto *refused = qobject_cast<QLineEdit *>(field)) // also where it has the focus already
         SelectWhole(refused);
