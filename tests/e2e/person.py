@@ -214,6 +214,11 @@ class Person:
         subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
 
     @staticmethod
+    def hold(key, seconds):
+        """The key repeats itself, in whatever window has come to the front meanwhile."""
+        subprocess.run(["xdotool", "keydown", key, "sleep", str(seconds), "keyup", key], check=True)
+
+    @staticmethod
     def type(text):
         subprocess.run(["xdotool", "type", "--delay", "10", "--", text], check=True)
 
