@@ -24,6 +24,8 @@ public:
     /// Carries out a question of the program: "topic frmX" opens the page of a window, "context 22" that of a help
     /// context, "contents" the first page beside the search. What it has no page for is answered by the first page.
     void Answer(const QString &question);
+    /// The page that is shown, without the place on it.
+    const QUrl &Page() const { return m_page; }
     /// Brings the window to the front, also from the task bar.
     void ComeForward();
 
@@ -54,6 +56,6 @@ private:
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
     QElapsedTimer m_sinceAnswer;
-    QUrl m_page;         // the one that is shown, without the place on it
+    QUrl m_page;
     QList<QUrl> m_order; // the pages in the order of the contents
 };

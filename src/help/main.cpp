@@ -1,8 +1,8 @@
 // The help as a program of its own, so that it can be read over a window or a box that blocks the other one:
 //   TallymereHelp [--listen] [HELPFILE]
 // With --listen the questions come line by line from the standard input, whose end is the end of the help. Each is
-// answered by the line "shown" once its page stands on the screen; a help file that cannot be read by "error" and why,
-// with tabs between the lines of that. Without --listen it shows the contents.
+// answered by "shown" and the page's file name once that stands on the screen; a help file that cannot be read by
+// "error" and why, with tabs between the lines of that. Without --listen it shows the contents.
 #include "help/HelpBook.h"
 #include "help/HelpWindow.h"
 #include "platform/controls/ClearEdges.h"
@@ -50,7 +50,7 @@ private:
             m_window.Answer(QString::fromUtf8(m_unread.left(end)));
             m_window.ComeForward();
             m_unread.remove(0, end + 1);
-            Say("shown");
+            Say("shown " + m_window.Page().fileName().toUtf8());
         }
     }
 

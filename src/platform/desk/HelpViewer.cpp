@@ -76,7 +76,7 @@ void HelpViewer::Hear()
 {
     while (m_viewer.canReadLine()) {
         const QString line = QString::fromUtf8(m_viewer.readLine()).trimmed();
-        if (line == u"shown"_s) {
+        if (line.section(u' ', 0, 0) == u"shown"_s) {
             m_unanswered.clear();
             BringForward();
         } else if (line.startsWith(u"error "_s)) {
