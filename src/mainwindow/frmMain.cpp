@@ -381,6 +381,7 @@ void frmMain::mnuTallymereTutor_Click()
         tmrAutoTutor.start();
     } else {
         tmrAutoTutor.stop();
+        RememberedTutorTimer.clear(); // or the end of a window would start it again
         TheWindows.Unload(WindowName::frmTallymereTutor);
     }
     SaveOption(ShowTutor, turnOn);

@@ -339,6 +339,25 @@ private Q_SLOTS:
         QVERIFY(TheTutorTimer().isActive());
     }
 
+    void TurnedOffItStaysAwayWhenAWindowEnds()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        Choose(u"mnuFileCreditors"_s); // which holds the timer
+        Choose(u"mnuFileRegulars"_s);
+        Show(Main);
+        Choose(u"mnuTallymereTutor"_s);
+        desk.TakeMessage();
+        QCOMPARE(desk.TakeOption(ShowTutor), u"0"_s);
+        Show(u"frmRegulars"_s);
+        Show(u"frmCreditors"_s);
+        CloseByFrame(u"frmCreditors"_s);
+        QCOMPARE(ActiveWindow(), u"frmRegulars"_s); // and not the main window, which would read the option
+        QVERIFY(!TheTutorTimer().isActive());
+        LetItsTimePass();
+        QVERIFY(!TheWindows.Loaded(Window));
+    }
+
     // Freezing
 
     void AClickOnTheTeacherFreezesThePageAndTheNextOneReleasesIt()
