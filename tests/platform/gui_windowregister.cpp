@@ -1328,6 +1328,7 @@ private Q_SLOTS:
         QKeyEvent again(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, QString(), true);
         QCoreApplication::sendEvent(toys["A"].First, &again);
         QCOMPARE(asked.size(), 1);
+        QVERIFY(again.isAccepted()); // and goes no further
     }
 
     void AnotherKeyAsksForNoHelp()
