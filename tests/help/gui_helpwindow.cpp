@@ -568,6 +568,9 @@ private Q_SLOTS:
         QCOMPARE(reader.Page(), u"frmCreditors"_s);
         QTest::keyClick(&reader.Window, Qt::Key_F1);
         QCOMPARE(reader.Page(), u"index"_s);
+        reader.Window.Answer(u"topic frmTip"_s); // each question anew
+        QTest::keyClick(&reader.Window, Qt::Key_F1);
+        QCOMPARE(reader.Page(), u"frmTip"_s);
     }
 
     void ForwardHasKeys()
