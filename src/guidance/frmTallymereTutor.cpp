@@ -157,8 +157,11 @@ frmTallymereTutor &TheTutor()
 
 void ShowTutorPage(int page)
 {
-    TheTutor().TurnTo(page);
-    TheWindows.Show(WindowName::frmTallymereTutor);
+    frmTallymereTutor &tutor = TheTutor();
+    tutor.TurnTo(page);
+    // Nor does it come over another program that the user is in, such as the help.
+    if (!tutor.isVisible() || QGuiApplication::applicationState() != Qt::ApplicationInactive)
+        TheWindows.Show(WindowName::frmTallymereTutor);
 }
 
 void ReleaseTutor()

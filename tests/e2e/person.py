@@ -150,14 +150,18 @@ class Person:
             return max(abs(x + width / 2 - left - wide / 2), abs(y + height / 2 - top - high / 2))
         self.until(lambda: offset() <= 24, lambda: f"{window} is {offset()} pixels off the middle of {caller}")
 
+    def stack(self):
+        """The names of the windows as they stand one over the other, the lowest first."""
+        known = {window["id"]: name for name, window in self.look()["windows"].items()}
+        if self.help():
+            known[self.help()["id"]] = "helpWindow"
+        listed = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], check=True, capture_output=True, text=True)
+        return [known.get(int(each, 16)) for each in re.findall("0x[0-9a-f]+", listed.stdout)]
+
     def see_stacked(self, *windows):
         """Waits until these windows stand on the screen one over the other, the lowest first."""
-        def stack():
-            known = {window["id"]: name for name, window in self.look()["windows"].items()}
-            listed = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], check=True, capture_output=True, text=True)
-            return [known.get(int(each, 16)) for each in re.findall("0x[0-9a-f]+", listed.stdout)]
-        self.until(lambda: [name for name in stack() if name in windows] == list(windows),
-                   lambda: f"the windows stand one over the other as {stack()}, not as {windows}")
+        self.until(lambda: [name for name in self.stack() if name in windows] == list(windows),
+                   lambda: f"the windows stand one over the other as {self.stack()}, not as {windows}")
 
     def see_in_the_corner(self, window, frame=12):
         """Waits until the window stands in the lower right corner of the screen with a frame around it, all of it seen."""
