@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
@@ -81,7 +82,7 @@ HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
     aboutHelp->setAutoRepeat(false);
     connect(aboutHelp, &QShortcut::activated, this, [this] {
         // The key that has asked for a page may still be held down as the window comes, where it seems to be pressed.
-        if (m_sinceAnswer.hasExpired(LongestHold))
+        if (m_arrival.hasExpired(LongestHold))
             Open(m_book.FirstPage());
     });
     m_pages->setFocus();
@@ -89,6 +90,14 @@ HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
     // The page comes first; the words of all pages are listed on a thread of the engine's own.
     connect(book.Engine().searchEngine(), &QHelpSearchEngine::indexingFinished, this, &HelpWindow::SearchIsReady);
     QTimer::singleShot(0, this, [this] { m_book.Engine().searchEngine()->reindexDocumentation(); });
+}
+
+/// A busy computer may take long from the question to the window, with the key held down all the while.
+void HelpWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_arrival.start();
 }
 
 QAction *HelpWindow::AddAction(const QString &name, const QString &caption, const QString &hint,
@@ -245,7 +254,7 @@ void HelpWindow::ListPages()
 
 void HelpWindow::Answer(const QString &question)
 {
-    m_sinceAnswer.start();
+    m_arrival.start();
     const QString kind = question.section(u' ', 0, 0);
     const QString name = question.section(u' ', 1).trimmed();
     m_sides->setCurrentIndex(kind == u"contents"_s ? Search : Contents);

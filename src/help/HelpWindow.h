@@ -16,7 +16,7 @@ class HelpWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// Milliseconds after a question in which F1 does not count.
+    /// Milliseconds after a question, and after the window has become the active one, in which F1 does not count.
     static constexpr int LongestHold = 1000;
 
     explicit HelpWindow(HelpBook &book);
@@ -32,6 +32,9 @@ public:
 Q_SIGNALS:
     /// The words of all pages have been listed, and the search can begin.
     void SearchIsReady();
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
     enum Side { Contents, Index, Search };
@@ -55,7 +58,7 @@ private:
     QLineEdit *m_searchField = nullptr;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
-    QElapsedTimer m_sinceAnswer;
+    QElapsedTimer m_arrival;
     QUrl m_page;
     QList<QUrl> m_order; // the pages in the order of the contents
 };

@@ -571,6 +571,15 @@ private Q_SLOTS:
         reader.Window.Answer(u"topic frmTip"_s); // each question anew
         QTest::keyClick(&reader.Window, Qt::Key_F1);
         QCOMPARE(reader.Page(), u"frmTip"_s);
+        QTest::qWait(HelpWindow::LongestHold + 100);
+        QWidget other; // the computer was busy: the window comes to the front only now
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        reader.Window.ComeForward();
+        QVERIFY(QTest::qWaitForWindowActive(&reader.Window));
+        QTest::keyClick(&reader.Window, Qt::Key_F1);
+        QCOMPARE(reader.Page(), u"frmTip"_s);
     }
 
     void ForwardHasKeys()
