@@ -79,11 +79,17 @@ void CloseCalculatorOnExit()
     IgnoreErrors([] { TheDesk.CloseCalculator(); });
 }
 
+void EndProgram()
+{
+    CloseCalculatorOnExit();
+    IgnoreErrors([] { ThePrinter.EndDoc(); }); // a switch that is still on keeps its pages till now
+    TheDesk.EndProgram();
+}
+
 void LeaveProgram()
 {
     SaveEnvironmentSettings();
-    CloseCalculatorOnExit();
-    TheDesk.EndProgram();
+    EndProgram();
 }
 
 void ApplyPrintSettings()

@@ -15,7 +15,10 @@ void LoadTutorInstructions();
 /// Closes the calculator, ignoring all errors. Called on every way out.
 void CloseCalculatorOnExit();
 
-/// What all ways out do: save the settings, close the calculator, end the process at once.
+/// Closes the calculator, prints what a print switch that is still on has kept, and ends the process at once.
+void EndProgram();
+
+/// What all ways out do: save the settings and end the program.
 void LeaveProgram();
 
 /// The print settings of the shared state as a font; every report applies it before it prints.

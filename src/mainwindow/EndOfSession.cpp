@@ -3,6 +3,7 @@
 #include "foundation/BudgetFiles.h"
 #include "foundation/StartAndEnd.h"
 #include "foundation/State.h"
+#include "foundation/WindowNames.h"
 #include "platform/desk/Desk.h"
 #include "platform/windows/WindowRegister.h"
 
@@ -10,21 +11,35 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-void SaveWithoutQuestion()
+namespace {
+
+/// Runs steps whose boxes go to the log, since nobody is there to answer them.
+void Quietly(const std::function<void()> &steps)
 {
-    const Form *main = TheWindows.Loaded(u"frmMain"_s);
-    if (!main || !main->isVisible() || State.InitializingVariables)
-        return; // a start that was given up leaves settings that are half read
     const QScopedValueRollback quiet(TheDesk.ShowMessage, {[](const Message &message) {
                                          qWarning("%s: %s", qPrintable(message.Title), qPrintable(message.Text));
                                          return Answer::No;
                                      }});
-    SaveEnvironmentSettings();
+    steps();
+}
+
+/// The main window may be hidden, as while a guide is open. Before it is loaded, or after a start that was given up,
+/// the settings are not read or only half of them.
+bool HasSettings()
+{
+    return TheWindows.Loaded(WindowName::frmMain) && !State.InitializingVariables;
+}
+
+} // namespace
+
+void SaveWithoutQuestion()
+{
+    if (HasSettings())
+        Quietly(SaveEnvironmentSettings);
 }
 
 void LeaveWithoutQuestion()
 {
     SaveWithoutQuestion();
-    CloseCalculatorOnExit();
-    TheDesk.EndProgram();
+    Quietly(EndProgram); // with the box that tells where pages were printed to
 }

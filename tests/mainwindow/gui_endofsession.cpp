@@ -3,6 +3,7 @@
 #include "GuiDesk.h"
 #include "TestProgram.h"
 
+#include "foundation/StartAndEnd.h"
 #include "mainwindow/EndOfSession.h"
 #include "platform/windows/Application.h"
 
@@ -116,6 +117,8 @@ private Q_SLOTS:
         QTest::newRow("under a file dialog") << SIGTERM << ToTheMainWindow + u".mnuShopperOpenStoreList,QFileDialog"_s;
         QTest::newRow("beside another window")
             << SIGTERM << ToTheMainWindow + u".mnuOptionsEnvironmentSettings,frmEnvironmentSettings"_s;
+        QTest::newRow("while a guide hides the main window")
+            << SIGTERM << ToTheMainWindow + u".mnuStartBudget,frmGettingStarted"_s;
     }
     void ASignalLeavesAsTheMenuDoes()
     {
@@ -197,6 +200,42 @@ private Q_SLOTS:
         QCOMPARE(desk.Messages.size(), 0);
         ShowMessage(u"later"_s, {}, Icon::None);
         QCOMPARE(desk.TakeMessage().Text, u"later"_s); // only then was it quiet
+    }
+
+    // A print switch that is on keeps its pages until it is turned off, and the desk tells of them at its end.
+    void PagesThatWereKeptArePrinted_data()
+    {
+        QTest::addColumn<bool>("asked");
+        QTest::addColumn<bool>("fails");
+        QTest::newRow("by the user") << true << false;
+        QTest::newRow("by a signal") << false << false;
+        QTest::newRow("by the user, without a printer that works") << true << true;
+        QTest::newRow("by a signal, without a printer that works") << false << true;
+    }
+    void PagesThatWereKeptArePrinted()
+    {
+        QFETCH(bool, asked);
+        QFETCH(bool, fails);
+        GuiDesk desk;
+        desk.StartProgram();
+        ThePrinter.Print(u"Rent"_s).NewLine();
+        if (fails)
+            TheDesk.PrintDocument = [](const PrintJob &) { RaiseError(RuntimeError::DeviceError); };
+        TheDesk.EndProgram = [end = TheDesk.EndProgram] {
+            ShowMessage(u"The pages are in a file"_s, {}, Icon::Information);
+            end();
+        };
+        if (asked) {
+            LeaveProgram();
+            QCOMPARE(desk.TakeMessage().Text, u"The pages are in a file"_s);
+        } else {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"The pages are in a file"_s));
+            LeaveWithoutQuestion();
+        }
+        QVERIFY(desk.TakeEnd());
+        QCOMPARE(desk.TakeCalculatorCalls(), QStringList{u"close"_s});
+        QCOMPARE(desk.TakeFiles(), QStringList{u"environm.ini"_s});
+        QCOMPARE(desk.TakePrinted().Lines.size(), fails ? 0 : 1);
     }
 
     void BothRequestsOfTheDesktopAreHeard()
