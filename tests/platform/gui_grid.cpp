@@ -6,6 +6,7 @@
 #include "platform/controls/Theme.h"
 
 #include <QHeaderView>
+#include <QPaintEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -70,6 +71,22 @@ void Present(Grid &grid)
     QVERIFY(QTest::qWaitForWindowActive(&grid));
     QCoreApplication::processEvents();
 }
+
+/// What of a widget is drawn from now on.
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget &widget) { widget.installEventFilter(this); }
+    QRegion Region;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            Region += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
+};
 
 } // namespace
 
@@ -366,6 +383,25 @@ private Q_SLOTS:
         grid.resize(grid.width() - 50, grid.height());
         QCoreApplication::processEvents();
         QVERIFY(grid.horizontalScrollBar()->maximum() > 0);
+    }
+
+    // The rows that the mark leaves and comes to are drawn anew from the first cell to the last one.
+    void TheMarkMovesAsAWhole()
+    {
+        Grid grid;
+        Fill(grid, 5);
+        Present(grid);
+        grid.setFocus();
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QCoreApplication::processEvents();
+        PaintedRegion painted(*grid.viewport());
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QTRY_VERIFY(!painted.Region.isEmpty());
+        for (const int row : {1, 2})
+            for (int column = 0; column < grid.Columns(); ++column) {
+                const QRect cell = grid.visualRect(grid.model()->index(row, column));
+                QVERIFY2(painted.Region.contains(cell.center()), qPrintable(QString::number(row)));
+            }
     }
 
     void AHeadingIsSeenWhole()

@@ -810,10 +810,32 @@ private Q_SLOTS:
         QTest::keyClick(&TheGrid(), Qt::Key_Down);
         QTest::keyClick(&TheGrid(), Qt::Key_Return);
         QCOMPARE(int(Shopping.CurrentItemIndex), 3);
-        Click(Window, u"cmdDelete"_s); // the last one: its place is taken by the one before
-        QTest::keyClick(&TheGrid(), Qt::Key_Up);
+        desk.TakeFiles();
+    }
+
+    void TheKeysGoOnAfterADelete_data()
+    {
+        QTest::addColumn<int>("line");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("next");
+        QTest::newRow("down from the one that has moved up") << 3 << int(Qt::Key_Down) << 4;
+        QTest::newRow("up from it") << 3 << int(Qt::Key_Up) << 2;
+        QTest::newRow("up from the last one that is left") << 6 << int(Qt::Key_Up) << 4;
+    }
+    void TheKeysGoOnAfterADelete()
+    {
+        QFETCH(int, line);
+        QFETCH(int, key);
+        QFETCH(int, next);
+        ShoppingDesk desk({Line(u"a"_s, 10000), Line(u"b"_s, 10000), Line(u"c"_s, 10000), Line(u"d"_s, 10000),
+                           Line(u"e"_s, 10000), Line(u"f"_s, 10000)});
+        Show(Window);
+        ClickGridRow(line);
+        Click(Window, u"cmdDelete"_s);
+        Settle();
+        QTest::keyClick(&TheGrid(), Qt::Key(key));
         QTest::keyClick(&TheGrid(), Qt::Key_Return);
-        QCOMPARE(int(Shopping.CurrentItemIndex), 1);
+        QCOMPARE(int(Shopping.CurrentItemIndex), next);
         desk.TakeFiles();
     }
 

@@ -353,7 +353,9 @@ Grid::Grid(QWidget *parent) : RowView(parent), m_model(new GridModel(this))
         Q_EMIT Click();
     });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        const int marked = m_markedRow;
         SetCurrentRow(m_currentRow);
+        MarkRow(marked);
         ShareWidth();
     });
 }
@@ -491,6 +493,7 @@ int Grid::ResultRow() const
 void Grid::SetCurrentRow(int row)
 {
     m_currentRow = row;
+    m_markedRow = 0;
     if (row > 0 && row <= m_model->rowCount()) {
         selectionModel()->setCurrentIndex(m_model->index(row - 1, 0),
                                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -502,6 +505,7 @@ void Grid::SetCurrentRow(int row)
 
 void Grid::MarkRow(int row)
 {
+    m_markedRow = row; // rows that have just been put in are shown a little later
     if (row > 0 && row <= m_model->rowCount())
         MoveMark(m_model->index(row - 1, 0));
 }

@@ -89,7 +89,11 @@ Q_SIGNALS:
 
 protected:
     void ClickRow(int row) override;
-    void MarkMoved(int row) override { m_currentRow = row + 1; }
+    void MarkMoved(int row) override
+    {
+        m_currentRow = row + 1;
+        m_markedRow = 0;
+    }
     void Arrived() override { SetCurrentRow(0); }
     bool FillsOnArrival() const override { return m_fillsOnArrival; }
     /// Home and End go to the first and the last row with a text, and not along a row.
@@ -110,6 +114,7 @@ private:
     GridModel *m_model;
     std::vector<int> m_twips;
     int m_currentRow = 0;
+    int m_markedRow = 0; // by MarkRow, until the user moves on
     int m_rowsInView = 0;
     int m_rowsAtFirst = 21;
     bool m_fillsOnArrival = false;

@@ -53,6 +53,13 @@ protected:
         this->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
     }
 
+    /// The mark is seen on the whole row, and the toolkit would draw one of its cells anew.
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override
+    {
+        View::currentChanged(current, previous);
+        this->viewport()->update();
+    }
+
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &, const QEvent *) const override
     {
         return QItemSelectionModel::NoUpdate;
