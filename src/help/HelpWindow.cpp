@@ -78,11 +78,11 @@ HelpWindow::HelpWindow(HelpBook &book) : m_book(book)
         PageChanged();
     });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    auto *aboutHelp = new QShortcut(Qt::Key_F1, this);
-    aboutHelp->setAutoRepeat(false);
-    connect(aboutHelp, &QShortcut::activated, this, [this] {
-        // The key that has asked for a page may still be held down as the window comes, where it seems to be pressed.
-        if (m_arrival.hasExpired(LongestHold))
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] {
+        // The key that has asked for a page may still be held down, and not each of its repetitions is told as one.
+        const bool isHeld = !m_lastHelpKey.hasExpired(LongestHold);
+        m_lastHelpKey.start();
+        if (!isHeld)
             Open(m_book.FirstPage());
     });
     m_pages->setFocus();
@@ -97,7 +97,7 @@ void HelpWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        m_arrival.start();
+        m_lastHelpKey.start();
 }
 
 QAction *HelpWindow::AddAction(const QString &name, const QString &caption, const QString &hint,
@@ -254,7 +254,7 @@ void HelpWindow::ListPages()
 
 void HelpWindow::Answer(const QString &question)
 {
-    m_arrival.start();
+    m_lastHelpKey.start();
     const QString kind = question.section(u' ', 0, 0);
     const QString name = question.section(u' ', 1).trimmed();
     m_sides->setCurrentIndex(kind == u"contents"_s ? Search : Contents);

@@ -16,7 +16,8 @@ class HelpWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// Milliseconds after a question, and after the window has become the active one, in which F1 does not count.
+    /// Milliseconds in which F1 does not count: after a question, after the window has become the active one, and after
+    /// another F1, so that the key has to be released first.
     static constexpr int LongestHold = 1000;
 
     explicit HelpWindow(HelpBook &book);
@@ -58,7 +59,7 @@ private:
     QLineEdit *m_searchField = nullptr;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
-    QElapsedTimer m_arrival;
+    QElapsedTimer m_lastHelpKey;
     QUrl m_page;
     QList<QUrl> m_order; // the pages in the order of the contents
 };
