@@ -263,9 +263,8 @@ private Q_SLOTS:
             {"lblAverageTakeHomePay", "Average Take Home Pay"},
             {"txtAverageTakeHomePay", "0.00"},
             {"lblTakeHomeHint",
-             "Corvelle # 1 is the first of you who brings a paycheck home. Take home pay is net pay: what one paycheck "
-             "brings home, after taxes and all that is held back. Biweekly is every two weeks, semimonthly twice a "
-             "month."},
+             "A Corvelle is one of you who brings a paycheck home. Take home pay is net pay: what one paycheck brings "
+             "home, after taxes and all that is held back. Biweekly is every two weeks, semimonthly twice a month."},
             {"Frame1", "Pay Frequency"},
             {"optPayFrequencyWE0", "Weekly"},
             {"optPayFrequencyWE1", "Biweekly"},
@@ -342,8 +341,11 @@ private Q_SLOTS:
             {"lblOverheadPrompt", "Click the Overhead icon to take a quick look at your monthly overhead"},
             {"lblChangePrompt", "If you need to change your creditors or regular items information select "
                                 "File/Creditors or File/Regular Items from the menu bar"},
-            {"lblPayPeriodHint", "The bottom line of the main window names the current pay period. If it is not your "
-                                 "last pay day, press F7 there first."},
+            {"lblPayPeriodHint",
+             "The bottom line of the main window names the current pay period. If it is not your last pay day, press "
+             "F7 "
+             "there first. A refund, or a bill of one pay period only, goes into File/Extra Items; the paycheck is "
+             "changed in Options/Environment Setting."},
             {"cmdCancelBS12", "&Exit"},
             {"lblMasterListPrompt1",
              "The first step in shopping with Tallymere is to create a master shopping list. Ideally, this list would "
