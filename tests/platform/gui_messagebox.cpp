@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// Looks at the box that the message opens, then answers it.
@@ -146,6 +148,79 @@ private Q_SLOTS:
             QVERIFY(!box->isVisible());
         });
         QCOMPARE(TheDesk.ShowMessage({"text", "title", Icon::Question, buttons, 22}), answer);
+    }
+
+    // The key that has brought the box is still held, and the user has not read it yet.
+    void AHeldKeyAnswersNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("marked"); // as repeated by the window system
+        for (const auto &[name, key] : {std::pair{"Return", Qt::Key_Return},
+                                        {"Enter", Qt::Key_Enter},
+                                        {"Space", Qt::Key_Space},
+                                        {"Esc", Qt::Key_Escape},
+                                        {"the letter of No", Qt::Key_N}}) {
+            QTest::newRow(name) << int(key) << true;
+            QTest::newRow(qPrintable(name + u", not marked"_s)) << int(key) << false;
+        }
+    }
+    void AHeldKeyAnswersNothing()
+    {
+        QFETCH(int, key);
+        QFETCH(bool, marked);
+        const auto send = [&](QEvent::Type type, QWidget *to, bool repeated, quint64 at) {
+            QKeyEvent event(type, key, Qt::NoModifier, QString(), repeated);
+            event.setTimestamp(at);
+            QCoreApplication::sendEvent(to, &event);
+        };
+        constexpr quint64 start = 5000;
+        constexpr int ofAClick = 150; // milliseconds; by a letter it is shown as a press before it counts
+        bool stayed = false, answered = false;
+        QTimer::singleShot(0, qApp, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            Settle();
+            QWidget *button = QApplication::focusWidget();
+            for (quint64 at = start; at < start + 100; at += 50) {
+                send(QEvent::KeyRelease, button, marked, at);
+                send(QEvent::KeyPress, button, marked, at);
+            }
+            send(QEvent::KeyRelease, button, false, start + 120);
+            QTest::qWait(ofAClick);
+            stayed = box->isVisible();
+            // Pressed again, it is an answer.
+            send(QEvent::KeyPress, button, false, start + 300);
+            send(QEvent::KeyRelease, button, false, start + 400);
+            QTest::qWait(ofAClick);
+            answered = !box->isVisible();
+            box->close();
+        });
+        TheDesk.ShowMessage({"Delete it?", "Creditors", Icon::Question, Buttons::YesNo});
+        QVERIFY(stayed);
+        QVERIFY(answered);
+    }
+
+    void AHeldAccessKeyAnswersNothing()
+    {
+        bool stayed = false, answered = false;
+        QTimer::singleShot(0, qApp, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            Settle();
+            constexpr int ofAClick = 150; // milliseconds, as above
+            const auto press = [&](bool repeated) {
+                qt_handleKeyEvent(box->windowHandle(), QEvent::KeyPress, Qt::Key_N, Qt::AltModifier, u"n"_s, repeated);
+                QTest::qWait(ofAClick);
+            };
+            press(true);
+            stayed = box->isVisible();
+            press(false);
+            answered = !box->isVisible();
+            box->close();
+        });
+        QCOMPARE(TheDesk.ShowMessage({"Delete it?", "Creditors", Icon::Question, Buttons::YesNo}), Answer::No);
+        QVERIFY(stayed);
+        QVERIFY(answered);
     }
 
     // Where either answer costs something, neither may be given by a key that only wants to get away.

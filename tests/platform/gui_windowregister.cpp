@@ -1215,6 +1215,37 @@ private Q_SLOTS:
         QVERIFY(toys["A"].isVisible());
     }
 
+    // Where the window system marks none of its presses as repeated
+    void AKeyHeldOnAButtonIsOneClick_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Space") << int(Qt::Key_Space);
+    }
+    void AKeyHeldOnAButtonIsOneClick()
+    {
+        QFETCH(int, key);
+        ToyBox toys;
+        Show("A");
+        toys["A"].FocusOn(toys["A"].Button);
+        TakeLog();
+        const auto send = [&](QEvent::Type type, quint64 at) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            event.setTimestamp(at);
+            QCoreApplication::sendEvent(toys["A"].Button, &event);
+        };
+        send(QEvent::KeyPress, 1000);
+        for (const quint64 at : {1500, 1530, 1560}) {
+            send(QEvent::KeyRelease, at);
+            send(QEvent::KeyPress, at);
+        }
+        send(QEvent::KeyRelease, 1580);
+        QCOMPARE(TakeLog(), QStringList{"A Click"});
+        send(QEvent::KeyPress, 1700);
+        send(QEvent::KeyRelease, 1780);
+        QCOMPARE(TakeLog(), QStringList{"A Click"});
+    }
+
     void EscDoesNotCloseAModalWindow()
     {
         ToyBox toys;

@@ -14,7 +14,38 @@
 #include <QShortcutEvent>
 
 namespace {
+
 bool KeyIsHeld = false; // the key that is being looked up as a shortcut repeats itself
+
+struct {
+    int Key = 0;
+    quint64 At = 0; // 0: none yet
+} LastRelease;
+
+/// A window system does not mark every press of a held key as repeated; such a press comes at the very moment of a
+/// release of that key.
+bool IsHeld(const QKeyEvent &event)
+{
+    return event.isAutoRepeat() ||
+           (event.timestamp() != 0 && event.timestamp() == LastRelease.At && event.key() == LastRelease.Key);
+}
+
+/// Whether a key pressed there may answer a box or dialog of the desk.
+bool MayAnswer(const QWidget &widget, int key)
+{
+    if (!qobject_cast<const QDialog *>(widget.window()))
+        return false;
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape: return true;
+    case Qt::Key_Space: return qobject_cast<const QAbstractButton *>(&widget);
+    default: break;
+    }
+    // In a message box the letter of an access key is enough.
+    return qobject_cast<const QMessageBox *>(widget.window()) && key >= Qt::Key_A && key <= Qt::Key_Z;
+}
+
 } // namespace
 
 void WindowRegister::Start()
@@ -49,7 +80,7 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::ShortcutOverride: // it comes before each shortcut
-        KeyIsHeld = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+        KeyIsHeld = IsHeld(*static_cast<QKeyEvent *>(event));
         break;
     case QEvent::Shortcut:
         if (AccessKey(watched, *static_cast<QShortcutEvent *>(event)))
@@ -59,6 +90,11 @@ bool WindowRegister::eventFilter(QObject *watched, QEvent *event)
         if (KeyPressed(watched, *static_cast<QKeyEvent *>(event)))
             return true;
         break;
+    case QEvent::KeyRelease: {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        LastRelease = {key->key(), key->timestamp()};
+        break;
+    }
     default: break;
     }
     return QObject::eventFilter(watched, event);
@@ -69,6 +105,8 @@ bool WindowRegister::AccessKey(QObject *watched, const QShortcutEvent &event)
 {
     const QPointer<QAbstractButton> button = qobject_cast<QAbstractButton *>(watched);
     Form *form = FormOf(button);
+    if (!form && button && KeyIsHeld) // the key is still held that brought the box
+        return qobject_cast<QMessageBox *>(button->window());
     if (!form || !button->isEnabled() || event.isAmbiguous())
         return false;
     if (KeyIsHeld)
@@ -102,16 +140,22 @@ bool WindowRegister::HelpKeyPressed(QWidget *widget, bool isHeld)
 bool WindowRegister::KeyPressed(QObject *watched, const QKeyEvent &event)
 {
     auto *widget = qobject_cast<QWidget *>(watched);
+    const bool isHeld = IsHeld(event);
     if (event.key() == Qt::Key_F1)
-        return widget && HelpKeyPressed(widget, event.isAutoRepeat());
+        return widget && HelpKeyPressed(widget, isHeld);
+    // A key that is still held from before a box or dialog came was not pressed for it.
+    if (isHeld && widget && MayAnswer(*widget, event.key()))
+        return true;
     Form *form = FormOf(widget);
     if (!form)
         return false;
+    if (isHeld && event.key() == Qt::Key_Space && qobject_cast<QAbstractButton *>(watched))
+        return true;
     if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
         return false;
     auto *button = qobject_cast<QPushButton *>(watched);
     const bool inField = qobject_cast<QLineEdit *>(watched);
-    if (event.isAutoRepeat()) // a key held down counts once
+    if (isHeld) // a key held down counts once
         return button || inField;
     if (form->HandleEnter(watched) || inField) // in a field it never presses a button
         return true;
