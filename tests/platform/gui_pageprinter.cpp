@@ -429,6 +429,47 @@ private Q_SLOTS:
         QVERIFY(all.Right <= all.PageWidth - Margin + 1);
     }
 
+    // Margins that meet each other
+    void MarginsThatLeaveNoRoomGiveWayToTheUsualOnes_data()
+    {
+        QTest::addColumn<QMarginsF>("margins");
+        QTest::addColumn<bool>("hold");
+        QTest::newRow("left and right meet") << QMarginsF(107, 15, 108.8, 15) << false;
+        QTest::newRow("top and bottom meet") << QMarginsF(15, 139, 15, 139) << false;
+        QTest::newRow("too narrow") << QMarginsF(100, 15, 96, 15) << false;
+        QTest::newRow("just wide enough") << QMarginsF(100, 15, 95, 15) << true;
+    }
+    void MarginsThatLeaveNoRoomGiveWayToTheUsualOnes()
+    {
+        QFETCH(QMarginsF, margins);
+        QFETCH(bool, hold);
+        const QString path = m_folder.filePath("margins.pdf");
+        int pages = 0;
+        {
+            QPdfWriter pdf(path);
+            pdf.setPageSize(QPageSize(QPageSize::Letter));
+            QVERIFY(pdf.setPageMargins(margins, QPageLayout::Millimeter));
+            pages = DrawDocument({Courier(8), Numbered(20)}, pdf);
+        }
+        QCOMPARE(pages, 1);
+        QCOMPARE(PagesOf(path).value(0).count(u"Line"_s), 20);
+        QVERIFY(qAbs(PlaceOf(u"Line"_s, path).Left - (hold ? 100 / 25.4 * 72 : Margin)) < 1);
+    }
+
+    // Paper of a label printer: less than a line high, and still no sheet stays empty.
+    void ASheetTakesOneLineAtTheLeast()
+    {
+        const QString path = m_folder.filePath("label.pdf");
+        int pages = 0;
+        {
+            QPdfWriter pdf(path);
+            pdf.setPageSize(QPageSize(QSizeF(100, 2), QPageSize::Millimeter));
+            pdf.setPageMargins({}, QPageLayout::Millimeter);
+            pages = DrawDocument({Courier(8), Numbered(3)}, pdf);
+        }
+        QCOMPARE(pages, 3);
+    }
+
     // Where no printer is installed
 
     void WithoutAPrinterAPdfIsWritten()

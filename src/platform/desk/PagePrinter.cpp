@@ -31,6 +31,18 @@ namespace {
 constexpr QMarginsF PageMargins(15, 15, 15, 15); // millimetres
 constexpr int CharactersWide = 80;
 
+/// Margins can be set that leave nothing between them; the usual ones, or none, are better than a page without text.
+void LeaveRoom(QPagedPaintDevice &device)
+{
+    constexpr qreal leastRoom = 20; // millimetres either way
+    for (const QMarginsF &margins : {PageMargins, QMarginsF()}) {
+        const QRectF room = device.pageLayout().paintRect(QPageLayout::Millimeter);
+        if (room.width() >= leastRoom && room.height() >= leastRoom)
+            return;
+        device.setPageMargins(margins, QPageLayout::Millimeter);
+    }
+}
+
 QFont PageFont(const PrintFont &font, QPagedPaintDevice &device)
 {
     QFont result(font.Name);
@@ -166,6 +178,7 @@ QStringList SheetLines(const QStringList &lines, int columns)
 
 int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
 {
+    LeaveRoom(device);
     const QFont font = PageFont(job.Font, device);
     QPainter painter;
     if (!painter.begin(&device))
@@ -183,7 +196,7 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
     int pages = 1;
     qreal top = 0;
     for (const QString &line : SheetLines(lines, qMax(CharactersWide, int(width / column)))) {
-        if (top + metrics.height() > height) {
+        if (top > 0 && top + metrics.height() > height) { // a sheet takes one line at the least
             if (!device.newPage())
                 RaiseError(RuntimeError::DeviceError);
             ++pages;
