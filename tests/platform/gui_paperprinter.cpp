@@ -266,6 +266,56 @@ private Q_SLOTS:
         }
     }
 
+    // What the printer's properties set, asked about again and left as it is.
+    void TheSettingsOfThePropertiesHold()
+    {
+        const auto with = [](const std::function<void(QDialog &)> &act) {
+            return [act](QDialog &dialog) {
+                const AtDialog properties([&](QDialog &inner) {
+                    act(inner);
+                    Press(inner, QDialogButtonBox::Ok);
+                });
+                QTest::mouseClick(&Part<QPushButton>(dialog, u"properties"_s), Qt::LeftButton);
+            };
+        };
+        const auto set = [](QDialog &inner) {
+            QComboBox *colours = nullptr; // the toolkit gives those of the printer's own options no names
+            for (QComboBox *box : inner.findChildren<QComboBox *>())
+                if (box->findText(u"Gray"_s) >= 0)
+                    colours = box;
+            QVERIFY(colours);
+            colours->setCurrentText(u"Gray"_s);
+            Part<QSpinBox>(inner, u"jobPrioritySpinBox"_s).setValue(80);
+            Part<QComboBox>(inner, u"pagesPerSheetCombo"_s).setCurrentIndex(1);
+        };
+        const auto check = [&](const QByteArray &colour, int priority, int pages) {
+            const PrintedJob job = Print(u"Budget"_s);
+            QCOMPARE(job.Settings.value("ColorModel"), colour);
+            QCOMPARE(job.Number("job-priority"), priority);
+            QCOMPARE(job.Number("number-up"), pages);
+        };
+        QVERIFY(Choose(with(set)));
+        check("Gray", 80, 2);
+        for (int time = 0; time < 2; ++time) {
+            QVERIFY(Choose([](QDialog &) {}));
+            check("Gray", 80, 2);
+        }
+        // What the dialog itself sets is not held back by them.
+        QVERIFY(Choose([](QDialog &dialog) {
+            Part<QSpinBox>(dialog, u"copies"_s).setValue(3);
+            Part<QRadioButton>(dialog, u"duplexLong"_s).click();
+        }));
+        const PrintedJob job = Print(u"Budget"_s);
+        QCOMPARE(job.Number("copies"), 3);
+        QCOMPARE(job.Settings.value("sides"), "two-sided-long-edge");
+        QCOMPARE(job.Settings.value("ColorModel"), "Gray");
+        // Another printer has its own.
+        QVERIFY(Choose([](QDialog &dialog) { PrintersOf(dialog).setCurrentText(u"Attic"_s); }));
+        const PrintedJob other = Print(u"Budget"_s);
+        QVERIFY(other.Settings.value("ColorModel") != "Gray");
+        QVERIFY(other.Number("job-priority") != 80);
+    }
+
     // Switched off, or taken away: the pages are not lost.
     void APrinterThatWentLeavesAPdf_data()
     {

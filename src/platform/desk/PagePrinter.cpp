@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -271,6 +272,10 @@ bool IsFile(const QPrinter &printer)
     return printer.outputFormat() == QPrinter::PdfFormat;
 }
 
+/// Where the toolkit keeps what the properties set of the job and of the printer's own options; it has no name for it
+/// in public.
+constexpr auto JobOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+
 /// A printer to be asked about, which stands as `present` does, or null for the usual one.
 std::unique_ptr<QPrinter> CopyOf(const QPrinter *present, const QString &pdfPath)
 {
@@ -285,6 +290,7 @@ std::unique_ptr<QPrinter> CopyOf(const QPrinter *present, const QString &pdfPath
     if (present) {
         copy->setCopyCount(present->copyCount());
         copy->setCollateCopies(present->collateCopies());
+        copy->setColorMode(present->colorMode());
     }
     return copy;
 }
@@ -385,12 +391,16 @@ bool DocumentPrinter::Choose(QWidget *above)
         QDir().rmdir(m_pdfFolder); // the dialog only wants a folder that is there; printing makes it again
     if (!accepted)
         return false;
-    // The toolkit gives a printer the paper and the narrow margins that are usual for it, whatever it had before.
+    // The toolkit gives a printer the paper, the narrow margins and the options that are usual for it, whatever it had
+    // before.
     if (!IsFile(*asked) && !dialog.PaperIsSet()) {
-        if (asked->printerName() == before)
+        if (asked->printerName() == before) {
             asked->setPageLayout(layout);
-        else
+            if (m_chosen && !isFile)
+                asked->printEngine()->setProperty(JobOptions, m_chosen->printEngine()->property(JobOptions));
+        } else {
             asked->setPageMargins(PageMargins, QPageLayout::Millimeter);
+        }
     }
     m_chosen = std::move(asked);
     return true;
