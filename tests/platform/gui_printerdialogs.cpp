@@ -435,13 +435,70 @@ private Q_SLOTS:
         const AtDialog user([](QDialog &dialog) {
             const auto style = [&] { return ListOf(dialog, u"Font st&yle"_s).currentIndex().data().toString(); };
             ClickLine(dialog, u"&Font"_s, u"DejaVu Sans"_s);
-            ClickLine(dialog, u"Font st&yle"_s, u"ExtraLight"_s);
-            for (const QString &family : {u"Nimbus Sans"_s, u"URW Bookman"_s, u"DejaVu Serif"_s, u"Z003"_s}) {
+            ClickLine(dialog, u"Font st&yle"_s, u"Bold"_s);
+            for (const QString &family : {u"Z003"_s, u"DejaVu Math TeX Gyre"_s}) {
                 ClickLine(dialog, u"&Font"_s, family);
-                QVERIFY2(style() != u"ExtraLight"_s, qPrintable(family));
+                QVERIFY2(!style().contains(u"Bold"_s), qPrintable(family));
                 ClickLine(dialog, u"&Font"_s, u"DejaVu Sans"_s);
-                QVERIFY2(style() == u"ExtraLight"_s, qPrintable(family + u" before "_s + style()));
+                QVERIFY2(style() == u"Bold"_s, qPrintable(family + u" before "_s + style()));
             }
+            Press(dialog, QDialogButtonBox::Cancel);
+        });
+        TheDesk.AskFont();
+    }
+
+    // Documents know a family, bold and italic: a style that these do not bring back is none to choose.
+    void OnlyStylesThatPrintingKeepsAreOffered_data()
+    {
+        QTest::addColumn<QString>("family");
+        QTest::addColumn<QStringList>("styles");
+        const QStringList oblique{u"Bold"_s, u"Bold Oblique"_s, u"Book"_s, u"Oblique"_s};
+        QTest::newRow("narrow and thin ones") << u"DejaVu Sans"_s << oblique;
+        QTest::newRow("narrow ones") << u"DejaVu Serif"_s
+                                     << QStringList{u"Bold"_s, u"Bold Italic"_s, u"Book"_s, u"Italic"_s};
+        QTest::newRow("all can be had") << u"DejaVu Sans Mono"_s << oblique;
+        QTest::newRow("light is the plain one")
+            << u"URW Bookman"_s << QStringList{u"Demi"_s, u"Demi Italic"_s, u"Light"_s, u"Light Italic"_s};
+        QTest::newRow("a single style") << u"Z003"_s << QStringList{u"Medium Italic"_s};
+    }
+    void OnlyStylesThatPrintingKeepsAreOffered()
+    {
+        QFETCH(QString, family);
+        QFETCH(QStringList, styles);
+        const AtDialog user([&](QDialog &dialog) {
+            QListView &list = ListOf(dialog, u"Font st&yle"_s);
+            const auto shown = [&] {
+                QStringList lines;
+                for (int row = 0; row < list.model()->rowCount(); ++row)
+                    if (!list.isRowHidden(row))
+                        lines += list.model()->index(row, 0).data().toString();
+                lines.sort();
+                return lines;
+            };
+            ClickLine(dialog, u"&Font"_s, u"Nimbus Sans"_s);
+            ClickLine(dialog, u"&Font"_s, family);
+            QCOMPARE(shown(), styles);
+            // Nor are they reached by the keys.
+            list.setFocus();
+            for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_End,
+                                      Qt::Key_C, Qt::Key_E, Qt::Key_L, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_PageDown}) {
+                QTest::keyClick(&list, key);
+                QTest::qWait(1);
+                QVERIFY2(styles.contains(list.currentIndex().data().toString()), qPrintable(QString::number(key, 16)));
+            }
+            Press(dialog, QDialogButtonBox::Cancel);
+        });
+        TheDesk.AskFont();
+    }
+
+    void TheFontDialogOpensOnStylesThatPrintingKeeps()
+    {
+        const AtDialog user([](QDialog &dialog) {
+            const QListView &list = ListOf(dialog, u"Font st&yle"_s);
+            QVERIFY(!list.isRowHidden(list.currentIndex().row()));
+            for (int row = 0; row < list.model()->rowCount(); ++row)
+                if (!list.isRowHidden(row))
+                    QVERIFY(!list.model()->index(row, 0).data().toString().contains(u"Condensed"_s));
             Press(dialog, QDialogButtonBox::Cancel);
         });
         TheDesk.AskFont();

@@ -60,7 +60,18 @@ struct Look {
 
 Look LookOf(const QString &family, const QString &style)
 {
-    return {QFontDatabase::weight(family, style), QFontDatabase::italic(family, style)};
+    const QFont font = QFontDatabase::font(family, style, 10); // of any size; it counts oblique letters as italic
+    return {QFontDatabase::weight(family, style), font.italic()};
+}
+
+/// Whether documents come out in that style: a printing font knows a family, bold and italic, and no more of it.
+bool CanBePrinted(const QString &family, const QString &style)
+{
+    const Look look = LookOf(family, style);
+    QFont printed(family);
+    printed.setBold(look.Weight > QFont::Medium);
+    printed.setItalic(look.IsItalic);
+    return QFontInfo(printed).styleName() == style;
 }
 
 /// How far a style is from the look that is wanted; the smallest is the nearest. Slanted letters are never taken for
@@ -166,6 +177,7 @@ private:
         const QFont start = m_fonts.currentFont();
         m_look = {start.weight(), start.italic()};
         m_family = Text(*m_families);
+        OfferWhatIsPrinted();
         connect(m_families->selectionModel(), &QItemSelectionModel::currentChanged, this, &FontDialog::FamilyChanged);
         connect(m_styles->selectionModel(), &QItemSelectionModel::currentChanged, this, &FontDialog::StyleChanged);
 
@@ -182,9 +194,33 @@ private:
     void FamilyChanged()
     {
         m_family = Text(*m_families);
+        OfferWhatIsPrinted();
+        const Look wanted = m_look;
+        GoToNearest();
+        m_look = wanted; // a family without that look does not change what is wanted of the next one
+        m_size->setText(m_sizeText);
+    }
+
+    /// Hides the styles that a document would not be printed in, unless the family has no others.
+    void OfferWhatIsPrinted()
+    {
+        const QAbstractItemModel &styles = *m_styles->model();
+        QList<int> others;
+        for (int row = 0; row < styles.rowCount(); ++row)
+            if (!CanBePrinted(m_family, styles.index(row, 0).data().toString()))
+                others += row;
+        for (int row = 0; row < styles.rowCount(); ++row)
+            m_styles->setRowHidden(row, others.contains(row) && others.size() < styles.rowCount());
+    }
+
+    /// To the style in sight that is nearest to the look that is wanted.
+    void GoToNearest()
+    {
         const QAbstractItemModel &styles = *m_styles->model();
         int nearest = -1, least = 0;
         for (int row = 0; row < styles.rowCount(); ++row) {
+            if (m_styles->isRowHidden(row))
+                continue;
             const QString style = styles.index(row, 0).data().toString();
             const int distance = DistanceOf(m_family, style, m_look);
             if (nearest < 0 || distance < least) {
@@ -192,11 +228,8 @@ private:
                 least = distance;
             }
         }
-        const Look wanted = m_look;
         if (nearest >= 0)
             m_styles->setCurrentIndex(styles.index(nearest, 0));
-        m_look = wanted; // a family without that look does not change what is wanted of the next one
-        m_size->setText(m_sizeText);
     }
 
     void StyleChanged()
@@ -205,6 +238,8 @@ private:
         if (style.isEmpty() || Text(*m_families) != m_family)
             return; // the list is being filled for another family
         m_look = LookOf(m_family, style);
+        if (m_styles->isRowHidden(m_styles->currentIndex().row())) // typed letters find it all the same
+            return GoToNearest();
         m_size->setText(m_sizeText); // the toolkit has put its whole number there
     }
 
