@@ -12,6 +12,7 @@
 #include <QPrinterInfo>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -164,6 +165,63 @@ private Q_SLOTS:
                 QVERIFY(IsEnabled(dialog, "filename") && IsEnabled(dialog, "fileBrowser"));
                 PrintersOf(dialog).setCurrentText(u"Office"_s);
                 check(false);
+            },
+            QDialogButtonBox::Cancel);
+    }
+
+    // Copies and sides fold out; for a file nothing of them is to be set.
+    void TheOptionsFoldOutForAPrinterAlone()
+    {
+        Choose(
+            [](QDialog &dialog) {
+                QAbstractButton *more = nullptr;
+                const auto *buttons = dialog.findChild<QDialogButtonBox *>();
+                for (QAbstractButton *button : buttons->buttons())
+                    if (button->text().contains(u"Options"_s))
+                        more = button;
+                QVERIFY(more);
+                const auto areOut = [&] { return Part<QTabWidget>(dialog, u"tabs"_s).isVisible(); };
+                QComboBox &printers = PrintersOf(dialog);
+                QVERIFY(more->isEnabled() && !areOut());
+                printers.setCurrentIndex(printers.count() - 1);
+                QVERIFY(!more->isEnabled() && !areOut());
+                printers.setCurrentText(u"Office"_s);
+                QVERIFY(more->isEnabled() && !areOut());
+                more->click();
+                QVERIFY(areOut());
+                Part<QTabWidget>(dialog, u"tabs"_s).setCurrentIndex(1);
+                printers.setCurrentText(u"Attic"_s);
+                QVERIFY(more->isEnabled() && areOut());
+                printers.setCurrentIndex(printers.count() - 1);
+                QVERIFY(!more->isEnabled() && !areOut());
+            },
+            QDialogButtonBox::Cancel);
+    }
+
+    void APrinterHasJobOptionsAndAFileHasNone()
+    {
+        const auto hasJobOptions = [](QDialog &dialog) {
+            bool has = false;
+            const AtDialog properties([&](QDialog &inner) {
+                auto &tabs = Part<QTabWidget>(inner, u"tabs"_s);
+                for (int tab = 0; tab < tabs.count(); ++tab) {
+                    if (tabs.tabText(tab) == u"Job Options"_s)
+                        has = tabs.isTabEnabled(tab);
+                    else
+                        QVERIFY(tabs.isTabEnabled(tab) || tabs.tabText(tab) == u"Advanced"_s);
+                }
+                Press(inner, QDialogButtonBox::Cancel);
+            });
+            QTest::mouseClick(&Part<QPushButton>(dialog, u"properties"_s), Qt::LeftButton);
+            return has;
+        };
+        Choose(
+            [&](QDialog &dialog) {
+                QVERIFY(hasJobOptions(dialog));
+                PrintersOf(dialog).setCurrentIndex(PrintersOf(dialog).count() - 1);
+                QVERIFY(!hasJobOptions(dialog));
+                PrintersOf(dialog).setCurrentText(u"Office"_s);
+                QVERIFY(hasJobOptions(dialog));
             },
             QDialogButtonBox::Cancel);
     }

@@ -5,6 +5,7 @@
 #include "platform/values/Numbers.h"
 #include "platform/values/RuntimeError.h"
 
+#include <QChildEvent>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -24,6 +25,8 @@
 #include <QSaveFile>
 #include <QSet>
 #include <QStandardPaths>
+#include <QTabWidget>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -309,8 +312,12 @@ public:
         constexpr int leastWidth = 520; // or the path of a file is cut off
         setMinimumWidth(leastWidth);
         // Nothing is printed before a report's own button is pressed.
-        if (auto *buttons = findChild<QDialogButtonBox *>(); buttons && buttons->button(QDialogButtonBox::Ok))
+        if (auto *buttons = findChild<QDialogButtonBox *>(); buttons && buttons->button(QDialogButtonBox::Ok)) {
             buttons->button(QDialogButtonBox::Ok)->setText(u"OK"_s);
+            for (QAbstractButton *button : buttons->buttons())
+                if (buttons->buttonRole(button) == QDialogButtonBox::ResetRole)
+                    m_more = button;
+        }
         if (auto *properties = findChild<QPushButton *>(u"properties"_s))
             connect(properties, &QPushButton::clicked, this, [this] { // after the toolkit's dialog for them
                 const auto *inner = findChild<QDialog *>();
@@ -338,7 +345,26 @@ public:
         connect(printers, &QComboBox::currentIndexChanged, this, &PrinterDialog::OfferWhatCounts, Qt::UniqueConnection);
     }
 
+protected:
+    /// The dialog of the properties is made anew for each printer. A file is no job of a print server.
+    bool event(QEvent *event) override
+    {
+        const auto *properties = event->type() == QEvent::ChildPolished
+                                     ? qobject_cast<QDialog *>(static_cast<QChildEvent *>(event)->child())
+                                     : nullptr;
+        if (auto *tabs = properties ? properties->findChild<QTabWidget *>(u"tabs"_s) : nullptr)
+            if (auto *job = tabs->findChild<QWidget *>(u"QCupsJobWidget"_s))
+                tabs->setTabEnabled(tabs->indexOf(job), !IsFileChosen());
+        return QPrintDialog::event(event);
+    }
+
 private:
+    bool IsFileChosen() const
+    {
+        const auto *file = findChild<QLineEdit *>(u"filename"_s);
+        return file && file->isEnabled();
+    }
+
     void MarkSides(QPrinter::DuplexMode sides)
     {
         const QLatin1String name(sides == QPrinter::DuplexLongSide    ? "duplexLong"
@@ -357,15 +383,21 @@ private:
         };
         for (const char *part : {"gbPrintRange", "reverse"})
             enable(part, false);
-        const auto *file = findChild<QLineEdit *>(u"filename"_s);
-        const bool isFile = file && file->isEnabled();
+        const bool isFile = IsFileChosen();
         for (const char *part : {"copies", "collate", "colorMode", "duplex"})
             enable(part, !isFile);
         enable("fileBrowser", isFile);
+        if (!m_more)
+            return;
+        const auto tabs = findChildren<QTabWidget *>();
+        if (isFile && std::any_of(tabs.begin(), tabs.end(), [](const QTabWidget *part) { return part->isVisible(); }))
+            m_more->click(); // folds in what is grey for a file
+        m_more->setEnabled(!isFile);
     }
 
     const bool m_startsWithFile;
     bool m_paperIsSet = false;
+    QAbstractButton *m_more = nullptr; // "Options >>", which shows the job's settings
     const QString m_pdfPath;
 };
 
