@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPrinterInfo>
 #include <QRadioButton>
@@ -165,6 +166,25 @@ private Q_SLOTS:
                 QVERIFY(IsEnabled(dialog, "filename") && IsEnabled(dialog, "fileBrowser"));
                 PrintersOf(dialog).setCurrentText(u"Office"_s);
                 check(false);
+            },
+            QDialogButtonBox::Cancel);
+    }
+
+    void AFileIsSaidToBeOneOfAFolder()
+    {
+        Choose(
+            [](QDialog &dialog) {
+                const auto &note = Part<QLabel>(dialog, u"fileNote"_s);
+                QCOMPARE(note.text(), u"Each report becomes a new file in this folder."_s);
+                QVERIFY(!note.isVisible());
+                PrintersOf(dialog).setCurrentIndex(PrintersOf(dialog).count() - 1);
+                QVERIFY(note.isVisible());
+                QCoreApplication::processEvents(); // it finds its place below the field, and is not cut off
+                const QWidget &field = Part<QWidget>(dialog, u"filename"_s);
+                QVERIFY(note.mapToGlobal(QPoint()).y() >= field.mapToGlobal(QPoint(0, field.height())).y());
+                QVERIFY(note.width() >= note.sizeHint().width() && note.height() >= note.sizeHint().height());
+                PrintersOf(dialog).setCurrentText(u"Office"_s);
+                QVERIFY(!note.isVisible());
             },
             QDialogButtonBox::Cancel);
     }

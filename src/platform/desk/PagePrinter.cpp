@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -323,6 +325,13 @@ public:
                 const auto *inner = findChild<QDialog *>();
                 m_paperIsSet |= inner && inner->result() == Accepted;
             });
+        const auto *file = findChild<QLineEdit *>(u"filename"_s);
+        if (auto *grid = file ? qobject_cast<QGridLayout *>(file->parentWidget()->layout()) : nullptr) {
+            // The toolkit asks for one file; a name that is typed there counts for nothing.
+            auto *note = new QLabel(u"Each report becomes a new file in this folder."_s, file->parentWidget());
+            note->setObjectName(u"fileNote"_s);
+            grid->addWidget(note, grid->rowCount(), 1, 1, -1);
+        }
         if (present) // it starts with the sides that are usual for the printer, unless somebody clicks
             MarkSides(present->duplex());
     }
@@ -387,6 +396,8 @@ private:
         for (const char *part : {"copies", "collate", "colorMode", "duplex"})
             enable(part, !isFile);
         enable("fileBrowser", isFile);
+        if (auto *note = findChild<QLabel *>(u"fileNote"_s))
+            note->setVisible(isFile);
         if (!m_more)
             return;
         const auto tabs = findChildren<QTabWidget *>();
