@@ -2,7 +2,10 @@
 
 #include "foundation/State.h"
 #include "mainwindow/TestPage.h"
+#include "platform/desk/PrinterFont.h"
 #include "platform/values/RuntimeError.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -36,8 +39,24 @@ void SelectFont()
 
 frmPrinter::frmPrinter()
 {
-    OnClick(ui.cmdPrinterSelect, [] { Dialog(SelectPrinter); });
-    OnClick(ui.cmdFontSelect, [] { Dialog(SelectFont); });
+    ShowWhatHolds();
+    OnClick(ui.cmdPrinterSelect, [this] {
+        Dialog(SelectPrinter);
+        ShowWhatHolds();
+    });
+    OnClick(ui.cmdFontSelect, [this] {
+        Dialog(SelectFont);
+        ShowWhatHolds();
+    });
     OnClick(ui.cmdPrintTest, PrintTestPage); // whose failure is nobody's to tell here
     UnloadOn(ui.cmdDone);
+}
+
+/// The dialogs do not open on it, so the window says it.
+void frmPrinter::ShowWhatHolds()
+{
+    ui.lblPrinterNow->setText(u"Now: "_s + TheDesk.PrinterInUse());
+    ui.lblFontNow->setText(u"Now: "_s +
+                           NameOf({State.PrintFontName, State.PrintFontSize, State.PrintFontBold, State.PrintFontItalic,
+                                   State.PrintFontUnderline, State.PrintFontStrikethru, State.PrintFontColor}));
 }

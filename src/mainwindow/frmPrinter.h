@@ -8,4 +8,7 @@ class frmPrinter : public Window<Ui::frmPrinter>
 {
 public:
     frmPrinter();
+
+private:
+    void ShowWhatHolds();
 };

@@ -169,6 +169,32 @@ private Q_SLOTS:
         QVERIFY(Settings() == OtherFont);
     }
 
+    void ItSaysWhatHoldsNow()
+    {
+        GuiDesk desk;
+        desk.StartProgram();
+        desk.PrinterInUse = u"Office"_s;
+        Show(Window);
+        const QString printer = u"lblPrinterNow"_s, font = u"lblFontNow"_s;
+        QCOMPARE(TextOf(Window, printer), u"Now: Office"_s);
+        QCOMPARE(TextOf(Window, font), u"Now: Courier, 8 points, black"_s);
+        desk.PrinterAnswers = {true};
+        desk.PrinterInUse = u"PDF files in A & <b>B"_s;
+        Click(Window, PrinterSelect);
+        QCOMPARE(TextOf(Window, printer), u"Now: PDF files in A & <b>B"_s);
+        QCOMPARE(Find<QLabel>(Window, printer).textFormat(), Qt::PlainText);
+        QVERIFY(!Find<QLabel>(Window, printer).buddy()); // whose "&" would be an access key
+        desk.FontAnswers = {PrintFont{u"DejaVu Serif"_s, 10.5F, true, true, true, true, 0x0000FF}, std::nullopt,
+                            OtherFont};
+        const QString named = u"Now: DejaVu Serif, 10.5 points, bold, italic, underlined, struck out"_s;
+        for (const char *colour : {", red", ", red", ""}) { // red stands lowest; the last colour has no name
+            Click(Window, FontSelect);
+            QCOMPARE(TextOf(Window, font), named + QLatin1String(colour));
+        }
+        QCOMPARE(TextOf(Window, u"lblPrinterSelect"_s), u"The printer of all reports, with its paper and copies"_s);
+        QCOMPARE(TextOf(Window, u"lblFontSelect"_s), u"The font of all reports, with its size, style and color"_s);
+    }
+
     void AFailingDialogCountsAsACancelledOne()
     {
         GuiDesk desk;

@@ -145,6 +145,23 @@ private Q_SLOTS:
         QCOMPARE(job.Settings.value("media"), "A4"); // its own paper, and not that of the file
     }
 
+    void ItTellsWhereDocumentsGo()
+    {
+        QCOMPARE(m_printer->InUse(), u"Office"_s);
+        QVERIFY(Choose([](QDialog &dialog) { PrintersOf(dialog).setCurrentText(u"Attic"_s); }));
+        QCOMPARE(m_printer->InUse(), u"Attic"_s);
+        m_server->SetPresent(false);
+        QCOMPARE(m_printer->InUse(), u"PDF files in printed"_s);
+        m_server->SetPresent(true);
+        QVERIFY(Choose([&](QDialog &dialog) {
+            PrintersOf(dialog).setCurrentIndex(PrintersOf(dialog).count() - 1);
+            Part<QLineEdit>(dialog, u"filename"_s).setText(m_folder.path() + u"/any.pdf"_s);
+        }));
+        QCOMPARE(m_printer->InUse(), u"PDF files in "_s + QDir(m_folder.path()).dirName());
+        m_printer->Forget();
+        QCOMPARE(m_printer->InUse(), u"Office"_s);
+    }
+
     // A printer has copies and two sides; a file has not.
     void WhatIsOfferedFollowsThePrinter()
     {

@@ -81,6 +81,7 @@ RecordingDesk::RecordingDesk() : m_before(TheDesk)
         return next(FileAnswers);
     };
     TheDesk.AskPrinter = [this, next] { return next(PrinterAnswers); };
+    TheDesk.PrinterInUse = [this] { return PrinterInUse; };
     TheDesk.AskFont = [this, next] { return next(FontAnswers); };
     TheDesk.ShowHelp = [this](const HelpQuestion &question) { HelpQuestions += question; };
     TheDesk.PrintDocument = [this](const PrintJob &job) { Printed += job; };

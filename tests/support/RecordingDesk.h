@@ -52,8 +52,9 @@ public:
     bool Ended = false;
 
     // What it is answered
-    QList<Answer> Answers;                       ///< for boxes with Yes and No, in order
-    QStringList FileAnswers;                     ///< for file dialogs, in order
+    QList<Answer> Answers;   ///< for boxes with Yes and No, in order
+    QStringList FileAnswers; ///< for file dialogs, in order
+    QString PrinterInUse = QStringLiteral("PDF files in printed");
     QList<bool> PrinterAnswers;                  ///< for printer dialogs, in order: whether one is chosen
     QList<std::optional<PrintFont>> FontAnswers; ///< for font dialogs, in order; nothing: cancelled
     QList<double> RandomNumbers;                 ///< from 0 to below 1, drawn in order; 0 when there are no more

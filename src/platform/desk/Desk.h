@@ -51,6 +51,8 @@ struct Desk {
     std::function<void(const PrintJob &)> PrintDocument;
     /// The printer dialog: whether a printer was chosen, which every later document is printed on. False: cancelled.
     std::function<bool()> AskPrinter;
+    /// Where documents go at present: a printer's name, or "PDF files in printed".
+    std::function<QString()> PrinterInUse;
     /// The font dialog, which opens on a font of its own. Nothing: cancelled.
     std::function<std::optional<PrintFont>()> AskFont;
     std::function<QDateTime()> Now;

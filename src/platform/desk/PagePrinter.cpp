@@ -236,11 +236,15 @@ int DrawDocument(const PrintJob &job, QPagedPaintDevice &device)
 namespace {
 
 /// The default printer, or any where none is the default one; null where none is installed.
+QPrinterInfo UsualPrinterInfo()
+{
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    return info.isNull() ? QPrinterInfo::availablePrinters().value(0) : info;
+}
+
 std::unique_ptr<QPrinter> UsualPrinter()
 {
-    QPrinterInfo info = QPrinterInfo::defaultPrinter();
-    if (info.isNull())
-        info = QPrinterInfo::availablePrinters().value(0);
+    const QPrinterInfo info = UsualPrinterInfo();
     if (info.isNull())
         return nullptr;
     auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
@@ -452,6 +456,19 @@ bool DocumentPrinter::Choose(QWidget *above)
 void DocumentPrinter::Forget()
 {
     m_chosen.reset();
+}
+
+QString DocumentPrinter::InUse() const
+{
+    QString folder = m_pdfFolder;
+    if (m_chosen && IsFile(*m_chosen)) {
+        folder = QFileInfo(m_chosen->outputFileName()).path();
+    } else {
+        const auto info = m_chosen ? QPrinterInfo::printerInfo(m_chosen->printerName()) : UsualPrinterInfo();
+        if (!info.isNull())
+            return info.printerName();
+    }
+    return u"PDF files in %1"_s.arg(QDir(folder).dirName());
 }
 
 PrintedDocument DocumentPrinter::Print(const PrintJob &job)

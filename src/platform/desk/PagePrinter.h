@@ -30,6 +30,8 @@ public:
     /// Shows the printer dialog above a window. A printer or a file that is chosen there, with its paper and its
     /// copies, holds for every later document; false: cancelled, and nothing has changed.
     bool Choose(QWidget *above);
+    /// Where Print() prints to: the name of a printer that is there, or "PDF files in" and the folder's own name.
+    QString InUse() const;
     /// Prints to the printer that was chosen, or as PrintToPaperOrPdf() where there is none or it is not there any
     /// more; where a file was chosen, to a new PDF file beside it.
     PrintedDocument Print(const PrintJob &job);

@@ -262,6 +262,21 @@ private:
 
 } // namespace
 
+QString NameOf(const PrintFont &font)
+{
+    QStringList parts{font.Name, u"%1 points"_s.arg(double(font.Size))};
+    for (const auto &[isSet, name] : {std::pair{font.Bold, u"bold"_s},
+                                      {font.Italic, u"italic"_s},
+                                      {font.Underline, u"underlined"_s},
+                                      {font.Strikethru, u"struck out"_s}})
+        if (isSet)
+            parts += name;
+    for (const InkColour &colour : InkColours)
+        if (InkOf(QColor(colour.Rgb)) == font.Color)
+            parts += QString(QLatin1String(colour.Name)).toLower();
+    return parts.join(u", "_s);
+}
+
 std::optional<PrintFont> AskPrinterFont(QWidget *above)
 {
     FontDialog dialog(above);

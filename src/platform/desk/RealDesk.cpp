@@ -288,6 +288,7 @@ void InstallRealDesk(const QString &programTitle, const QString &printedFolder,
         TheWindows.WhileAway([&] { chosen = printer->Choose(DialogParent()); });
         return chosen;
     };
+    TheDesk.PrinterInUse = [printer] { return printer->InUse(); };
     TheDesk.AskFont = [] {
         std::optional<PrintFont> font;
         TheWindows.WhileAway([&] { font = AskPrinterFont(DialogParent()); });
