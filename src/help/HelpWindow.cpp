@@ -3,6 +3,7 @@
 #include "help/HelpBook.h"
 #include "help/HelpPages.h"
 
+#include <QEvent>
 #include <QHelpIndexWidget>
 #include <QHelpLink>
 #include <QHelpSearchEngine>

@@ -132,7 +132,9 @@ int main(int argc, char **argv)
         UseDesktop(dark, UsualFontSize);
         for (const QString &view : views)
             for (const Household household : {Household::Empty, Household::Filled})
-                missing += !TakePicture(view, household, dark, application.arguments().at(1));
+                if (household == Household::Filled ||
+                    !view.contains(u'.')) // a further panel shows the same with either
+                    missing += !TakePicture(view, household, dark, application.arguments().at(1));
         missing += !TakeHelpPictures(dark, application.arguments().at(1));
     }
     return missing == 0 ? 0 : 1;
