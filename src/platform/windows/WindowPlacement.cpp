@@ -66,10 +66,12 @@ protected:
         const QEvent::Type type = event->type();
         if (watched == &m_form && type == QEvent::Hide)
             deleteLater();
-        else if (watched == &m_form && type == QEvent::Resize)
+        const bool grows = watched == &m_form && type == QEvent::Resize;
+        // Of the caller no more than the address is looked at: it may be ending.
+        const bool callerSettles =
+            watched == m_caller && !m_callerStands && (type == QEvent::Move || type == QEvent::Resize);
+        if (grows || callerSettles)
             Follow();
-        else if ((type == QEvent::Move || type == QEvent::Resize) && watched == m_caller && !m_callerStands)
-            Follow(); // looked at by its address alone: it may be ending
         return false;
     }
 
