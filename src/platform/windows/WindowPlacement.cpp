@@ -66,10 +66,10 @@ protected:
         const QEvent::Type type = event->type();
         if (watched == &m_form && type == QEvent::Hide)
             deleteLater();
-        const bool grows = watched == &m_form && type == QEvent::Resize;
-        // Of the caller no more than the address is looked at: it may be ending.
+        const bool grows = type == QEvent::Resize && watched == &m_form;
+        // The event first: a caller that is ending still sends others, and is no window any more.
         const bool callerSettles =
-            watched == m_caller && !m_callerStands && (type == QEvent::Move || type == QEvent::Resize);
+            (type == QEvent::Move || type == QEvent::Resize) && !m_callerStands && watched == m_caller;
         if (grows || callerSettles)
             Follow();
         return false;
