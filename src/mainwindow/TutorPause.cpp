@@ -40,7 +40,13 @@ const QSet<QString> &PausingWindows()
 
 TutorPause::TutorPause(QTimer &timer) : m_timer(timer)
 {
-    connect(&TheWindows, &WindowRegister::WindowLoads, this, &TutorPause::Pause);
+    connect(&TheWindows, &WindowRegister::WindowLoads, this, [this](const QString &window) {
+        Pause(window);
+        // One that another window has loaded unseen may find the timer running again when it is shown at last.
+        connect(
+            TheWindows.Loaded(window), &Form::Appears, this, [this, window] { Pause(window); },
+            Qt::SingleShotConnection);
+    });
     connect(&TheWindows, &WindowRegister::WindowUnloads, this, &TutorPause::Resume);
 }
 

@@ -65,6 +65,27 @@ private Q_SLOTS:
         QVERIFY(!timer.isActive()); // a timer that was off stays off
     }
 
+    void OneThatWasLoadedUnseenPausesWhenItIsShown()
+    {
+        GuiDesk desk;
+        QTimer timer;
+        const TutorPause pause(timer);
+        timer.start(100000);
+        TheWindows.Touch(u"frmCreditors"_s);
+        TheWindows.Touch(u"frmRegulars"_s); // it found the timer stopped
+        TheWindows.Unload(u"frmCreditors"_s);
+        QVERIFY(timer.isActive());
+        Show(u"frmRegulars"_s);
+        QVERIFY(!timer.isActive());
+        timer.start(100000); // by the main window
+        TheWindows.Hide(u"frmRegulars"_s);
+        Show(u"frmRegulars"_s);
+        QVERIFY(timer.isActive()); // its load and its first showing count
+        timer.stop();
+        TheWindows.Unload(u"frmRegulars"_s);
+        QVERIFY(timer.isActive());
+    }
+
     void TwoWindowsTheOneThatStoppedItStartsIt()
     {
         GuiDesk desk;
