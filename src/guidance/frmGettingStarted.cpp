@@ -509,6 +509,11 @@ void frmGettingStarted::WorkIn(const QString &window, qint32 route, qint16 step,
     State.GuidedSetupRoute = route;
     State.GuidedSetupStep = step;
     m_tutorShown = true;
+    const Form *before = TheWindows.Loaded(window);
+    const bool stood = before && before->isVisible();
     TheWindows.Show(window);
+    // The load of the work window hides this one; one that was loaded unseen has had it earlier.
+    if (!stood && TheWindows.Loaded(window) && isVisible())
+        TheWindows.Hide(objectName());
     Q_EMIT TheTutorRequests.PageWanted(tutorPage);
 }

@@ -1686,6 +1686,24 @@ private Q_SLOTS:
         QVERIFY(!desk.TakeEnd());
     }
 
+    // A change to an item on the list fills the list's window unseen, in the middle of the route.
+    void AWorkWindowThatWasLoadedUnseenHidesTheGuide()
+    {
+        GuiDesk desk;
+        Begin(desk, u"mnuStartShopping"_s);
+        Click(Guide, u"cmdNextSS1"_s);
+        Click(Master, u"cmdExit"_s);
+        Click(Guide, u"cmdNextSS2"_s);
+        TheWindows.Touch(CurrentList);
+        Click(Master, u"cmdExit"_s);
+        Click(Guide, u"cmdNextSS3"_s);
+        QCOMPARE(ActiveWindow(), CurrentList);
+        QVERIFY(!IsShown(Guide));
+        Click(CurrentList, u"cmdQuit"_s);
+        QVERIFY(!TheWindows.Loaded(Guide));
+        QCOMPARE(ActiveWindow(), Main);
+    }
+
     void TheRoutesShowTheirPagesWhateverTheOption_data()
     {
         QTest::addColumn<QString>("option");
