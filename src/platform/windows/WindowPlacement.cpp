@@ -39,8 +39,9 @@ QPoint PlaceOf(const Form &form, const QSize &size, const Form &caller)
     return Placed(size + frame, around);
 }
 
-/// The first moments of a window: it may grow when it is filled, and its caller, shown just before, may still be put to
-/// its place by the window manager. This one is placed anew then. Where the user has moved it meanwhile, it stays.
+/// The first moments of a window: it may grow off the screen when it is filled, and its caller, shown just before, may
+/// still be put to its place by the window manager. This one is placed anew then, and only then: whoever is quick aims
+/// at it already. Where the user has moved it meanwhile, it stays.
 class PlaceFollower : public QObject
 {
 public:
@@ -54,7 +55,8 @@ public:
         connect(&m_rest, &QTimer::timeout, this, [this] {
             if (m_caller && m_caller->isVisible() && !m_caller->windowHandle()->isExposed())
                 return; // it is still on its way to the screen
-            Follow();
+            if (!m_callerStands)
+                Follow();
             deleteLater();
         });
         m_rest.start();
@@ -66,11 +68,11 @@ protected:
         const QEvent::Type type = event->type();
         if (watched == &m_form && type == QEvent::Hide)
             deleteLater();
-        const bool grows = type == QEvent::Resize && watched == &m_form;
+        const bool leavesTheScreen = type == QEvent::Resize && watched == &m_form && !IsOnTheScreen();
         // The event first: a caller that is ending still sends others, and is no window any more.
         const bool callerSettles =
             (type == QEvent::Move || type == QEvent::Resize) && !m_callerStands && watched == m_caller;
-        if (grows || callerSettles)
+        if (leavesTheScreen || callerSettles)
             Follow();
         return false;
     }
@@ -78,6 +80,13 @@ protected:
 private:
     static constexpr int SettlingTime = 400; // milliseconds, once the caller is on the screen
     static constexpr int ThickestFrame = 80; // pixels; as far a window is off while its own frame is put around it
+
+    /// With the frame, which may still have to come.
+    bool IsOnTheScreen() const
+    {
+        const QSize frame = m_caller ? m_caller->frameGeometry().size() - m_caller->geometry().size() : QSize();
+        return m_form.screen()->availableGeometry().contains(QRect(m_form.pos(), m_form.size() + frame));
+    }
 
     void Follow()
     {
